@@ -1,0 +1,112 @@
+#pragma once
+
+#include "model/AppUsageSession.h"
+#include "model/Project.h"
+#include "model/ProjectPhase.h"
+#include "model/Session.h"
+#include "model/StoreError.h"
+#include "model/TaskItem.h"
+#include "model/TaskResource.h"
+
+#include <QObject>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace norvin {
+
+class StoreConnection;
+
+/// Which records to fetch: those that start in [from, to); an invalid end is open.
+struct RecordQuery {
+    QDateTime from = {};
+    QDateTime to = {};
+    /// Only the sessions of this task; ignored for usage records.
+    std::optional<TaskId> task = {};
+};
+
+/// The working set of the store: every planning entity once, as an object, and the records as values. Changes
+/// reach the disk with save(), which the context calls itself at the end of the event-loop turn in which
+/// something changed. A save that fails keeps everything and is tried again with the next one.
+/// Main thread only.
+class ModelContext final : public QObject {
+    Q_OBJECT
+public:
+    /// Made by ModelContainer. The planning entities are in the context when this returns.
+    explicit ModelContext(std::unique_ptr<StoreConnection> connection);
+    ~ModelContext() override;
+
+    /// Takes the entity, and any unsaved entity that it refers to must be inserted too before the next save.
+    Project* insert(std::unique_ptr<Project> project);
+    ProjectPhase* insert(std::unique_ptr<ProjectPhase> phase);
+    TaskItem* insert(std::unique_ptr<TaskItem> task);
+    TaskResource* insert(std::unique_ptr<TaskResource> resource);
+    void insert(const Session& session);
+    void insert(const AppUsageSession& usage);
+
+    /// Deletes the entity by its delete rules: a project takes its tasks and phases along, a task its subtasks,
+    /// sessions and resources; the tasks of a phase stay without one. The objects live until the end of the
+    /// event-loop turn, with a null context().
+    void remove(Project& project);
+    void remove(ProjectPhase& phase);
+    void remove(TaskItem& task);
+    void remove(TaskResource& resource);
+    void remove(const SessionId& session);
+
+    /// All entities of a type in the order of their creation in this store.
+    [[nodiscard]] const std::vector<Project*>& projects() const;
+    [[nodiscard]] const std::vector<ProjectPhase*>& phases() const;
+    [[nodiscard]] const std::vector<TaskItem*>& tasks() const;
+    [[nodiscard]] const std::vector<TaskResource*>& resources() const;
+
+    /// The tasks for which `accept` holds, sorted by `before` where given (stable), else in store order.
+    [[nodiscard]] std::vector<TaskItem*>
+    fetchTasks(const std::function<bool(const TaskItem&)>& accept,
+               const std::function<bool(const TaskItem&, const TaskItem&)>& before = {}) const;
+    /// Null when there is no such task; the same for project().
+    [[nodiscard]] TaskItem* task(TaskId id) const;
+    [[nodiscard]] Project* project(ProjectId id) const;
+
+    /// Records by ascending start, those not yet saved included. A read error is logged and gives what was read.
+    [[nodiscard]] QList<Session> fetchSessions(const RecordQuery& query = {}) const;
+    [[nodiscard]] QList<AppUsageSession> fetchAppUsage(const RecordQuery& query = {}) const;
+
+    /// Writes all changes in one transaction.
+    /// @return none on success; on failure the changes stay for the next save
+    [[nodiscard]] StoreResult save();
+    [[nodiscard]] bool hasChanges() const;
+
+Q_SIGNALS:
+    void projectInserted(norvin::Project* project);
+    void phaseInserted(norvin::ProjectPhase* phase);
+    void taskInserted(norvin::TaskItem* task);
+    void resourceInserted(norvin::TaskResource* resource);
+    /// A property of the entity changed.
+    void projectChanged(norvin::Project* project);
+    void phaseChanged(norvin::ProjectPhase* phase);
+    void taskChanged(norvin::TaskItem* task);
+    void resourceChanged(norvin::TaskResource* resource);
+    /// The entity is about to leave the context; it is still whole.
+    void projectAboutToBeRemoved(norvin::Project* project);
+    void phaseAboutToBeRemoved(norvin::ProjectPhase* phase);
+    void taskAboutToBeRemoved(norvin::TaskItem* task);
+    void resourceAboutToBeRemoved(norvin::TaskResource* resource);
+    void sessionInserted(const norvin::Session& session);
+    /// Sessions were removed, on their own or with their task.
+    void sessionsRemoved();
+    void appUsageInserted(const norvin::AppUsageSession& usage);
+    /// Everything up to now is on the disk.
+    void saved();
+    void saveFailed(const norvin::StoreError& error);
+
+private:
+    friend class Entity;
+    void entityTouched(Entity& entity);
+
+    class Private;
+    std::unique_ptr<Private> d;
+};
+
+} // namespace norvin

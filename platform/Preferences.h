@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <QVariant>
+
+#include <optional>
+
+namespace norvin {
+
+/// The user's settings, as keys and values. Main thread only.
+class Preferences : public QObject {
+    Q_OBJECT
+public:
+    using QObject::QObject;
+
+    /// The stored value; none when nothing is stored under the key. Text files hold text: ask for the type
+    /// that is wanted with QVariant's conversions and treat a value that does not convert as absent.
+    [[nodiscard]] virtual std::optional<QVariant> value(const QString& key) const = 0;
+
+    /// Stores the value at once. A failure to write is logged and kept in memory until the next change.
+    virtual void setValue(const QString& key, const QVariant& value) = 0;
+
+    /// Forgets the key.
+    virtual void remove(const QString& key) = 0;
+
+Q_SIGNALS:
+    /// A value was stored or forgotten.
+    void changed(const QString& key);
+};
+
+} // namespace norvin

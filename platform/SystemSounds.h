@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/Availability.h"
+
+#include <QObject>
+#include <QString>
+
+namespace norvin {
+
+/// One-shot sounds of the desktop, known by name: "Ping", "Blow", "Bottle", "Pop", "Glass", "Submarine".
+/// Main thread only; a call never waits for the sound server.
+class SystemSounds : public QObject {
+    Q_OBJECT
+public:
+    using QObject::QObject;
+
+    [[nodiscard]] virtual Availability availability() const = 0;
+
+    /// Plays a sound once; an unknown name, and any sound while unavailable, is dropped.
+    /// @param volume 0.0 (silent) to 1.0 (as loud as the desktop plays its own)
+    virtual void play(const QString& name, double volume) = 0;
+
+    /// The short sound by which the desktop says no.
+    virtual void beep() = 0;
+
+Q_SIGNALS:
+    void availabilityChanged();
+};
+
+} // namespace norvin
