@@ -1,5 +1,7 @@
 #include "platform/Clock.h"
 
+#include <QTimeZone>
+
 namespace norvin {
 
 QDateTime startOfDay(const QDateTime& instant) {
