@@ -13,7 +13,8 @@ class EntityId final {
 public:
     /// The null id, which no stored entity has.
     constexpr EntityId() = default;
-    explicit constexpr EntityId(const QUuid& uuid) : m_uuid(uuid) {}
+    explicit constexpr EntityId(const QUuid& uuid)
+        : m_uuid(uuid) {}
 
     [[nodiscard]] static EntityId create() { return EntityId(QUuid::createUuid()); }
 

@@ -46,9 +46,9 @@ public:
     void insert(const Session& session);
     void insert(const AppUsageSession& usage);
 
-    /// Deletes the entity by its delete rules: a project takes its tasks and phases along, a task its subtasks,
-    /// sessions and resources; the tasks of a phase stay without one. The objects live until the end of the
-    /// event-loop turn, with a null context().
+    /// Deletes the entity by its delete rules: a project takes its tasks and phases along, a task its
+    /// subtasks, sessions and resources; the tasks of a phase stay without one. The objects live until the
+    /// end of the event-loop turn, with a null context().
     void remove(Project& project);
     void remove(ProjectPhase& phase);
     void remove(TaskItem& task);
@@ -69,7 +69,8 @@ public:
     [[nodiscard]] TaskItem* task(TaskId id) const;
     [[nodiscard]] Project* project(ProjectId id) const;
 
-    /// Records by ascending start, those not yet saved included. A read error is logged and gives what was read.
+    /// Records by ascending start, those not yet saved included. A read error is logged and gives what was
+    /// read.
     [[nodiscard]] QList<Session> fetchSessions(const RecordQuery& query = {}) const;
     [[nodiscard]] QList<AppUsageSession> fetchAppUsage(const RecordQuery& query = {}) const;
 

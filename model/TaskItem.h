@@ -24,7 +24,8 @@ using TaskId = EntityId<TaskItem>;
 class TaskItem final : public Entity {
     Q_OBJECT
     Q_PROPERTY(QString title READ title WRITE setTitle NOTIFY titleChanged)
-    Q_PROPERTY(QString taskDescription READ taskDescription WRITE setTaskDescription NOTIFY taskDescriptionChanged)
+    Q_PROPERTY(
+        QString taskDescription READ taskDescription WRITE setTaskDescription NOTIFY taskDescriptionChanged)
     Q_PROPERTY(QString statusValue READ statusValue NOTIFY statusChanged)
     Q_PROPERTY(bool isDone READ isDone NOTIFY statusChanged)
     Q_PROPERTY(int priorityValue READ priorityValue NOTIFY priorityChanged)
@@ -94,10 +95,11 @@ public:
     /// Not done, and the day of the date is over at `now`.
     [[nodiscard]] bool isOverdue(const QDateTime& now) const;
     [[nodiscard]] bool isPlannedLate(const QDateTime& now) const;
-    /// None without a date; the localisation key "today" or "tomorrow" for those days, else a short date in the
-    /// format of `locale`.
+    /// None without a date; the localisation key "today" or "tomorrow" for those days, else a short date in
+    /// the format of `locale`.
     [[nodiscard]] std::optional<QString> formattedDueDate(const QDateTime& now, const QLocale& locale) const;
-    [[nodiscard]] std::optional<QString> formattedPlannedDate(const QDateTime& now, const QLocale& locale) const;
+    [[nodiscard]] std::optional<QString> formattedPlannedDate(const QDateTime& now,
+                                                              const QLocale& locale) const;
 
 Q_SIGNALS:
     void titleChanged();

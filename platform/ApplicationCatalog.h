@@ -36,7 +36,8 @@ public:
     [[nodiscard]] virtual std::optional<InstalledApplication>
     application(const QString& bundleIdentifier) const = 0;
 
-    /// Whether this program runs from a prefix that holds its desktop entry (it was installed, not just built).
+    /// Whether this program runs from a prefix that holds its desktop entry (it was installed, not just
+    /// built).
     [[nodiscard]] virtual bool isOwnApplicationInstalled() const = 0;
 };
 

@@ -32,8 +32,8 @@ public:
     /// Wall-clock time in the user's current time zone. May jump in either direction.
     [[nodiscard]] virtual QDateTime now() const = 0;
 
-    /// Calls `fire` once for every whole `interval` that has passed on the monotonic clock: a main thread that
-    /// stood still gets the firings it missed, a suspended machine gets none for the time it slept.
+    /// Calls `fire` once for every whole `interval` that has passed on the monotonic clock: a main thread
+    /// that stood still gets the firings it missed, a suspended machine gets none for the time it slept.
     /// @param interval at least 1 ms
     [[nodiscard]] virtual std::unique_ptr<ClockTimer> every(std::chrono::milliseconds interval,
                                                             std::function<void()> fire) = 0;

@@ -44,8 +44,8 @@ public:
     /// The applications with ordinary windows, each once, in no particular order.
     [[nodiscard]] virtual std::vector<RunningApplication> runningApplications() const = 0;
 
-    /// Takes all windows of the application off the screen without ending it. Returns at once; the desktop may
-    /// take a moment, or refuse.
+    /// Takes all windows of the application off the screen without ending it. Returns at once; the desktop
+    /// may take a moment, or refuse.
     virtual void hide(const RunningApplication& application) = 0;
 
     /// Brings all windows of this program to the front, opening them where they are closed or minimised.

@@ -16,7 +16,9 @@ struct FakeClock::State {
 
 class FakeClock::Timer final : public ClockTimer {
 public:
-    Timer(std::shared_ptr<State> state, quint64 id) : m_state(std::move(state)), m_id(id) {}
+    Timer(std::shared_ptr<State> state, quint64 id)
+        : m_state(std::move(state))
+        , m_id(id) {}
     ~Timer() override { m_state->entries.erase(m_id); }
 
 private:
@@ -24,7 +26,9 @@ private:
     quint64 m_id;
 };
 
-FakeClock::FakeClock(const QDateTime& now) : m_state(std::make_shared<State>()), m_now(now) {}
+FakeClock::FakeClock(const QDateTime& now)
+    : m_state(std::make_shared<State>())
+    , m_now(now) {}
 
 FakeClock::~FakeClock() = default;
 
@@ -65,8 +69,12 @@ void FakeClock::advance(milliseconds duration) {
     m_monotonic = end;
 }
 
-void FakeClock::suspend(milliseconds duration) { m_now = m_now.addMSecs(duration.count()); }
+void FakeClock::suspend(milliseconds duration) {
+    m_now = m_now.addMSecs(duration.count());
+}
 
-int FakeClock::activeTimers() const { return static_cast<int>(m_state->entries.size()); }
+int FakeClock::activeTimers() const {
+    return static_cast<int>(m_state->entries.size());
+}
 
 } // namespace norvin
