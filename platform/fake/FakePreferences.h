@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/Preferences.h"
+
+#include <QHash>
+
+namespace norvin {
+
+/// Settings in memory, gone with the object. Values keep their types.
+class FakePreferences final : public Preferences {
+    Q_OBJECT
+public:
+    using Preferences::Preferences;
+
+    [[nodiscard]] std::optional<QVariant> value(const QString& key) const override {
+        const auto it = m_values.constFind(key);
+        return it == m_values.constEnd() ? std::nullopt : std::optional(*it);
+    }
+    void setValue(const QString& key, const QVariant& value) override {
+        m_values.insert(key, value);
+        Q_EMIT changed(key);
+    }
+    void remove(const QString& key) override {
+        if (m_values.remove(key))
+            Q_EMIT changed(key);
+    }
+
+    [[nodiscard]] const QHash<QString, QVariant>& values() const { return m_values; }
+
+private:
+    QHash<QString, QVariant> m_values;
+};
+
+} // namespace norvin
