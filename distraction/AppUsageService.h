@@ -81,6 +81,9 @@ private:
     [[nodiscard]] bool isWhitelistedBrowser(const RunningApplication& app) const;
     [[nodiscard]] Verdict verdictForApplication(const RunningApplication& app) const;
     [[nodiscard]] Verdict verdictForDomain(const RunningApplication& browser) const;
+    [[nodiscard]] int openApplicationSeconds() const;
+    [[nodiscard]] int openDomainSeconds() const;
+    void forgetIntervals();
     void handleSwitch(const RunningApplication& app);
     void handleFrontmostLost();
     void handleWake();
@@ -100,6 +103,7 @@ private:
     std::optional<Moment> m_startTime;
     std::optional<QString> m_currentBrowserDomain;
     std::optional<Moment> m_browserDomainStartTime;
+    int m_secondsCountedByDomain = 0; // of the open application interval
     int m_sessionLegitimateTime = 0;
     int m_sessionDistractedTime = 0;
     CurrentActivityStatus m_currentActivityStatus;

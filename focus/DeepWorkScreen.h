@@ -162,7 +162,7 @@ Q_SIGNALS:
 private:
     [[nodiscard]] TaskItem* taskToStartWith() const;
     void refreshMetrics();
-    void countInactivity();
+    void countSecond();
     void moveOnFrom(TaskItem* doneTask);
 
     PomodoroTimerService& m_timer;

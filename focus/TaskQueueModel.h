@@ -1,8 +1,8 @@
 #pragma once
 
 #include <QAbstractListModel>
+#include <QHash>
 #include <QList>
-#include <QSet>
 
 namespace norvin {
 
@@ -54,11 +54,12 @@ private:
     [[nodiscard]] QList<Row> wantedRows() const;
     void synchronise();
     void follow(TaskItem* task);
-    void refreshTask(TaskItem* task);
+    void unfollow(TaskItem* task);
+    void refreshTask(const TaskItem* task);
 
     PomodoroTimerService& m_timer;
     QList<Row> m_rows;
-    QSet<TaskItem*> m_followed;
+    QHash<TaskItem*, QList<QMetaObject::Connection>> m_followed;
     int m_taskCount = 0;
 };
 
