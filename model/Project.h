@@ -25,10 +25,10 @@ class Project final : public Entity {
 public:
     struct Init {
         ProjectId id = ProjectId::create();
-        QString name;
-        QString projectDescription;
-        QString colorHex;
-        QString emoji;
+        QString name = {};
+        QString projectDescription = {};
+        QString colorHex = {};
+        QString emoji = {};
         QDateTime createdAt = QDateTime::currentDateTime();
     };
     explicit Project(const Init& init);

@@ -23,7 +23,7 @@ class ProjectPhase final : public Entity {
 public:
     struct Init {
         ProjectPhaseId id = ProjectPhaseId::create();
-        QString name;
+        QString name = {};
         int orderIndex = 0;
         Project* project = nullptr;
         QDateTime createdAt = QDateTime::currentDateTime();

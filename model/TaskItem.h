@@ -33,13 +33,13 @@ public:
     /// Values of a new task. The defaults are those of a task typed with nothing but a title.
     struct Init {
         TaskId id = TaskId::create();
-        QString title;
-        QString taskDescription;
+        QString title = {};
+        QString taskDescription = {};
         TaskStatus status = TaskStatus::todo;
         TaskPriority priority = TaskPriority::medium;
         /// Invalid for none, here and in plannedDate.
-        QDateTime dueDate;
-        QDateTime plannedDate;
+        QDateTime dueDate = {};
+        QDateTime plannedDate = {};
         QDateTime createdAt = QDateTime::currentDateTime();
         Project* project = nullptr;
         ProjectPhase* phase = nullptr;

@@ -23,10 +23,10 @@ class TaskResource final : public Entity {
 public:
     struct Init {
         TaskResourceId id = TaskResourceId::create();
-        QString name;
-        QString fileType;
+        QString name = {};
+        QString fileType = {};
         /// Turned into fileURLData; none for an attachment without a file.
-        std::optional<QUrl> fileURL;
+        std::optional<QUrl> fileURL = {};
         QDateTime createdAt = QDateTime::currentDateTime();
     };
     explicit TaskResource(const Init& init);
