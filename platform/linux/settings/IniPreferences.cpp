@@ -1,0 +1,84 @@
+#include "platform/linux/settings/IniPreferences.h"
+
+#include "platform/Log.h"
+
+#include <QFile>
+#include <QSettings>
+#include <QStandardPaths>
+
+namespace norvin {
+
+QString IniPreferences::defaultPath() {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+           QStringLiteral("/norvin-focus/preferences.ini");
+}
+
+IniPreferences::IniPreferences(const QString& path, QObject* parent)
+    : Preferences(parent)
+    , m_path(path) {
+    open();
+    if (m_settings->status() == QSettings::FormatError) {
+        setDamagedFileAside();
+        open();
+    } else if (m_settings->status() == QSettings::AccessError) {
+        logLine(QStringLiteral("IniPreferences: Cannot read %1").arg(m_path));
+    }
+}
+
+IniPreferences::~IniPreferences() = default;
+
+void IniPreferences::open() {
+    // The old object goes first: QSettings shares what it has read between objects of one file.
+    m_settings.reset();
+    m_settings = std::make_unique<QSettings>(m_path, QSettings::IniFormat);
+    m_settings->setFallbacksEnabled(false);
+}
+
+void IniPreferences::setDamagedFileAside() {
+    m_settings.reset();
+    QString aside = m_path + QStringLiteral(".damaged");
+    for (int number = 2; QFile::exists(aside); ++number)
+        aside = QStringLiteral("%1.damaged.%2").arg(m_path).arg(number);
+    if (QFile::rename(m_path, aside))
+        logLine(QStringLiteral("IniPreferences: %1 is damaged; kept as %2, starting with defaults")
+                    .arg(m_path, aside));
+    else
+        logLine(QStringLiteral("IniPreferences: %1 is damaged and cannot be set aside").arg(m_path));
+}
+
+std::optional<QVariant> IniPreferences::value(const QString& key) const {
+    if (!m_settings->contains(key))
+        return std::nullopt;
+    return m_settings->value(key);
+}
+
+void IniPreferences::setValue(const QString& key, const QVariant& value) {
+    m_settings->setValue(key, value);
+    write();
+    Q_EMIT changed(key);
+}
+
+void IniPreferences::remove(const QString& key) {
+    if (!m_settings->contains(key))
+        return;
+    m_settings->remove(key);
+    write();
+    Q_EMIT changed(key);
+}
+
+void IniPreferences::write() {
+    // A QSettings keeps its first error for good. A second object over the same file takes over what the
+    // first could not write, as long as both exist for a moment, and starts with a clean status.
+    if (m_settings->status() != QSettings::NoError) {
+        auto fresh = std::make_unique<QSettings>(m_path, QSettings::IniFormat);
+        fresh->setFallbacksEnabled(false);
+        m_settings = std::move(fresh);
+    }
+    m_settings->sync();
+    const bool failed = m_settings->status() != QSettings::NoError;
+    if (failed && !m_writeFailureLogged)
+        logLine(QStringLiteral("IniPreferences: Cannot write %1; settings are kept in memory").arg(m_path));
+    m_writeFailureLogged = failed;
+}
+
+} // namespace norvin
