@@ -8,6 +8,16 @@
 
 namespace norvin {
 
+namespace {
+
+// What a power cut may leave of a file; QSettings would read it as an empty one.
+bool holdsZeros(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && file.readAll().contains('\0');
+}
+
+} // namespace
+
 QString IniPreferences::defaultPath() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
            QStringLiteral("/norvin-focus/preferences.ini");
@@ -16,10 +26,14 @@ QString IniPreferences::defaultPath() {
 IniPreferences::IniPreferences(const QString& path, QObject* parent)
     : Preferences(parent)
     , m_path(path) {
+    if (holdsZeros(m_path))
+        setDamagedFileAside();
     open();
     if (m_settings->status() == QSettings::FormatError) {
         setDamagedFileAside();
         open();
+        // QSettings remembers what it could read of the file that was there.
+        m_settings->clear();
     } else if (m_settings->status() == QSettings::AccessError) {
         logLine(QStringLiteral("IniPreferences: Cannot read %1").arg(m_path));
     }
@@ -28,8 +42,6 @@ IniPreferences::IniPreferences(const QString& path, QObject* parent)
 IniPreferences::~IniPreferences() = default;
 
 void IniPreferences::open() {
-    // The old object goes first: QSettings shares what it has read between objects of one file.
-    m_settings.reset();
     m_settings = std::make_unique<QSettings>(m_path, QSettings::IniFormat);
     m_settings->setFallbacksEnabled(false);
 }
