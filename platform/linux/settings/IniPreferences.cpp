@@ -44,6 +44,8 @@ IniPreferences::~IniPreferences() = default;
 void IniPreferences::open() {
     m_settings = std::make_unique<QSettings>(m_path, QSettings::IniFormat);
     m_settings->setFallbacksEnabled(false);
+    // Sections are parsed when they are first asked for; errors show only then.
+    static_cast<void>(m_settings->allKeys());
 }
 
 void IniPreferences::setDamagedFileAside() {
