@@ -27,19 +27,22 @@ struct RunningApplication {
     bool operator==(const RunningApplication&) const = default;
 };
 
-/// The desktop as a set of applications. Main thread only; no call waits longer than one round trip to the
-/// display server.
+/// The desktop as a set of applications. Main thread only; a call waits for the display server at most, never
+/// for another program.
 class Workspace : public QObject {
     Q_OBJECT
 public:
     using QObject::QObject;
 
-    /// Whether the frontmost application can be known here. While it cannot, the other calls do nothing and
-    /// answer nothing.
+    /// Whether the frontmost application can be known here. While it cannot, the other calls answer and hide
+    /// nothing; own windows are brought forward as far as the desktop lets them.
     [[nodiscard]] virtual Availability availability() const = 0;
 
     /// The application that has the keyboard; none when no window is in front or when it cannot be known.
     [[nodiscard]] virtual std::optional<RunningApplication> frontmostApplication() const = 0;
+
+    /// Title of the window that has the keyboard; none when no window has it or when it cannot be known.
+    [[nodiscard]] virtual std::optional<QString> frontmostWindowTitle() const = 0;
 
     /// The applications with ordinary windows, each once, in no particular order.
     [[nodiscard]] virtual std::vector<RunningApplication> runningApplications() const = 0;

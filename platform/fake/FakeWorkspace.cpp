@@ -10,6 +10,10 @@ std::optional<RunningApplication> FakeWorkspace::frontmostApplication() const {
     return m_availability.isAvailable() ? m_frontmost : std::nullopt;
 }
 
+std::optional<QString> FakeWorkspace::frontmostWindowTitle() const {
+    return m_availability.isAvailable() && m_frontmost ? m_frontmostWindowTitle : std::nullopt;
+}
+
 std::vector<RunningApplication> FakeWorkspace::runningApplications() const {
     return m_availability.isAvailable() ? m_running : std::vector<RunningApplication>();
 }
@@ -20,8 +24,7 @@ void FakeWorkspace::hide(const RunningApplication& application) {
 }
 
 void FakeWorkspace::activateOwnApplication() {
-    if (m_availability.isAvailable())
-        ++m_ownActivations;
+    ++m_ownActivations;
 }
 
 RunningApplication FakeWorkspace::makeApplication(const QString& bundleIdentifier, const QString& name,

@@ -13,6 +13,7 @@ public:
 
     [[nodiscard]] Availability availability() const override { return m_availability; }
     [[nodiscard]] std::optional<RunningApplication> frontmostApplication() const override;
+    [[nodiscard]] std::optional<QString> frontmostWindowTitle() const override;
     [[nodiscard]] std::vector<RunningApplication> runningApplications() const override;
     /// Recorded in hiddenApplications(); the application stays in front until the test moves it.
     void hide(const RunningApplication& application) override;
@@ -27,6 +28,8 @@ public:
     /// Brings an application to the front, adds it to the running ones, and emits applicationActivated()
     /// unless it was in front already.
     void setFrontmost(const RunningApplication& application);
+    /// Title of the window in front, whichever application it belongs to; none unless set.
+    void setFrontmostWindowTitle(std::optional<QString> title) { m_frontmostWindowTitle = std::move(title); }
     /// Empties the front and emits frontmostApplicationLost() if it was not empty.
     void clearFrontmost();
     void setRunningApplications(std::vector<RunningApplication> applications);
@@ -43,6 +46,7 @@ public:
 private:
     Availability m_availability = Availability::available();
     std::optional<RunningApplication> m_frontmost;
+    std::optional<QString> m_frontmostWindowTitle;
     std::vector<RunningApplication> m_running;
     std::vector<RunningApplication> m_hiddenApplications;
     int m_ownActivations = 0;

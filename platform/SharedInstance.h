@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QtGlobal>
+
+#include <functional>
+#include <memory>
+
+namespace norvin {
+
+/// The one instance of a process-wide service, made on first use by a factory that start-up has set.
+/// Everything but start-up is handed the services that it needs; nothing else asks here. Main thread only.
+template <class Service>
+class SharedInstance final {
+public:
+    static void setFactory(std::function<std::unique_ptr<Service>()> factory) {
+        slot().factory = std::move(factory);
+    }
+
+    [[nodiscard]] static Service& get() {
+        Slot& own = slot();
+        if (!own.instance) {
+            Q_ASSERT_X(own.factory, "SharedInstance", "asked for before start-up said how to make it");
+            own.instance = own.factory();
+        }
+        return *own.instance;
+    }
+
+    /// Ends the instance and forgets how to make one.
+    static void reset() {
+        slot().instance.reset();
+        slot().factory = {};
+    }
+
+private:
+    struct Slot {
+        std::function<std::unique_ptr<Service>()> factory;
+        std::unique_ptr<Service> instance;
+    };
+    static Slot& slot() {
+        static Slot own;
+        return own;
+    }
+};
+
+} // namespace norvin
