@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/SharedInstance.h"
 #include "platform/Workspace.h"
 
 #include <QMap>
@@ -26,6 +27,9 @@ public:
     AppBlockerService(Preferences& preferences, Workspace& workspace, SystemSounds& sounds,
                       QObject* parent = nullptr);
     ~AppBlockerService() override;
+
+    /// The process-wide instance, for start-up and the registration of the window's types.
+    [[nodiscard]] static AppBlockerService& shared() { return SharedInstance<AppBlockerService>::get(); }
 
     [[nodiscard]] const QSet<QString>& blockedAppBundleIDs() const { return m_blockedAppBundleIDs; }
     [[nodiscard]] const QSet<QString>& whitelistedAppBundleIDs() const { return m_whitelistedAppBundleIDs; }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "distraction/CurrentActivityStatus.h"
+#include "platform/SharedInstance.h"
 #include "platform/Workspace.h"
 
 #include <QDateTime>
@@ -38,6 +39,9 @@ public:
     AppUsageService(Clock& clock, Workspace& workspace, AppBlockerService& blocker,
                     QObject* parent = nullptr);
     ~AppUsageService() override;
+
+    /// The process-wide instance, for start-up and the registration of the window's types.
+    [[nodiscard]] static AppUsageService& shared() { return SharedInstance<AppUsageService>::get(); }
 
     /// Nothing is counted or recorded by application without a context.
     void setModelContext(ModelContext* context) { m_modelContext = context; }

@@ -175,6 +175,21 @@ DeepWorkScreen::Refusal DeepWorkScreen::startPhase(PomodoroPhase phase, std::opt
     return std::nullopt;
 }
 
+DeepWorkScreen::Refusal DeepWorkScreen::startPhaseWith(const QString& taskTitle, PomodoroPhase phase,
+                                                       std::optional<int> minutes) {
+    if (isUnderWay(m_timer.state()))
+        return QStringLiteral("refused_start_already_running");
+    const QString title = taskTitle.simplified();
+    if (!title.isEmpty()) {
+        TaskItem* task = openTaskTitled(title);
+        if (!task)
+            task = makeTask(title);
+        m_timer.addTaskToQueue(task);
+        m_timer.setActiveTask(task);
+    }
+    return startPhase(phase, minutes);
+}
+
 DeepWorkScreen::Refusal DeepWorkScreen::pauseSession() {
     if (m_timer.state() != TimerState::running)
         return QStringLiteral("refused_pause_not_running");
@@ -200,11 +215,27 @@ DeepWorkScreen::Refusal DeepWorkScreen::addTaskTitled(const QString& title) {
     const QString text = title.simplified();
     if (text.isEmpty())
         return QStringLiteral("refused_task_title_empty");
-    TaskItem* task = m_context.insert(std::make_unique<TaskItem>(TaskItem::Init{.title = text}));
+    TaskItem* task = makeTask(text);
     m_timer.addTaskToQueue(task);
     if (isUnderWay(m_timer.state()) && !m_timer.activeTask())
         m_timer.setActiveTask(task);
     return std::nullopt;
+}
+
+TaskItem* DeepWorkScreen::makeTask(const QString& title) {
+    return m_context.insert(std::make_unique<TaskItem>(TaskItem::Init{.title = title}));
+}
+
+TaskItem* DeepWorkScreen::openTaskTitled(const QString& title) const {
+    const auto isWanted = [&title](const TaskItem& task) {
+        return !task.isDone() && !task.parentTask() && task.title() == title;
+    };
+    for (TaskItem* queued : m_timer.taskQueue()) {
+        if (isWanted(*queued))
+            return queued;
+    }
+    const std::vector<TaskItem*> found = m_context.fetchTasks(isWanted);
+    return found.empty() ? nullptr : found.front();
 }
 
 void DeepWorkScreen::start() {

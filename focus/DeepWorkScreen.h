@@ -121,6 +121,9 @@ public:
     /// Starts a phase with the task chosen, or the first of the queue that is not done. Refused while a phase
     /// runs or is paused. @param minutes 1 to 1440; none for the usual length
     Refusal startPhase(PomodoroPhase phase, std::optional<int> minutes = std::nullopt);
+    /// The same with the task of that title: the queued one, else an open one of the store, else a new one;
+    /// it is queued. An empty title leaves the choice as it is.
+    Refusal startPhaseWith(const QString& taskTitle, PomodoroPhase phase, std::optional<int> minutes);
     Refusal pauseSession();
     Refusal resumeSession();
     /// Refused while nothing runs, is paused or is completed.
@@ -161,6 +164,8 @@ Q_SIGNALS:
 
 private:
     [[nodiscard]] TaskItem* taskToStartWith() const;
+    [[nodiscard]] TaskItem* openTaskTitled(const QString& title) const;
+    TaskItem* makeTask(const QString& title);
     void refreshMetrics();
     void countSecond();
     void moveOnFrom(TaskItem* doneTask);

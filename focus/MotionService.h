@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/SharedInstance.h"
+
 #include <QObject>
 
 #include <chrono>
@@ -21,6 +23,9 @@ public:
     MotionService(Clock& clock, IdleTimeSource& idleTimeSource, Preferences& preferences,
                   QObject* parent = nullptr);
     ~MotionService() override;
+
+    /// The process-wide instance, for start-up and the registration of the window's types.
+    [[nodiscard]] static MotionService& shared() { return SharedInstance<MotionService>::get(); }
 
     /// Starts the refresh once a second; does nothing while monitoring.
     void startMonitoring();

@@ -1,0 +1,172 @@
+#include "app/NorvinFocusApp.h"
+
+#include "distraction/AppBlockerService.h"
+#include "distraction/AppUsageService.h"
+#include "focus/MotionService.h"
+#include "platform/linux/LinuxPlatform.h"
+
+#include <QCoreApplication>
+
+namespace norvin {
+
+namespace {
+
+PomodoroCollaborators timerCollaborators(LinuxPlatform& platform, SoundService& sounds) {
+    return {.clock = platform.clock(),
+            .blocker = AppBlockerService::shared(),
+            .usage = AppUsageService::shared(),
+            .motion = MotionService::shared(),
+            .sounds = sounds,
+            .notifications = platform.notifications(),
+            .catalog = platform.catalog()};
+}
+
+} // namespace
+
+QString menuBarIconName(TimerState state, PomodoroPhase phase) {
+    switch (state) {
+    case TimerState::idle:
+        return QStringLiteral("brain");
+    case TimerState::paused:
+        return QStringLiteral("pause.circle.fill");
+    case TimerState::completed:
+        return QStringLiteral("checkmark.circle.fill");
+    case TimerState::running:
+        break;
+    }
+    switch (phase) {
+    case PomodoroPhase::work:
+        return QStringLiteral("brain.head.profile");
+    case PomodoroPhase::breakTime:
+        return QStringLiteral("cup.and.saucer.fill");
+    case PomodoroPhase::rearming:
+        return QStringLiteral("arrow.clockwise");
+    }
+    return {};
+}
+
+QList<TrackingHealthModel::Check> platformHealthChecks(LinuxPlatform& platform) {
+    return {
+        {QStringLiteral("health_frontmost_application"),
+         [&platform] { return platform.workspace().availability(); }},
+        {QStringLiteral("health_hiding"), [&platform] { return platform.workspace().availability(); }},
+        {QStringLiteral("health_idle_time"),
+         [&platform] { return platform.idleTimeSource().availability(); }},
+        {QStringLiteral("health_sleep"), [&platform] { return platform.sleepMonitor().availability(); }},
+        {QStringLiteral("health_notifications"),
+         [&platform] { return platform.notifications().availability(); }},
+        {QStringLiteral("health_sounds"), [&platform] { return platform.sounds().availability(); }},
+        {QStringLiteral("health_browser_pages"),
+         [] { return Availability::unavailable(QStringLiteral("health_browser_pages_missing")); }},
+    };
+}
+
+NorvinFocusApp::SharedServices::SharedServices(LinuxPlatform& platform) {
+    SharedInstance<AppBlockerService>::setFactory([&platform] {
+        return std::make_unique<AppBlockerService>(platform.preferences(), platform.workspace(),
+                                                   platform.sounds());
+    });
+    SharedInstance<AppUsageService>::setFactory([&platform] {
+        return std::make_unique<AppUsageService>(platform.clock(), platform.workspace(),
+                                                 AppBlockerService::shared());
+    });
+    SharedInstance<MotionService>::setFactory([&platform] {
+        return std::make_unique<MotionService>(platform.clock(), platform.idleTimeSource(),
+                                               platform.preferences());
+    });
+}
+
+NorvinFocusApp::SharedServices::~SharedServices() {
+    SharedInstance<MotionService>::reset();
+    SharedInstance<AppUsageService>::reset();
+    SharedInstance<AppBlockerService>::reset();
+}
+
+NorvinFocusApp::NorvinFocusApp(LinuxPlatform& platform, std::unique_ptr<ModelContainer> container)
+    : m_platform(platform)
+    , m_appDelegate(platform.accessibilityTrust())
+    , m_sharedModelContainer(std::move(container))
+    , m_localization(platform.preferences())
+    , m_soundService(platform.sounds())
+    , m_timerService(timerCollaborators(platform, m_soundService))
+    , m_deepWorkScreen(m_timerService, AppUsageService::shared(), MotionService::shared(),
+                       m_sharedModelContainer->mainContext())
+    , m_applications(platform.catalog(), platform.workspace(), AppBlockerService::shared())
+    , m_busAvailability(Availability::available())
+    , m_storeAvailability(Availability::available())
+    , m_health(platformHealthChecks(platform)
+               << TrackingHealthModel::Check{QStringLiteral("health_session_bus"),
+                                             [this] { return m_busAvailability; }}
+               << TrackingHealthModel::Check{QStringLiteral("health_store"),
+                                             [this] { return m_storeAvailability; }})
+    , m_userInterface(m_deepWorkScreen, m_applications, m_health, m_localization)
+    , m_busService(platform.sessionBus(), m_deepWorkScreen, AppBlockerService::shared(), m_health) {
+    followStore();
+    followPlatform();
+}
+
+NorvinFocusApp::~NorvinFocusApp() = default;
+
+bool NorvinFocusApp::launch() {
+    m_appDelegate.applicationDidFinishLaunching();
+    if (!m_userInterface.load())
+        return false;
+    wireServices();
+    m_busService.setShowWindow([this] { showWindow(); });
+    m_busAvailability = m_busService.publish();
+    m_health.refresh();
+    connect(&m_userInterface, &UserInterface::quitRequested, this, &NorvinFocusApp::quit);
+    connect(qApp, &QCoreApplication::aboutToQuit, &AppUsageService::shared(),
+            &AppUsageService::applicationWillTerminate);
+    return true;
+}
+
+void NorvinFocusApp::wireServices() {
+    ModelContext& context = m_sharedModelContainer->mainContext();
+    m_timerService.setModelContext(&context);
+    AppUsageService::shared().setModelContext(&context);
+}
+
+void NorvinFocusApp::followStore() {
+    ModelContext& context = m_sharedModelContainer->mainContext();
+    connect(&context, &ModelContext::saveFailed, this, [this](const StoreError& error) {
+        m_userInterface.setStoreProblem(error.description);
+        m_storeAvailability =
+            Availability::unavailable(QStringLiteral("health_store_unsaved"), error.description);
+        m_health.refresh();
+    });
+    connect(&context, &ModelContext::saved, this, [this] {
+        if (m_storeAvailability.isAvailable())
+            return;
+        m_userInterface.setStoreProblem({});
+        m_storeAvailability = Availability::available();
+        m_health.refresh();
+    });
+}
+
+void NorvinFocusApp::followPlatform() {
+    const auto refresh = [this] { m_health.refresh(); };
+    connect(&m_platform.workspace(), &Workspace::availabilityChanged, this, refresh);
+    connect(&m_platform.sleepMonitor(), &SleepMonitor::availabilityChanged, this, refresh);
+    connect(&m_platform.notifications(), &UserNotifications::availabilityChanged, this, refresh);
+    connect(&m_platform.sounds(), &SystemSounds::availabilityChanged, this, refresh);
+    connect(&m_platform.notifications(), &UserNotifications::activated, this, &NorvinFocusApp::showWindow);
+    connect(&m_userInterface, &UserInterface::windowClosedWhileRunning, this, [this] {
+        m_platform.notifications().post(qtTrId("window_closed_running_title"),
+                                        qtTrId("window_closed_running_body"));
+    });
+}
+
+void NorvinFocusApp::showWindow() {
+    m_userInterface.showWindow();
+}
+
+QString NorvinFocusApp::menuBarIconName() const {
+    return norvin::menuBarIconName(m_timerService.state(), m_timerService.phase());
+}
+
+void NorvinFocusApp::quit() {
+    QCoreApplication::quit();
+}
+
+} // namespace norvin

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "app/AppDelegate.h"
+#include "app/FocusBusService.h"
+#include "distraction/ApplicationListModel.h"
+#include "distraction/TrackingHealthModel.h"
+#include "focus/DeepWorkScreen.h"
+#include "focus/PomodoroTimerService.h"
+#include "model/ModelContainer.h"
+#include "sound/SoundService.h"
+#include "ui/Localization.h"
+#include "ui/UserInterface.h"
+
+#include <QObject>
+#include <QString>
+
+#include <memory>
+
+namespace norvin {
+
+class LinuxPlatform;
+
+/// The application: owns the store and the services, and puts them together. The only place, with main(),
+/// that knows the concrete platform. Main thread only.
+class NorvinFocusApp final : public QObject {
+    Q_OBJECT
+public:
+    /// @param platform must outlive the application
+    /// @param container the open store
+    NorvinFocusApp(LinuxPlatform& platform, std::unique_ptr<ModelContainer> container);
+    ~NorvinFocusApp() override;
+
+    /// Builds the window and the bus face. @return false where the window cannot be built; the reason is
+    /// logged
+    [[nodiscard]] bool launch();
+    void showWindow();
+    [[nodiscard]] UserInterface& userInterface() { return m_userInterface; }
+
+    /// Name of the symbol that stands for the timer's state and phase.
+    [[nodiscard]] QString menuBarIconName() const;
+
+private:
+    /// Says how the process-wide services are made, and ends them after everything that uses them.
+    class SharedServices final {
+    public:
+        explicit SharedServices(LinuxPlatform& platform);
+        SharedServices(const SharedServices&) = delete;
+        SharedServices& operator=(const SharedServices&) = delete;
+        ~SharedServices();
+    };
+
+    void wireServices();
+    void followStore();
+    void followPlatform();
+    void quit();
+
+    LinuxPlatform& m_platform;
+    // In the order in which they are made; what stands below uses what stands above.
+    AppDelegate m_appDelegate;
+    std::unique_ptr<ModelContainer> m_sharedModelContainer;
+    Localization m_localization;
+    SharedServices m_sharedServices;
+    SoundService m_soundService;
+    PomodoroTimerService m_timerService;
+    DeepWorkScreen m_deepWorkScreen;
+    ApplicationListModel m_applications;
+    Availability m_busAvailability;
+    Availability m_storeAvailability;
+    TrackingHealthModel m_health;
+    UserInterface m_userInterface;
+    FocusBusService m_busService;
+};
+
+/// Name of the symbol for a state and phase of the timer.
+[[nodiscard]] QString menuBarIconName(TimerState state, PomodoroPhase phase);
+
+/// The checks of the tracking-health panel that need nothing but the platform. @param platform must outlive
+/// them
+[[nodiscard]] QList<TrackingHealthModel::Check> platformHealthChecks(LinuxPlatform& platform);
+
+} // namespace norvin

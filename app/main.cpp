@@ -1,0 +1,153 @@
+#include "app/CommandLine.h"
+#include "app/InstanceLock.h"
+#include "app/NorvinFocusApp.h"
+#include "app/RemoteControl.h"
+#include "app/StatusReport.h"
+#include "app/UnixSignals.h"
+#include "platform/linux/LinuxPlatform.h"
+#include "platform/linux/display/DisplayProbe.h"
+
+#include <QElapsedTimer>
+#include <QGuiApplication>
+#include <QTimer>
+#include <QTranslator>
+
+#include <chrono>
+#include <cstdio>
+
+using namespace norvin;
+
+namespace {
+
+void print(FILE* stream, const QString& text) {
+    std::fputs(text.toUtf8().constData(), stream);
+    std::fflush(stream);
+}
+
+int toInt(ExitCode code) {
+    return static_cast<int>(code);
+}
+
+// The store could not be opened, not even after it was made anew: there is nothing that could go on safely.
+int stopFatally(const StoreError& error) {
+    print(stderr,
+          QStringLiteral("NorvinFocus/NorvinPlannerApp:68: Fatal error: SwiftData: Critical failure after "
+                         "reset — %1\n")
+              .arg(error.description));
+    return toInt(ExitCode::storeFailure);
+}
+
+// The terminal speaks English whatever the window speaks, so that scripts and manuals can rely on it.
+void loadTerminalTexts(QTranslator& translator) {
+    if (translator.load(QStringLiteral(":/i18n/norvin-focus_en.qm")))
+        QCoreApplication::installTranslator(&translator);
+}
+
+int runRemote(const Command& command, int& argc, char** argv) {
+    const QCoreApplication application(argc, argv);
+    QTranslator texts;
+    loadTerminalTexts(texts);
+    return toInt(RemoteControl(QDBusConnection::sessionBus()).run(command));
+}
+
+int showRunningInstance(int& argc, char** argv) {
+    const QCoreApplication application(argc, argv);
+    return toInt(RemoteControl(QDBusConnection::sessionBus()).showWindow());
+}
+
+// With no instance to ask, the platform is looked at from here. Some of it answers after a moment.
+int runOwnDoctor() {
+    constexpr std::chrono::milliseconds patience{700};
+    LinuxPlatform platform;
+    QTimer::singleShot(patience, qApp, &QCoreApplication::quit);
+    QCoreApplication::exec();
+
+    QList<TrackingHealthModel::Check> checks = platformHealthChecks(platform);
+    const bool hasBus = platform.sessionBus().isConnected();
+    checks.append({QStringLiteral("health_session_bus"), [hasBus] {
+                       return hasBus ? Availability::available()
+                                     : Availability::unavailable(QStringLiteral("health_no_session_bus"));
+                   }});
+    const TrackingHealthModel health(checks);
+    print(stdout, QStringLiteral("Norvin Focus is not running; this is what it would find.\n") +
+                      healthText(healthReport(health), &textForKey));
+    return toInt(health.problemCount() == 0 ? ExitCode::done : ExitCode::refused);
+}
+
+int runDoctor(int& argc, char** argv) {
+    if (!isDisplayReachable())
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    QTranslator texts;
+    loadTerminalTexts(texts);
+    RemoteControl remote(QDBusConnection::sessionBus());
+    return remote.isInstanceRunning() ? toInt(remote.run(command::Doctor{})) : runOwnDoctor();
+}
+
+int runWindow(const command::OpenWindow& options, int& argc, char** argv) {
+    const QString storeFile = ModelContainer::defaultStoreFile();
+    InstanceLock lock(storeFile);
+    if (lock.tryAcquire() == InstanceLock::Outcome::heldByAnother)
+        return showRunningInstance(argc, argv);
+    if (!isDisplayReachable()) {
+        print(stderr,
+              QStringLiteral("norvin-focus: no display can be reached; set DISPLAY or WAYLAND_DISPLAY\n"));
+        return toInt(ExitCode::unreachable);
+    }
+
+    // A calm window that changes once a second is drawn cheaper without a graphics pipeline.
+    if (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND"))
+        qputenv("QT_QUICK_BACKEND", "software");
+    QGuiApplication application(argc, argv);
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+
+    auto opened = ModelContainer::openOrRecreate(storeFile);
+    if (const auto* error = std::get_if<StoreError>(&opened))
+        return stopFatally(*error);
+
+    UnixSignals unixSignals;
+    QObject::connect(&unixSignals, &UnixSignals::terminationRequested, &application, &QCoreApplication::quit);
+    LinuxPlatform platform;
+    NorvinFocusApp app(platform, std::move(std::get<std::unique_ptr<ModelContainer>>(opened)));
+    if (!app.launch())
+        return toInt(ExitCode::unreachable);
+    if (options.measureFirstFrame) {
+        QObject::connect(&app.userInterface(), &UserInterface::firstFrameShown, &application, [] {
+            print(stdout, QStringLiteral("first frame\n"));
+            QCoreApplication::quit();
+        });
+    }
+    if (!options.hidden)
+        app.showWindow();
+    return QCoreApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    QCoreApplication::setApplicationName(QStringLiteral("norvin-focus"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(NORVIN_VERSION));
+
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    const auto parsed = parseCommandLine(arguments);
+    if (const auto* error = std::get_if<CommandLineError>(&parsed)) {
+        print(stderr, QStringLiteral("norvin-focus: %1\nTry 'norvin-focus --help'.\n").arg(error->message));
+        return toInt(ExitCode::badArguments);
+    }
+    const Command& command = std::get<Command>(parsed);
+    if (std::holds_alternative<command::Help>(command)) {
+        print(stdout, commandLineHelp());
+        return toInt(ExitCode::done);
+    }
+    if (std::holds_alternative<command::Version>(command)) {
+        print(stdout, QStringLiteral("norvin-focus %1\n").arg(QCoreApplication::applicationVersion()));
+        return toInt(ExitCode::done);
+    }
+    if (const auto* open = std::get_if<command::OpenWindow>(&command))
+        return runWindow(*open, argc, argv);
+    if (std::holds_alternative<command::Doctor>(command))
+        return runDoctor(argc, argv);
+    return runRemote(command, argc, argv);
+}
