@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <chrono>
 #include <memory>
 #include <variant>
 
@@ -15,12 +16,14 @@ class ModelContainer final {
 public:
     /// Opens the store file, making it where there is none. A file that cannot be opened (damaged, of another
     /// schema) is reported on standard output, deleted with its two companions, and made anew once. A store
-    /// that somebody has locked is waited for.
+    /// that somebody has locked is waited for; one that stays locked, or that only a full disk keeps shut, is
+    /// left alone.
+    /// @param lockWait how long to wait for a lock at most; blocks the calling thread
     /// @return the container, or why there is none even after the file was made anew
     [[nodiscard]] static std::variant<std::unique_ptr<ModelContainer>, StoreError>
-    openOrRecreate(const QString& storeFile);
+    openOrRecreate(const QString& storeFile, std::chrono::milliseconds lockWait = std::chrono::seconds(10));
 
-    /// A store in memory, for tests.
+    /// A store in memory, for tests. Its storeFile() is empty.
     [[nodiscard]] static std::unique_ptr<ModelContainer> inMemory();
 
     /// "NorvinFocus.sqlite" directly in the user's data directory ($XDG_DATA_HOME), which is made if missing.
@@ -32,6 +35,8 @@ public:
 
 private:
     ModelContainer(QString storeFile, std::unique_ptr<ModelContext> context);
+    [[nodiscard]] static std::variant<std::unique_ptr<ModelContext>, StoreError>
+    openContext(std::variant<std::unique_ptr<StoreConnection>, StoreError> opened);
 
     QString m_storeFile;
     std::unique_ptr<ModelContext> m_mainContext;

@@ -17,6 +17,7 @@
 
 namespace norvin {
 
+class PlanningGraph;
 class StoreConnection;
 
 /// Which records to fetch: those that start in [from, to); an invalid end is open.
@@ -34,15 +35,16 @@ struct RecordQuery {
 class ModelContext final : public QObject {
     Q_OBJECT
 public:
-    /// Made by ModelContainer. The planning entities are in the context when this returns.
-    explicit ModelContext(std::unique_ptr<StoreConnection> connection);
+    /// Saves what is left to save.
     ~ModelContext() override;
 
-    /// Takes the entity, and any unsaved entity that it refers to must be inserted too before the next save.
+    /// Takes the entity, whose id must not be in the context yet. What it refers to should be inserted too: a
+    /// relationship to an entity outside the context reaches the disk only once that one is inserted.
     Project* insert(std::unique_ptr<Project> project);
     ProjectPhase* insert(std::unique_ptr<ProjectPhase> phase);
     TaskItem* insert(std::unique_ptr<TaskItem> task);
     TaskResource* insert(std::unique_ptr<TaskResource> resource);
+    /// A session of a task that is not in the context is kept without a task.
     void insert(const Session& session);
     void insert(const AppUsageSession& usage);
 
@@ -89,7 +91,8 @@ Q_SIGNALS:
     void phaseChanged(norvin::ProjectPhase* phase);
     void taskChanged(norvin::TaskItem* task);
     void resourceChanged(norvin::TaskResource* resource);
-    /// The entity is about to leave the context; it is still whole.
+    /// The entity is about to leave the context; it and all that goes with it are still whole. A task comes
+    /// after its subtasks, a project after its tasks and phases.
     void projectAboutToBeRemoved(norvin::Project* project);
     void phaseAboutToBeRemoved(norvin::ProjectPhase* phase);
     void taskAboutToBeRemoved(norvin::TaskItem* task);
@@ -104,6 +107,8 @@ Q_SIGNALS:
 
 private:
     friend class Entity;
+    friend class ModelContainer;
+    ModelContext(std::unique_ptr<StoreConnection> connection, std::unique_ptr<PlanningGraph> graph);
     void entityTouched(Entity& entity);
 
     class Private;

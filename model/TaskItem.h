@@ -122,6 +122,9 @@ private:
     friend class ProjectPhase;
     friend class TaskResource;
 
+    /// Stores the status of this task alone.
+    void storeStatus(TaskStatus status);
+
     TaskId m_id;
     QString m_title;
     QString m_taskDescription;

@@ -1,0 +1,305 @@
+#include "model/PlanningGraph.h"
+#include "model/StoreConnection.h"
+#include "platform/Log.h"
+
+#include <SQLiteCpp/Exception.h>
+
+#include <tuple>
+
+namespace norvin {
+
+namespace {
+
+// A reference to an entity that is not in the store reads as none.
+template <class T>
+T* find(const EntityPool<T>& pool, const SQLite::Statement& statement, int index) {
+    return statement.isColumnNull(index) ? nullptr : pool.byId.value(row::uuid(statement, index));
+}
+
+// An entity outside the context has no row to refer to; when it is inserted, those that refer to it are
+// written again.
+template <class T>
+void bindReference(SQLite::Statement& statement, int index, const T* entity) {
+    if (entity != nullptr && entity->context() != nullptr)
+        row::bind(statement, index, entity->id().uuid());
+    else
+        statement.bind(index);
+}
+
+// Statements of one type. The parameters of insertion and update are the same, the first being the id.
+template <class T>
+struct Rows;
+
+template <>
+struct Rows<Project> {
+    static constexpr const char* insertion =
+        "INSERT INTO Project(id, name, projectDescription, colorHex, emoji, createdAt) "
+        "VALUES(?1, ?2, ?3, ?4, ?5, ?6)";
+    static constexpr const char* update =
+        "UPDATE Project SET name = ?2, projectDescription = ?3, colorHex = ?4, emoji = ?5, createdAt = ?6 "
+        "WHERE id = ?1";
+    static constexpr const char* deletion = "DELETE FROM Project WHERE id = ?1";
+    static void bind(SQLite::Statement& statement, const Project& project) {
+        row::bind(statement, 1, project.id().uuid());
+        row::bind(statement, 2, project.name());
+        row::bind(statement, 3, project.projectDescription());
+        row::bind(statement, 4, project.colorHex());
+        row::bind(statement, 5, project.emoji());
+        row::bindRequired(statement, 6, project.createdAt());
+    }
+};
+
+template <>
+struct Rows<ProjectPhase> {
+    static constexpr const char* insertion =
+        "INSERT INTO ProjectPhase(id, name, orderIndex, createdAt, project) VALUES(?1, ?2, ?3, ?4, ?5)";
+    static constexpr const char* update =
+        "UPDATE ProjectPhase SET name = ?2, orderIndex = ?3, createdAt = ?4, project = ?5 WHERE id = ?1";
+    static constexpr const char* deletion = "DELETE FROM ProjectPhase WHERE id = ?1";
+    static void bind(SQLite::Statement& statement, const ProjectPhase& phase) {
+        row::bind(statement, 1, phase.id().uuid());
+        row::bind(statement, 2, phase.name());
+        statement.bind(3, phase.orderIndex());
+        row::bindRequired(statement, 4, phase.createdAt());
+        bindReference(statement, 5, phase.project());
+    }
+};
+
+template <>
+struct Rows<TaskItem> {
+    static constexpr const char* insertion =
+        "INSERT INTO TaskItem(id, title, taskDescription, statusValue, priorityValue, dueDate, createdAt, "
+        "plannedDate, project, phase, parentTask) VALUES(?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9, ?10, ?11)";
+    static constexpr const char* update =
+        "UPDATE TaskItem SET title = ?2, taskDescription = ?3, statusValue = ?4, priorityValue = ?5, "
+        "dueDate = ?6, createdAt = ?7, plannedDate = ?8, project = ?9, phase = ?10, parentTask = ?11 "
+        "WHERE id = ?1";
+    static constexpr const char* deletion = "DELETE FROM TaskItem WHERE id = ?1";
+    static void bind(SQLite::Statement& statement, const TaskItem& task) {
+        row::bind(statement, 1, task.id().uuid());
+        row::bind(statement, 2, task.title());
+        row::bind(statement, 3, task.taskDescription());
+        row::bind(statement, 4, task.statusValue());
+        statement.bind(5, task.priorityValue());
+        row::bind(statement, 6, task.dueDate());
+        row::bindRequired(statement, 7, task.createdAt());
+        row::bind(statement, 8, task.plannedDate());
+        bindReference(statement, 9, task.project());
+        bindReference(statement, 10, task.phase());
+        bindReference(statement, 11, task.parentTask());
+    }
+};
+
+template <>
+struct Rows<TaskResource> {
+    static constexpr const char* insertion =
+        "INSERT INTO TaskResource(id, name, fileType, fileURLData, createdAt, task) "
+        "VALUES(?1, ?2, ?3, ?4, ?5, ?6)";
+    static constexpr const char* update =
+        "UPDATE TaskResource SET name = ?2, fileType = ?3, fileURLData = ?4, createdAt = ?5, task = ?6 "
+        "WHERE id = ?1";
+    static constexpr const char* deletion = "DELETE FROM TaskResource WHERE id = ?1";
+    static void bind(SQLite::Statement& statement, const TaskResource& resource) {
+        row::bind(statement, 1, resource.id().uuid());
+        row::bind(statement, 2, resource.name());
+        row::bind(statement, 3, resource.fileType());
+        const QByteArray& bookmark = resource.fileURLData();
+        if (bookmark.isEmpty())
+            statement.bind(4);
+        else
+            statement.bind(4, bookmark.constData(), static_cast<int>(bookmark.size()));
+        row::bindRequired(statement, 5, resource.createdAt());
+        bindReference(statement, 6, resource.task());
+    }
+};
+
+template <class T>
+void insertRow(StoreConnection& connection, const T& entity) {
+    const CachedStatement statement = connection.statement(Rows<T>::insertion);
+    Rows<T>::bind(*statement, entity);
+    statement->exec();
+}
+
+template <class T>
+void updateRow(StoreConnection& connection, const T& entity) {
+    int updated = 0;
+    {
+        const CachedStatement statement = connection.statement(Rows<T>::update);
+        Rows<T>::bind(*statement, entity);
+        updated = statement->exec();
+    }
+    // Somebody deleted the row in a shell; what the user sees is what counts.
+    if (updated == 0)
+        insertRow(connection, entity);
+}
+
+template <class T>
+void deleteRows(StoreConnection& connection, const std::vector<QUuid>& ids) {
+    for (const QUuid& id : ids) {
+        const CachedStatement statement = connection.statement(Rows<T>::deletion);
+        row::bind(*statement, 1, id);
+        statement->exec();
+    }
+}
+
+} // namespace
+
+template <class T>
+void PlanningGraph::addLoaded(EntityPool<T>& pool, T* entity) {
+    entity->m_sequence = ++m_lastSequence;
+    entity->m_stored = true;
+    pool.all.push_back(entity);
+    pool.byId.insert(entity->id().uuid(), entity);
+}
+
+void PlanningGraph::loadProjects(StoreConnection& connection) {
+    const CachedStatement rows = connection.statement(
+        "SELECT id, name, projectDescription, colorHex, emoji, createdAt FROM Project ORDER BY rowid");
+    while (rows->executeStep()) {
+        addLoaded(m_projects, new Project({.id = ProjectId(row::uuid(*rows, 0)),
+                                           .name = row::text(*rows, 1),
+                                           .projectDescription = row::text(*rows, 2),
+                                           .colorHex = row::text(*rows, 3),
+                                           .emoji = row::text(*rows, 4),
+                                           .createdAt = row::instant(*rows, 5)}));
+    }
+}
+
+void PlanningGraph::loadPhases(StoreConnection& connection) {
+    const CachedStatement rows =
+        connection.statement("SELECT id, name, orderIndex, createdAt, project FROM ProjectPhase "
+                             "ORDER BY rowid");
+    while (rows->executeStep()) {
+        auto* phase = new ProjectPhase({.id = ProjectPhaseId(row::uuid(*rows, 0)),
+                                        .name = row::text(*rows, 1),
+                                        .orderIndex = rows->getColumn(2).getInt(),
+                                        .project = nullptr,
+                                        .createdAt = row::instant(*rows, 3)});
+        addLoaded(m_phases, phase);
+        phase->m_project = find(m_projects, *rows, 4);
+        if (phase->m_project != nullptr)
+            phase->m_project->m_phases.append(phase);
+    }
+}
+
+void PlanningGraph::loadTasks(StoreConnection& connection) {
+    const CachedStatement rows = connection.statement(
+        "SELECT id, title, taskDescription, statusValue, priorityValue, dueDate, createdAt, plannedDate, "
+        "project, phase FROM TaskItem ORDER BY rowid");
+    while (rows->executeStep()) {
+        auto* task = new TaskItem({.id = TaskId(row::uuid(*rows, 0)),
+                                   .title = row::text(*rows, 1),
+                                   .taskDescription = row::text(*rows, 2),
+                                   .status = TaskStatus::todo,
+                                   .priority = TaskPriority::medium,
+                                   .dueDate = row::instant(*rows, 5),
+                                   .plannedDate = row::instant(*rows, 7),
+                                   .createdAt = row::instant(*rows, 6),
+                                   .project = nullptr,
+                                   .phase = nullptr});
+        addLoaded(m_tasks, task);
+        // Texts and numbers that mean nothing to us stay as they are.
+        task->m_statusValue = row::text(*rows, 3);
+        task->m_priorityValue = rows->getColumn(4).getInt();
+        task->m_project = find(m_projects, *rows, 8);
+        if (task->m_project != nullptr)
+            task->m_project->m_tasks.append(task);
+        task->m_phase = find(m_phases, *rows, 9);
+        if (task->m_phase != nullptr)
+            task->m_phase->m_tasks.append(task);
+    }
+    rows->tryReset();
+
+    // A second pass, since a task may be older than its parent.
+    const CachedStatement links = connection.statement(
+        "SELECT id, parentTask FROM TaskItem WHERE parentTask IS NOT NULL ORDER BY rowid");
+    while (links->executeStep()) {
+        if (TaskItem* const task = find(m_tasks, *links, 0))
+            task->m_parentTask = find(m_tasks, *links, 1);
+    }
+    linkSubtasks();
+}
+
+void PlanningGraph::linkSubtasks() {
+    // A hand-edited file may hold a ring of parents, on which everything that climbs would go round for ever.
+    QHash<const TaskItem*, const TaskItem*> climbedFrom;
+    for (TaskItem* start : m_tasks.all) {
+        if (start->m_parentTask == nullptr)
+            continue;
+        for (TaskItem* task = start; task != nullptr; task = task->m_parentTask) {
+            const auto known = climbedFrom.constFind(task);
+            if (known == climbedFrom.constEnd()) {
+                climbedFrom.insert(task, start);
+                continue;
+            }
+            if (*known == start) {
+                logLine(QStringLiteral("ModelContext: Task %1 is its own ancestor, made a top-level task")
+                            .arg(task->id().toString()));
+                task->m_parentTask = nullptr;
+            }
+            break;
+        }
+    }
+    for (TaskItem* task : m_tasks.all) {
+        if (task->m_parentTask != nullptr)
+            task->m_parentTask->m_subtasks.append(task);
+    }
+}
+
+void PlanningGraph::loadResources(StoreConnection& connection) {
+    const CachedStatement rows = connection.statement(
+        "SELECT id, name, fileType, fileURLData, createdAt, task FROM TaskResource ORDER BY rowid");
+    while (rows->executeStep()) {
+        auto* resource = new TaskResource({.id = TaskResourceId(row::uuid(*rows, 0)),
+                                           .name = row::text(*rows, 1),
+                                           .fileType = row::text(*rows, 2),
+                                           .fileURL = {},
+                                           .createdAt = row::instant(*rows, 4)});
+        addLoaded(m_resources, resource);
+        resource->m_fileURLData = row::bytes(*rows, 3);
+        resource->m_task = find(m_tasks, *rows, 5);
+        if (resource->m_task != nullptr)
+            resource->m_task->m_resources.append(resource);
+    }
+}
+
+StoreResult PlanningGraph::load(StoreConnection& connection) {
+    try {
+        loadProjects(connection);
+        loadPhases(connection);
+        loadTasks(connection);
+        loadResources(connection);
+        return {};
+    } catch (const SQLite::Exception& exception) {
+        return storeError(exception);
+    }
+}
+
+void PlanningGraph::write(StoreConnection& connection) const {
+    // Updates come before deletions: a subtask that was moved away must not go with its former parent.
+    // Deletions come before insertions: an id may come back in the same save.
+    std::apply(
+        [&connection](const auto&... pool) {
+            const auto update = [&connection](const auto& entities) {
+                for (const auto* entity : entities)
+                    updateRow(connection, *entity);
+            };
+            (update(pool.modified), ...);
+        },
+        pools());
+    deleteRows<TaskResource>(connection, m_resources.deleted);
+    deleteRows<TaskItem>(connection, m_tasks.deleted);
+    deleteRows<ProjectPhase>(connection, m_phases.deleted);
+    deleteRows<Project>(connection, m_projects.deleted);
+    std::apply(
+        [&connection](const auto&... pool) {
+            const auto insert = [&connection](const auto& entities) {
+                for (const auto* entity : entities)
+                    insertRow(connection, *entity);
+            };
+            (insert(pool.created), ...);
+        },
+        pools());
+}
+
+} // namespace norvin

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "model/StoreError.h"
+
+namespace SQLite {
+class Database;
+}
+
+namespace norvin::schema {
+
+/// Number of the schema in the file's user_version: 1.0.0 as 10000.
+inline constexpr int version = 10000;
+
+/// Whether the file holds no object of anybody's yet. Throws SQLite::Exception.
+[[nodiscard]] bool isBlank(SQLite::Database& database);
+/// Makes all tables, indexes and views, in one transaction. Throws SQLite::Exception.
+void create(SQLite::Database& database);
+/// Compares the version and our tables, indexes and views with what create() makes; other objects in the file
+/// are nobody's business. Throws SQLite::Exception when the file cannot be read.
+/// @return what differs; none when the file is ours
+[[nodiscard]] StoreResult validate(SQLite::Database& database);
+
+} // namespace norvin::schema
