@@ -1,0 +1,737 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="active_task_next">
+        <source></source>
+        <translation>First up: %1</translation>
+    </message>
+    <message id="active_task_none_idle">
+        <source></source>
+        <translation>No task chosen. A session works without one, too.</translation>
+    </message>
+    <message id="activity_distracted">
+        <source></source>
+        <translation>Distracted</translation>
+    </message>
+    <message id="activity_idle_subtitle">
+        <source></source>
+        <translation>Nothing is counted until one comes to the front.</translation>
+    </message>
+    <message id="activity_idle_title">
+        <source></source>
+        <translation>No application in front</translation>
+    </message>
+    <message id="activity_label">
+        <source></source>
+        <translation>Current activity</translation>
+    </message>
+    <message id="activity_legitimate">
+        <source></source>
+        <translation>Legitimate</translation>
+    </message>
+    <message id="activity_paused_subtitle">
+        <source></source>
+        <translation>Nothing is measured or blocked until you resume.</translation>
+    </message>
+    <message id="activity_paused_title">
+        <source></source>
+        <translation>Paused</translation>
+    </message>
+    <message id="activity_unmeasured_subtitle">
+        <source></source>
+        <translation>After a pause the measured times stay as they are until the next session. Blocking goes on.</translation>
+    </message>
+    <message id="activity_unmeasured_title">
+        <source></source>
+        <translation>Activity is no longer measured</translation>
+    </message>
+    <message id="another_work_button">
+        <source></source>
+        <translation>Another work phase</translation>
+    </message>
+    <message id="application_running">
+        <source></source>
+        <translation>running</translation>
+    </message>
+    <message id="application_running_name">
+        <source></source>
+        <translation>%1, running</translation>
+    </message>
+    <message id="application_search_placeholder">
+        <source></source>
+        <translation>Search by name or identifier</translation>
+    </message>
+    <message id="applications_empty_subtitle">
+        <source></source>
+        <translation>No installed application was found.</translation>
+    </message>
+    <message id="applications_empty_title">
+        <source></source>
+        <translation>No application to show</translation>
+    </message>
+    <message id="applications_no_match_subtitle">
+        <source></source>
+        <translation>Nothing matches this search. Escape clears it.</translation>
+    </message>
+    <message id="balance_label">
+        <source></source>
+        <translation>Measured time</translation>
+    </message>
+    <message id="block_lists_subtitle">
+        <source></source>
+        <translation>Blocked applications are hidden during a work phase. Time in whitelisted ones counts as legitimate; everything else counts as distracted.</translation>
+    </message>
+    <message id="block_lists_title">
+        <source></source>
+        <translation>Block lists</translation>
+    </message>
+    <message id="blocked_count" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n blocked</numerusform>
+            <numerusform>%n blocked</numerusform>
+        </translation>
+    </message>
+    <message id="break_button">
+        <source></source>
+        <translation>Take a break</translation>
+    </message>
+    <message id="break_subtitle">
+        <source></source>
+        <translation>Nothing is measured or blocked during a break. Look up, move, drink something.</translation>
+    </message>
+    <message id="category_communication">
+        <source></source>
+        <translation>Communication</translation>
+    </message>
+    <message id="category_design">
+        <source></source>
+        <translation>Design</translation>
+    </message>
+    <message id="category_development">
+        <source></source>
+        <translation>Development</translation>
+    </message>
+    <message id="category_entertainment">
+        <source></source>
+        <translation>Entertainment</translation>
+    </message>
+    <message id="category_navigation">
+        <source></source>
+        <translation>Browsing</translation>
+    </message>
+    <message id="category_other">
+        <source></source>
+        <translation>Other</translation>
+    </message>
+    <message id="category_productivity">
+        <source></source>
+        <translation>Productivity</translation>
+    </message>
+    <message id="category_social">
+        <source></source>
+        <translation>Social networks</translation>
+    </message>
+    <message id="category_system">
+        <source></source>
+        <translation>System</translation>
+    </message>
+    <message id="completed_break_title">
+        <source></source>
+        <translation>Break over</translation>
+    </message>
+    <message id="completed_minutes" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n minute</numerusform>
+            <numerusform>%n minutes</numerusform>
+        </translation>
+    </message>
+    <message id="completed_not_recorded">
+        <source></source>
+        <translation>Phases of less than ten seconds are not recorded.</translation>
+    </message>
+    <message id="completed_rearming_title">
+        <source></source>
+        <translation>Re-arming finished</translation>
+    </message>
+    <message id="completed_work_title">
+        <source></source>
+        <translation>Work phase finished</translation>
+    </message>
+    <message id="done_button">
+        <source></source>
+        <translation>Done</translation>
+    </message>
+    <message id="duration_hours_minutes">
+        <source></source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message id="duration_label">
+        <source></source>
+        <translation>Length of the work phase</translation>
+    </message>
+    <message id="duration_minutes">
+        <source></source>
+        <translation>%1 minutes</translation>
+    </message>
+    <message id="duration_minutes_seconds">
+        <source></source>
+        <translation>%1 min %2 s</translation>
+    </message>
+    <message id="duration_own">
+        <source></source>
+        <translation>Own</translation>
+    </message>
+    <message id="duration_own_name">
+        <source></source>
+        <translation>Minutes, 1 to 1440</translation>
+    </message>
+    <message id="duration_own_placeholder">
+        <source></source>
+        <translation>1–1440</translation>
+    </message>
+    <message id="duration_own_unit">
+        <source></source>
+        <translation>min</translation>
+    </message>
+    <message id="duration_seconds">
+        <source></source>
+        <translation>%1 s</translation>
+    </message>
+    <message id="health_all_good">
+        <source></source>
+        <translation>Everything works.</translation>
+    </message>
+    <message id="health_browser_pages">
+        <source></source>
+        <translation>Telling the pages in browsers apart</translation>
+    </message>
+    <message id="health_browser_pages_missing">
+        <source></source>
+        <translation>Pages in browsers are not told apart yet. All the time in a whitelisted browser counts as legitimate.</translation>
+    </message>
+    <message id="health_browser_pages_missing_remedy">
+        <source></source>
+        <translation>Take a browser off the whitelist if its time is to count as distracted.</translation>
+    </message>
+    <message id="health_bus_name_taken">
+        <source></source>
+        <translation>Another program holds the name of Norvin Focus on the session bus.</translation>
+    </message>
+    <message id="health_bus_name_taken_remedy">
+        <source></source>
+        <translation>Quit the other copy of Norvin Focus, then start this one again.</translation>
+    </message>
+    <message id="health_check_again">
+        <source></source>
+        <translation>Check again</translation>
+    </message>
+    <message id="health_fails">
+        <source></source>
+        <translation>Does not work</translation>
+    </message>
+    <message id="health_frontmost_application">
+        <source></source>
+        <translation>Seeing which application is in front</translation>
+    </message>
+    <message id="health_hiding">
+        <source></source>
+        <translation>Hiding blocked applications</translation>
+    </message>
+    <message id="health_idle_time">
+        <source></source>
+        <translation>Noticing that keyboard and pointer are still</translation>
+    </message>
+    <message id="health_no_display">
+        <source></source>
+        <translation>There is no connection to a display.</translation>
+    </message>
+    <message id="health_no_display_remedy">
+        <source></source>
+        <translation>Start Norvin Focus from within a graphical session.</translation>
+    </message>
+    <message id="health_no_idle_source">
+        <source></source>
+        <translation>The display does not say how long keyboard and pointer have been still.</translation>
+    </message>
+    <message id="health_no_idle_source_remedy">
+        <source></source>
+        <translation>Switch on the MIT-SCREEN-SAVER extension of the X server.</translation>
+    </message>
+    <message id="health_no_login1">
+        <source></source>
+        <translation>The login service (logind) does not answer, so sleep goes unnoticed.</translation>
+    </message>
+    <message id="health_no_login1_remedy">
+        <source></source>
+        <translation>Make sure that systemd-logind or elogind runs.</translation>
+    </message>
+    <message id="health_no_notifications">
+        <source></source>
+        <translation>No service shows notifications on this desktop.</translation>
+    </message>
+    <message id="health_no_notifications_remedy">
+        <source></source>
+        <translation>Install a notification service such as dunst.</translation>
+    </message>
+    <message id="health_no_session_bus">
+        <source></source>
+        <translation>There is no session bus (D-Bus).</translation>
+    </message>
+    <message id="health_no_session_bus_remedy">
+        <source></source>
+        <translation>Start Norvin Focus from within a graphical session, or through dbus-run-session.</translation>
+    </message>
+    <message id="health_no_sound_server">
+        <source></source>
+        <translation>No sound server answers.</translation>
+    </message>
+    <message id="health_no_sound_server_remedy">
+        <source></source>
+        <translation>Start PipeWire or PulseAudio.</translation>
+    </message>
+    <message id="health_no_window_manager">
+        <source></source>
+        <translation>The window manager does not say which window is active.</translation>
+    </message>
+    <message id="health_no_window_manager_remedy">
+        <source></source>
+        <translation>Log in to a desktop whose window manager supports the usual hints (EWMH), such as GNOME, KDE Plasma, Xfce or LXQt.</translation>
+    </message>
+    <message id="health_notifications">
+        <source></source>
+        <translation>Notifications at the end of a phase</translation>
+    </message>
+    <message id="health_preferences">
+        <source></source>
+        <translation>Keeping your settings</translation>
+    </message>
+    <message id="health_preferences_damaged">
+        <source></source>
+        <translation>The settings file is damaged. The usual settings are in force.</translation>
+    </message>
+    <message id="health_preferences_damaged_remedy">
+        <source></source>
+        <translation>Your old file was not thrown away. Change a setting to write a new one.</translation>
+    </message>
+    <message id="health_preferences_unwritable">
+        <source></source>
+        <translation>The settings file cannot be written. Changes last only until you quit.</translation>
+    </message>
+    <message id="health_preferences_unwritable_remedy">
+        <source></source>
+        <translation>Check the free space and the permissions of your configuration directory.</translation>
+    </message>
+    <message id="health_problems" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n problem</numerusform>
+            <numerusform>%n problems</numerusform>
+        </translation>
+    </message>
+    <message id="health_session_bus">
+        <source></source>
+        <translation>Control by the command line and other programs</translation>
+    </message>
+    <message id="health_sleep">
+        <source></source>
+        <translation>Noticing that the machine sleeps</translation>
+    </message>
+    <message id="health_sounds">
+        <source></source>
+        <translation>Sounds</translation>
+    </message>
+    <message id="health_store">
+        <source></source>
+        <translation>Saving your tasks and sessions</translation>
+    </message>
+    <message id="health_store_unsaved">
+        <source></source>
+        <translation>Changes could not be written. They are kept in memory and tried again.</translation>
+    </message>
+    <message id="health_store_unsaved_remedy">
+        <source></source>
+        <translation>Check the free space and the permissions of your data directory before you quit.</translation>
+    </message>
+    <message id="health_subtitle">
+        <source></source>
+        <translation>What Norvin Focus can use of this desktop, and what to do about the rest.</translation>
+    </message>
+    <message id="health_title">
+        <source></source>
+        <translation>Tracking health</translation>
+    </message>
+    <message id="health_wayland_idle">
+        <source></source>
+        <translation>This Wayland desktop does not say how long keyboard and pointer have been still.</translation>
+    </message>
+    <message id="health_wayland_idle_remedy">
+        <source></source>
+        <translation>Choose the X11 (Xorg) variant of your desktop on the login screen.</translation>
+    </message>
+    <message id="health_wayland_workspace">
+        <source></source>
+        <translation>This Wayland desktop does not let Norvin Focus see the windows of other applications.</translation>
+    </message>
+    <message id="health_wayland_workspace_remedy">
+        <source></source>
+        <translation>Choose the X11 (Xorg) variant of your desktop on the login screen.</translation>
+    </message>
+    <message id="health_works">
+        <source></source>
+        <translation>Works</translation>
+    </message>
+    <message id="inactivity_notice">
+        <source></source>
+        <translation>Keyboard and pointer have been still for a while. Inactive in this session: %1.</translation>
+    </message>
+    <message id="language_label">
+        <source></source>
+        <translation>Language</translation>
+    </message>
+    <message id="list_blocked">
+        <source></source>
+        <translation>Blocked</translation>
+    </message>
+    <message id="list_none">
+        <source></source>
+        <translation>None</translation>
+    </message>
+    <message id="list_whitelisted">
+        <source></source>
+        <translation>Whitelisted</translation>
+    </message>
+    <message id="next_step_label">
+        <source></source>
+        <translation>What comes next?</translation>
+    </message>
+    <message id="notif_break_complete_body">
+        <source></source>
+        <translation>Ready for the next work phase?</translation>
+    </message>
+    <message id="notif_break_complete_title">
+        <source></source>
+        <translation>Break over</translation>
+    </message>
+    <message id="notif_rearming_complete_body">
+        <source></source>
+        <translation>Your head is clear. Start the next work phase when you like.</translation>
+    </message>
+    <message id="notif_rearming_complete_title">
+        <source></source>
+        <translation>Re-arming finished</translation>
+    </message>
+    <message id="notif_work_complete_body">
+        <source></source>
+        <translation>Well done. Time for a break when you are ready.</translation>
+    </message>
+    <message id="notif_work_complete_title">
+        <source></source>
+        <translation>Work phase finished</translation>
+    </message>
+    <message id="pause_button">
+        <source></source>
+        <translation>Pause</translation>
+    </message>
+    <message id="phase_break">
+        <source></source>
+        <translation>Break</translation>
+    </message>
+    <message id="phase_idle">
+        <source></source>
+        <translation>Ready to focus</translation>
+    </message>
+    <message id="phase_rearming">
+        <source></source>
+        <translation>Re-arming</translation>
+    </message>
+    <message id="phase_work">
+        <source></source>
+        <translation>Work phase</translation>
+    </message>
+    <message id="queue_empty_subtitle">
+        <source></source>
+        <translation>Type what you want to get done and press Enter. Then start.</translation>
+    </message>
+    <message id="queue_empty_title">
+        <source></source>
+        <translation>No tasks yet</translation>
+    </message>
+    <message id="queue_keys_hint">
+        <source></source>
+        <translation>Enter: work on it · Ctrl+Enter: tick off · +: subtask · Alt+↑↓: move · Del: remove</translation>
+    </message>
+    <message id="quit_button">
+        <source></source>
+        <translation>Quit</translation>
+    </message>
+    <message id="quit_cancel_button">
+        <source></source>
+        <translation>Keep going</translation>
+    </message>
+    <message id="quit_message">
+        <source></source>
+        <translation>A phase is under way. If you quit now, it ends and is not recorded. Closing the window instead keeps it going.</translation>
+    </message>
+    <message id="quit_title">
+        <source></source>
+        <translation>Quit and lose the session?</translation>
+    </message>
+    <message id="rearming_button">
+        <source></source>
+        <translation>Re-arm</translation>
+    </message>
+    <message id="rearming_subtitle">
+        <source></source>
+        <translation>A moment to put things in order before the next work phase. Nothing is measured or blocked.</translation>
+    </message>
+    <message id="refused_app_empty">
+        <source></source>
+        <translation>Name an application.</translation>
+    </message>
+    <message id="refused_pause_not_running">
+        <source></source>
+        <translation>Nothing is running that could be paused.</translation>
+    </message>
+    <message id="refused_resume_not_paused">
+        <source></source>
+        <translation>Nothing is paused that could be resumed.</translation>
+    </message>
+    <message id="refused_site_invalid">
+        <source></source>
+        <translation>This is not the address of a site. Give a domain such as example.org.</translation>
+    </message>
+    <message id="refused_start_already_running">
+        <source></source>
+        <translation>A phase is already under way. Stop it before starting another one.</translation>
+    </message>
+    <message id="refused_stop_nothing_runs">
+        <source></source>
+        <translation>Nothing is running that could be stopped.</translation>
+    </message>
+    <message id="refused_task_title_empty">
+        <source></source>
+        <translation>A task needs a title.</translation>
+    </message>
+    <message id="resume_button">
+        <source></source>
+        <translation>Resume</translation>
+    </message>
+    <message id="ring_idle">
+        <source></source>
+        <translation>planned</translation>
+    </message>
+    <message id="ring_paused">
+        <source></source>
+        <translation>paused</translation>
+    </message>
+    <message id="ring_running">
+        <source></source>
+        <translation>left</translation>
+    </message>
+    <message id="score_hide_terms">
+        <source></source>
+        <translation>Hide the explanation</translation>
+    </message>
+    <message id="score_label">
+        <source></source>
+        <translation>Focus score</translation>
+    </message>
+    <message id="score_maximum">
+        <source></source>
+        <translation>/ 10</translation>
+    </message>
+    <message id="score_not_enough_data">
+        <source></source>
+        <translation>Not enough data yet: it takes 10 measured seconds.</translation>
+    </message>
+    <message id="score_show_terms">
+        <source></source>
+        <translation>Explain the score</translation>
+    </message>
+    <message id="score_term_app_attempts" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n attempt to open a blocked application</numerusform>
+            <numerusform>%n attempts to open a blocked application</numerusform>
+        </translation>
+    </message>
+    <message id="score_term_interruptions" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n interruption</numerusform>
+            <numerusform>%n interruptions</numerusform>
+        </translation>
+    </message>
+    <message id="score_term_ratio">
+        <source></source>
+        <translation>%1 % of the measured time was legitimate</translation>
+    </message>
+    <message id="score_term_site_attempts" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n attempt to open a blocked site</numerusform>
+            <numerusform>%n attempts to open a blocked site</numerusform>
+        </translation>
+    </message>
+    <message id="score_term_subtasks" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n finished subtask</numerusform>
+            <numerusform>%n finished subtasks</numerusform>
+        </translation>
+    </message>
+    <message id="score_term_tasks" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n finished task</numerusform>
+            <numerusform>%n finished tasks</numerusform>
+        </translation>
+    </message>
+    <message id="score_term_total">
+        <source></source>
+        <translation>Score, kept between 0 and 10</translation>
+    </message>
+    <message id="sidebar_block_lists">
+        <source></source>
+        <translation>Block lists</translation>
+    </message>
+    <message id="sidebar_deep_work">
+        <source></source>
+        <translation>Deep Work</translation>
+    </message>
+    <message id="sidebar_health">
+        <source></source>
+        <translation>Tracking health</translation>
+    </message>
+    <message id="sidebar_label">
+        <source></source>
+        <translation>Pages</translation>
+    </message>
+    <message id="sites_command_line_note">
+        <source></source>
+        <translation>Sites are blocked from the command line for now: norvin-focus block --site</translation>
+    </message>
+    <message id="space_hint">
+        <source></source>
+        <translation>Space starts, pauses and resumes</translation>
+    </message>
+    <message id="start_button">
+        <source></source>
+        <translation>Start</translation>
+    </message>
+    <message id="stop_button">
+        <source></source>
+        <translation>Stop</translation>
+    </message>
+    <message id="store_problem_banner">
+        <source></source>
+        <translation>Your changes cannot be saved at the moment: %1</translation>
+    </message>
+    <message id="subtask_add">
+        <source></source>
+        <translation>Add a subtask to “%1”</translation>
+    </message>
+    <message id="subtask_placeholder">
+        <source></source>
+        <translation>Subtask, then Enter</translation>
+    </message>
+    <message id="subtasks_done">
+        <source></source>
+        <translation>%1/%2 subtasks</translation>
+    </message>
+    <message id="summary_attempts">
+        <source></source>
+        <translation>Blocked attempts</translation>
+    </message>
+    <message id="summary_interruptions">
+        <source></source>
+        <translation>Interruptions</translation>
+    </message>
+    <message id="summary_tasks">
+        <source></source>
+        <translation>Finished tasks</translation>
+    </message>
+    <message id="task_active_name">
+        <source></source>
+        <translation>%1, being worked on</translation>
+    </message>
+    <message id="task_create_hint">
+        <source></source>
+        <translation>New task: “%1”</translation>
+    </message>
+    <message id="task_done_name">
+        <source></source>
+        <translation>%1, done</translation>
+    </message>
+    <message id="task_field_placeholder">
+        <source></source>
+        <translation>Type or pick a task</translation>
+    </message>
+    <message id="task_make_active">
+        <source></source>
+        <translation>Work on “%1”</translation>
+    </message>
+    <message id="task_move_down">
+        <source></source>
+        <translation>Move “%1” down</translation>
+    </message>
+    <message id="task_move_up">
+        <source></source>
+        <translation>Move “%1” up</translation>
+    </message>
+    <message id="task_remove">
+        <source></source>
+        <translation>Remove “%1” from the queue</translation>
+    </message>
+    <message id="task_reopen">
+        <source></source>
+        <translation>Reopen “%1”</translation>
+    </message>
+    <message id="task_suggestions">
+        <source></source>
+        <translation>Tasks to pick from</translation>
+    </message>
+    <message id="task_tick">
+        <source></source>
+        <translation>Tick off “%1”</translation>
+    </message>
+    <message id="tasks_count" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n task</numerusform>
+            <numerusform>%n tasks</numerusform>
+        </translation>
+    </message>
+    <message id="tasks_title">
+        <source></source>
+        <translation>Tasks</translation>
+    </message>
+    <message id="today">
+        <source></source>
+        <translation>Today</translation>
+    </message>
+    <message id="tomorrow">
+        <source></source>
+        <translation>Tomorrow</translation>
+    </message>
+    <message id="whitelisted_count" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n whitelisted</numerusform>
+            <numerusform>%n whitelisted</numerusform>
+        </translation>
+    </message>
+    <message id="window_closed_running_body">
+        <source></source>
+        <translation>The window is closed, the timer is not. Start Norvin Focus again to see it.</translation>
+    </message>
+    <message id="window_closed_running_title">
+        <source></source>
+        <translation>The session goes on</translation>
+    </message>
+</context>
+</TS>

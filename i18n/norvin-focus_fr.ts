@@ -1,0 +1,737 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr_FR" sourcelanguage="en">
+<context>
+    <name></name>
+    <message id="active_task_next">
+        <source></source>
+        <translation>Pour commencer : %1</translation>
+    </message>
+    <message id="active_task_none_idle">
+        <source></source>
+        <translation>Aucune tâche choisie. Une session marche aussi sans.</translation>
+    </message>
+    <message id="activity_distracted">
+        <source></source>
+        <translation>Distrait</translation>
+    </message>
+    <message id="activity_idle_subtitle">
+        <source></source>
+        <translation>Rien n’est compté tant qu’aucune n’y est.</translation>
+    </message>
+    <message id="activity_idle_title">
+        <source></source>
+        <translation>Aucune application au premier plan</translation>
+    </message>
+    <message id="activity_label">
+        <source></source>
+        <translation>Activité actuelle</translation>
+    </message>
+    <message id="activity_legitimate">
+        <source></source>
+        <translation>Légitime</translation>
+    </message>
+    <message id="activity_paused_subtitle">
+        <source></source>
+        <translation>Rien n’est mesuré ni bloqué jusqu’à la reprise.</translation>
+    </message>
+    <message id="activity_paused_title">
+        <source></source>
+        <translation>En pause</translation>
+    </message>
+    <message id="activity_unmeasured_subtitle">
+        <source></source>
+        <translation>Après une pause, les temps mesurés restent tels quels jusqu’à la prochaine session. Le blocage continue.</translation>
+    </message>
+    <message id="activity_unmeasured_title">
+        <source></source>
+        <translation>L’activité n’est plus mesurée</translation>
+    </message>
+    <message id="another_work_button">
+        <source></source>
+        <translation>Nouvelle phase de travail</translation>
+    </message>
+    <message id="application_running">
+        <source></source>
+        <translation>ouverte</translation>
+    </message>
+    <message id="application_running_name">
+        <source></source>
+        <translation>%1, ouverte</translation>
+    </message>
+    <message id="application_search_placeholder">
+        <source></source>
+        <translation>Chercher par nom ou identifiant</translation>
+    </message>
+    <message id="applications_empty_subtitle">
+        <source></source>
+        <translation>Aucune application installée n’a été trouvée.</translation>
+    </message>
+    <message id="applications_empty_title">
+        <source></source>
+        <translation>Aucune application à afficher</translation>
+    </message>
+    <message id="applications_no_match_subtitle">
+        <source></source>
+        <translation>Rien ne correspond à cette recherche. Échap l’efface.</translation>
+    </message>
+    <message id="balance_label">
+        <source></source>
+        <translation>Temps mesuré</translation>
+    </message>
+    <message id="block_lists_subtitle">
+        <source></source>
+        <translation>Les applications bloquées sont masquées pendant une phase de travail. Le temps passé dans celles de la liste blanche compte comme légitime ; tout le reste compte comme distrait.</translation>
+    </message>
+    <message id="block_lists_title">
+        <source></source>
+        <translation>Listes de blocage</translation>
+    </message>
+    <message id="blocked_count" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n bloquée</numerusform>
+            <numerusform>%n bloquées</numerusform>
+        </translation>
+    </message>
+    <message id="break_button">
+        <source></source>
+        <translation>Faire une pause</translation>
+    </message>
+    <message id="break_subtitle">
+        <source></source>
+        <translation>Rien n’est mesuré ni bloqué pendant une pause. Levez les yeux, bougez, buvez un verre d’eau.</translation>
+    </message>
+    <message id="category_communication">
+        <source></source>
+        <translation>Communication</translation>
+    </message>
+    <message id="category_design">
+        <source></source>
+        <translation>Création</translation>
+    </message>
+    <message id="category_development">
+        <source></source>
+        <translation>Développement</translation>
+    </message>
+    <message id="category_entertainment">
+        <source></source>
+        <translation>Divertissement</translation>
+    </message>
+    <message id="category_navigation">
+        <source></source>
+        <translation>Navigation</translation>
+    </message>
+    <message id="category_other">
+        <source></source>
+        <translation>Autre</translation>
+    </message>
+    <message id="category_productivity">
+        <source></source>
+        <translation>Productivité</translation>
+    </message>
+    <message id="category_social">
+        <source></source>
+        <translation>Réseaux sociaux</translation>
+    </message>
+    <message id="category_system">
+        <source></source>
+        <translation>Système</translation>
+    </message>
+    <message id="completed_break_title">
+        <source></source>
+        <translation>Pause terminée</translation>
+    </message>
+    <message id="completed_minutes" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n minute</numerusform>
+            <numerusform>%n minutes</numerusform>
+        </translation>
+    </message>
+    <message id="completed_not_recorded">
+        <source></source>
+        <translation>Les phases de moins de dix secondes ne sont pas enregistrées.</translation>
+    </message>
+    <message id="completed_rearming_title">
+        <source></source>
+        <translation>Réarmement terminé</translation>
+    </message>
+    <message id="completed_work_title">
+        <source></source>
+        <translation>Phase de travail terminée</translation>
+    </message>
+    <message id="done_button">
+        <source></source>
+        <translation>Terminer</translation>
+    </message>
+    <message id="duration_hours_minutes">
+        <source></source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message id="duration_label">
+        <source></source>
+        <translation>Durée de la phase de travail</translation>
+    </message>
+    <message id="duration_minutes">
+        <source></source>
+        <translation>%1 minutes</translation>
+    </message>
+    <message id="duration_minutes_seconds">
+        <source></source>
+        <translation>%1 min %2 s</translation>
+    </message>
+    <message id="duration_own">
+        <source></source>
+        <translation>Autre</translation>
+    </message>
+    <message id="duration_own_name">
+        <source></source>
+        <translation>Minutes, de 1 à 1440</translation>
+    </message>
+    <message id="duration_own_placeholder">
+        <source></source>
+        <translation>1–1440</translation>
+    </message>
+    <message id="duration_own_unit">
+        <source></source>
+        <translation>min</translation>
+    </message>
+    <message id="duration_seconds">
+        <source></source>
+        <translation>%1 s</translation>
+    </message>
+    <message id="health_all_good">
+        <source></source>
+        <translation>Tout fonctionne.</translation>
+    </message>
+    <message id="health_browser_pages">
+        <source></source>
+        <translation>Distinguer les pages dans les navigateurs</translation>
+    </message>
+    <message id="health_browser_pages_missing">
+        <source></source>
+        <translation>Les pages dans les navigateurs ne sont pas encore distinguées. Tout le temps passé dans un navigateur en liste blanche compte comme légitime.</translation>
+    </message>
+    <message id="health_browser_pages_missing_remedy">
+        <source></source>
+        <translation>Retirez un navigateur de la liste blanche si son temps doit compter comme distrait.</translation>
+    </message>
+    <message id="health_bus_name_taken">
+        <source></source>
+        <translation>Un autre programme porte le nom de Norvin Focus sur le bus de session.</translation>
+    </message>
+    <message id="health_bus_name_taken_remedy">
+        <source></source>
+        <translation>Quittez l’autre copie de Norvin Focus, puis relancez celle-ci.</translation>
+    </message>
+    <message id="health_check_again">
+        <source></source>
+        <translation>Vérifier à nouveau</translation>
+    </message>
+    <message id="health_fails">
+        <source></source>
+        <translation>Ne fonctionne pas</translation>
+    </message>
+    <message id="health_frontmost_application">
+        <source></source>
+        <translation>Reconnaître l’application au premier plan</translation>
+    </message>
+    <message id="health_hiding">
+        <source></source>
+        <translation>Masquer les applications bloquées</translation>
+    </message>
+    <message id="health_idle_time">
+        <source></source>
+        <translation>Remarquer l’inactivité du clavier et du pointeur</translation>
+    </message>
+    <message id="health_no_display">
+        <source></source>
+        <translation>Il n’y a pas de connexion à un écran.</translation>
+    </message>
+    <message id="health_no_display_remedy">
+        <source></source>
+        <translation>Lancez Norvin Focus depuis une session graphique.</translation>
+    </message>
+    <message id="health_no_idle_source">
+        <source></source>
+        <translation>L’écran n’indique pas depuis quand le clavier et le pointeur sont immobiles.</translation>
+    </message>
+    <message id="health_no_idle_source_remedy">
+        <source></source>
+        <translation>Activez l’extension MIT-SCREEN-SAVER du serveur X.</translation>
+    </message>
+    <message id="health_no_login1">
+        <source></source>
+        <translation>Le service de connexion (logind) ne répond pas, la mise en veille passe donc inaperçue.</translation>
+    </message>
+    <message id="health_no_login1_remedy">
+        <source></source>
+        <translation>Assurez-vous que systemd-logind ou elogind est lancé.</translation>
+    </message>
+    <message id="health_no_notifications">
+        <source></source>
+        <translation>Aucun service n’affiche de notifications sur ce bureau.</translation>
+    </message>
+    <message id="health_no_notifications_remedy">
+        <source></source>
+        <translation>Installez un service de notifications, par exemple dunst.</translation>
+    </message>
+    <message id="health_no_session_bus">
+        <source></source>
+        <translation>Il n’y a pas de bus de session (D-Bus).</translation>
+    </message>
+    <message id="health_no_session_bus_remedy">
+        <source></source>
+        <translation>Lancez Norvin Focus depuis une session graphique, ou avec dbus-run-session.</translation>
+    </message>
+    <message id="health_no_sound_server">
+        <source></source>
+        <translation>Aucun serveur de son ne répond.</translation>
+    </message>
+    <message id="health_no_sound_server_remedy">
+        <source></source>
+        <translation>Lancez PipeWire ou PulseAudio.</translation>
+    </message>
+    <message id="health_no_window_manager">
+        <source></source>
+        <translation>Le gestionnaire de fenêtres n’indique pas quelle fenêtre est active.</translation>
+    </message>
+    <message id="health_no_window_manager_remedy">
+        <source></source>
+        <translation>Ouvrez une session sur un bureau dont le gestionnaire de fenêtres suit les conventions usuelles (EWMH), comme GNOME, KDE Plasma, Xfce ou LXQt.</translation>
+    </message>
+    <message id="health_notifications">
+        <source></source>
+        <translation>Notifications en fin de phase</translation>
+    </message>
+    <message id="health_preferences">
+        <source></source>
+        <translation>Conserver vos réglages</translation>
+    </message>
+    <message id="health_preferences_damaged">
+        <source></source>
+        <translation>Le fichier de réglages est endommagé. Les réglages habituels s’appliquent.</translation>
+    </message>
+    <message id="health_preferences_damaged_remedy">
+        <source></source>
+        <translation>Votre ancien fichier n’a pas été jeté. Changez un réglage pour en écrire un nouveau.</translation>
+    </message>
+    <message id="health_preferences_unwritable">
+        <source></source>
+        <translation>Le fichier de réglages ne peut pas être écrit. Les changements ne durent que jusqu’à la fermeture.</translation>
+    </message>
+    <message id="health_preferences_unwritable_remedy">
+        <source></source>
+        <translation>Vérifiez l’espace libre et les droits de votre répertoire de configuration.</translation>
+    </message>
+    <message id="health_problems" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n problème</numerusform>
+            <numerusform>%n problèmes</numerusform>
+        </translation>
+    </message>
+    <message id="health_session_bus">
+        <source></source>
+        <translation>Commande par le terminal et d’autres programmes</translation>
+    </message>
+    <message id="health_sleep">
+        <source></source>
+        <translation>Remarquer la mise en veille de la machine</translation>
+    </message>
+    <message id="health_sounds">
+        <source></source>
+        <translation>Sons</translation>
+    </message>
+    <message id="health_store">
+        <source></source>
+        <translation>Enregistrer vos tâches et sessions</translation>
+    </message>
+    <message id="health_store_unsaved">
+        <source></source>
+        <translation>Des changements n’ont pas pu être écrits. Ils sont gardés en mémoire et seront réessayés.</translation>
+    </message>
+    <message id="health_store_unsaved_remedy">
+        <source></source>
+        <translation>Vérifiez l’espace libre et les droits de votre répertoire de données avant de quitter.</translation>
+    </message>
+    <message id="health_subtitle">
+        <source></source>
+        <translation>Ce que Norvin Focus peut utiliser de ce bureau, et que faire pour le reste.</translation>
+    </message>
+    <message id="health_title">
+        <source></source>
+        <translation>État du suivi</translation>
+    </message>
+    <message id="health_wayland_idle">
+        <source></source>
+        <translation>Ce bureau Wayland n’indique pas depuis quand le clavier et le pointeur sont immobiles.</translation>
+    </message>
+    <message id="health_wayland_idle_remedy">
+        <source></source>
+        <translation>Choisissez la variante X11 (Xorg) de votre bureau sur l’écran de connexion.</translation>
+    </message>
+    <message id="health_wayland_workspace">
+        <source></source>
+        <translation>Ce bureau Wayland ne laisse pas Norvin Focus voir les fenêtres des autres applications.</translation>
+    </message>
+    <message id="health_wayland_workspace_remedy">
+        <source></source>
+        <translation>Choisissez la variante X11 (Xorg) de votre bureau sur l’écran de connexion.</translation>
+    </message>
+    <message id="health_works">
+        <source></source>
+        <translation>Fonctionne</translation>
+    </message>
+    <message id="inactivity_notice">
+        <source></source>
+        <translation>Clavier et pointeur sont immobiles depuis un moment. Inactivité dans cette session : %1.</translation>
+    </message>
+    <message id="language_label">
+        <source></source>
+        <translation>Langue</translation>
+    </message>
+    <message id="list_blocked">
+        <source></source>
+        <translation>Bloquée</translation>
+    </message>
+    <message id="list_none">
+        <source></source>
+        <translation>Aucune</translation>
+    </message>
+    <message id="list_whitelisted">
+        <source></source>
+        <translation>Liste blanche</translation>
+    </message>
+    <message id="next_step_label">
+        <source></source>
+        <translation>Et maintenant ?</translation>
+    </message>
+    <message id="notif_break_complete_body">
+        <source></source>
+        <translation>Prêt pour la prochaine phase de travail ?</translation>
+    </message>
+    <message id="notif_break_complete_title">
+        <source></source>
+        <translation>Pause terminée</translation>
+    </message>
+    <message id="notif_rearming_complete_body">
+        <source></source>
+        <translation>L’esprit est clair. Lancez la prochaine phase de travail quand vous voulez.</translation>
+    </message>
+    <message id="notif_rearming_complete_title">
+        <source></source>
+        <translation>Réarmement terminé</translation>
+    </message>
+    <message id="notif_work_complete_body">
+        <source></source>
+        <translation>Bien joué. Place à une pause quand vous voulez.</translation>
+    </message>
+    <message id="notif_work_complete_title">
+        <source></source>
+        <translation>Phase de travail terminée</translation>
+    </message>
+    <message id="pause_button">
+        <source></source>
+        <translation>Pause</translation>
+    </message>
+    <message id="phase_break">
+        <source></source>
+        <translation>Pause</translation>
+    </message>
+    <message id="phase_idle">
+        <source></source>
+        <translation>Prêt à se concentrer</translation>
+    </message>
+    <message id="phase_rearming">
+        <source></source>
+        <translation>Réarmement</translation>
+    </message>
+    <message id="phase_work">
+        <source></source>
+        <translation>Phase de travail</translation>
+    </message>
+    <message id="queue_empty_subtitle">
+        <source></source>
+        <translation>Écrivez ce que vous voulez accomplir, puis Entrée. Il ne reste qu’à démarrer.</translation>
+    </message>
+    <message id="queue_empty_title">
+        <source></source>
+        <translation>Pas encore de tâche</translation>
+    </message>
+    <message id="queue_keys_hint">
+        <source></source>
+        <translation>Entrée : s’y mettre · Ctrl+Entrée : cocher · + : sous-tâche · Alt+↑↓ : déplacer · Suppr : retirer</translation>
+    </message>
+    <message id="quit_button">
+        <source></source>
+        <translation>Quitter</translation>
+    </message>
+    <message id="quit_cancel_button">
+        <source></source>
+        <translation>Continuer</translation>
+    </message>
+    <message id="quit_message">
+        <source></source>
+        <translation>Une phase est en cours. Si vous quittez maintenant, elle s’arrête et n’est pas enregistrée. En fermant seulement la fenêtre, elle continue.</translation>
+    </message>
+    <message id="quit_title">
+        <source></source>
+        <translation>Quitter et perdre la session ?</translation>
+    </message>
+    <message id="rearming_button">
+        <source></source>
+        <translation>Se réarmer</translation>
+    </message>
+    <message id="rearming_subtitle">
+        <source></source>
+        <translation>Un moment pour remettre de l’ordre avant la prochaine phase de travail. Rien n’est mesuré ni bloqué.</translation>
+    </message>
+    <message id="refused_app_empty">
+        <source></source>
+        <translation>Indiquez une application.</translation>
+    </message>
+    <message id="refused_pause_not_running">
+        <source></source>
+        <translation>Rien n’est en cours, il n’y a rien à mettre en pause.</translation>
+    </message>
+    <message id="refused_resume_not_paused">
+        <source></source>
+        <translation>Rien n’est en pause, il n’y a rien à reprendre.</translation>
+    </message>
+    <message id="refused_site_invalid">
+        <source></source>
+        <translation>Ce n’est pas l’adresse d’un site. Donnez un domaine, par exemple example.org.</translation>
+    </message>
+    <message id="refused_start_already_running">
+        <source></source>
+        <translation>Une phase est déjà en cours. Arrêtez-la avant d’en lancer une autre.</translation>
+    </message>
+    <message id="refused_stop_nothing_runs">
+        <source></source>
+        <translation>Rien n’est en cours, il n’y a rien à arrêter.</translation>
+    </message>
+    <message id="refused_task_title_empty">
+        <source></source>
+        <translation>Une tâche a besoin d’un titre.</translation>
+    </message>
+    <message id="resume_button">
+        <source></source>
+        <translation>Reprendre</translation>
+    </message>
+    <message id="ring_idle">
+        <source></source>
+        <translation>prévu</translation>
+    </message>
+    <message id="ring_paused">
+        <source></source>
+        <translation>en pause</translation>
+    </message>
+    <message id="ring_running">
+        <source></source>
+        <translation>restant</translation>
+    </message>
+    <message id="score_hide_terms">
+        <source></source>
+        <translation>Masquer l’explication</translation>
+    </message>
+    <message id="score_label">
+        <source></source>
+        <translation>Score de concentration</translation>
+    </message>
+    <message id="score_maximum">
+        <source></source>
+        <translation>/ 10</translation>
+    </message>
+    <message id="score_not_enough_data">
+        <source></source>
+        <translation>Pas encore assez de données : il faut 10 secondes mesurées.</translation>
+    </message>
+    <message id="score_show_terms">
+        <source></source>
+        <translation>Expliquer le score</translation>
+    </message>
+    <message id="score_term_app_attempts" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n tentative d’ouvrir une application bloquée</numerusform>
+            <numerusform>%n tentatives d’ouvrir une application bloquée</numerusform>
+        </translation>
+    </message>
+    <message id="score_term_interruptions" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n interruption</numerusform>
+            <numerusform>%n interruptions</numerusform>
+        </translation>
+    </message>
+    <message id="score_term_ratio">
+        <source></source>
+        <translation>%1 % du temps mesuré était légitime</translation>
+    </message>
+    <message id="score_term_site_attempts" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n tentative d’ouvrir un site bloqué</numerusform>
+            <numerusform>%n tentatives d’ouvrir un site bloqué</numerusform>
+        </translation>
+    </message>
+    <message id="score_term_subtasks" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n sous-tâche terminée</numerusform>
+            <numerusform>%n sous-tâches terminées</numerusform>
+        </translation>
+    </message>
+    <message id="score_term_tasks" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n tâche terminée</numerusform>
+            <numerusform>%n tâches terminées</numerusform>
+        </translation>
+    </message>
+    <message id="score_term_total">
+        <source></source>
+        <translation>Score, ramené entre 0 et 10</translation>
+    </message>
+    <message id="sidebar_block_lists">
+        <source></source>
+        <translation>Listes de blocage</translation>
+    </message>
+    <message id="sidebar_deep_work">
+        <source></source>
+        <translation>Deep Work</translation>
+    </message>
+    <message id="sidebar_health">
+        <source></source>
+        <translation>État du suivi</translation>
+    </message>
+    <message id="sidebar_label">
+        <source></source>
+        <translation>Pages</translation>
+    </message>
+    <message id="sites_command_line_note">
+        <source></source>
+        <translation>Pour l’instant, les sites se bloquent en ligne de commande : norvin-focus block --site</translation>
+    </message>
+    <message id="space_hint">
+        <source></source>
+        <translation>Espace pour démarrer, mettre en pause et reprendre</translation>
+    </message>
+    <message id="start_button">
+        <source></source>
+        <translation>Démarrer</translation>
+    </message>
+    <message id="stop_button">
+        <source></source>
+        <translation>Arrêter</translation>
+    </message>
+    <message id="store_problem_banner">
+        <source></source>
+        <translation>Vos changements ne peuvent pas être enregistrés pour le moment : %1</translation>
+    </message>
+    <message id="subtask_add">
+        <source></source>
+        <translation>Ajouter une sous-tâche à « %1 »</translation>
+    </message>
+    <message id="subtask_placeholder">
+        <source></source>
+        <translation>Sous-tâche, puis Entrée</translation>
+    </message>
+    <message id="subtasks_done">
+        <source></source>
+        <translation>%1/%2 sous-tâches</translation>
+    </message>
+    <message id="summary_attempts">
+        <source></source>
+        <translation>Tentatives bloquées</translation>
+    </message>
+    <message id="summary_interruptions">
+        <source></source>
+        <translation>Interruptions</translation>
+    </message>
+    <message id="summary_tasks">
+        <source></source>
+        <translation>Tâches terminées</translation>
+    </message>
+    <message id="task_active_name">
+        <source></source>
+        <translation>%1, en cours</translation>
+    </message>
+    <message id="task_create_hint">
+        <source></source>
+        <translation>Nouvelle tâche : « %1 »</translation>
+    </message>
+    <message id="task_done_name">
+        <source></source>
+        <translation>%1, terminée</translation>
+    </message>
+    <message id="task_field_placeholder">
+        <source></source>
+        <translation>Saisir ou choisir une tâche</translation>
+    </message>
+    <message id="task_make_active">
+        <source></source>
+        <translation>Travailler sur « %1 »</translation>
+    </message>
+    <message id="task_move_down">
+        <source></source>
+        <translation>Descendre « %1 »</translation>
+    </message>
+    <message id="task_move_up">
+        <source></source>
+        <translation>Monter « %1 »</translation>
+    </message>
+    <message id="task_remove">
+        <source></source>
+        <translation>Retirer « %1 » de la file</translation>
+    </message>
+    <message id="task_reopen">
+        <source></source>
+        <translation>Rouvrir « %1 »</translation>
+    </message>
+    <message id="task_suggestions">
+        <source></source>
+        <translation>Tâches à choisir</translation>
+    </message>
+    <message id="task_tick">
+        <source></source>
+        <translation>Cocher « %1 »</translation>
+    </message>
+    <message id="tasks_count" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n tâche</numerusform>
+            <numerusform>%n tâches</numerusform>
+        </translation>
+    </message>
+    <message id="tasks_title">
+        <source></source>
+        <translation>Tâches</translation>
+    </message>
+    <message id="today">
+        <source></source>
+        <translation>Aujourd’hui</translation>
+    </message>
+    <message id="tomorrow">
+        <source></source>
+        <translation>Demain</translation>
+    </message>
+    <message id="whitelisted_count" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n en liste blanche</numerusform>
+            <numerusform>%n en liste blanche</numerusform>
+        </translation>
+    </message>
+    <message id="window_closed_running_body">
+        <source></source>
+        <translation>La fenêtre est fermée, pas le minuteur. Relancez Norvin Focus pour le revoir.</translation>
+    </message>
+    <message id="window_closed_running_title">
+        <source></source>
+        <translation>La session continue</translation>
+    </message>
+</context>
+</TS>

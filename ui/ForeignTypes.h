@@ -1,0 +1,95 @@
+#pragma once
+
+#include "distraction/ApplicationListModel.h"
+#include "distraction/TrackingHealthModel.h"
+#include "focus/DeepWorkScreen.h"
+#include "focus/TaskPickerModel.h"
+#include "focus/TaskQueueModel.h"
+#include "ui/Localization.h"
+#include "ui/MotionPreference.h"
+#include "ui/TextFormats.h"
+
+#include <QJSEngine>
+#include <QQmlEngine>
+#include <QVariant>
+
+namespace norvin::qml {
+
+// The classes that QML meets, under the names that it knows them by. The classes themselves know nothing of
+// QML.
+
+struct DeepWorkScreenType {
+    Q_GADGET
+    QML_FOREIGN(norvin::DeepWorkScreen)
+    QML_NAMED_ELEMENT(DeepWorkScreen)
+    QML_UNCREATABLE("Handed to the window")
+};
+
+struct TaskQueueModelType {
+    Q_GADGET
+    QML_FOREIGN(norvin::TaskQueueModel)
+    QML_NAMED_ELEMENT(TaskQueueModel)
+    QML_UNCREATABLE("Belongs to the Deep Work screen")
+};
+
+struct TaskPickerModelType {
+    Q_GADGET
+    QML_FOREIGN(norvin::TaskPickerModel)
+    QML_NAMED_ELEMENT(TaskPickerModel)
+    QML_UNCREATABLE("Belongs to the Deep Work screen")
+};
+
+struct ApplicationListModelType {
+    Q_GADGET
+    QML_FOREIGN(norvin::ApplicationListModel)
+    QML_NAMED_ELEMENT(ApplicationListModel)
+    QML_UNCREATABLE("Handed to the window")
+};
+
+struct TrackingHealthModelType {
+    Q_GADGET
+    QML_FOREIGN(norvin::TrackingHealthModel)
+    QML_NAMED_ELEMENT(TrackingHealthModel)
+    QML_UNCREATABLE("Handed to the window")
+};
+
+struct TextFormatsType {
+    Q_GADGET
+    QML_FOREIGN(norvin::TextFormats)
+    QML_NAMED_ELEMENT(TextFormats)
+    QML_UNCREATABLE("Belongs to Localization")
+};
+
+/// An object that the engine was given under a property's name before anything was loaded.
+template <typename T>
+T* handedTo(QQmlEngine* engine, const char* property) {
+    auto* object = engine->property(property).template value<T*>();
+    QJSEngine::setObjectOwnership(object, QJSEngine::CppOwnership);
+    return object;
+}
+
+struct LocalizationType {
+    Q_GADGET
+    QML_FOREIGN(norvin::Localization)
+    QML_NAMED_ELEMENT(Localization)
+    QML_SINGLETON
+public:
+    static constexpr auto engineProperty = "norvinLocalization";
+    static Localization* create(QQmlEngine* engine, QJSEngine*) {
+        return handedTo<Localization>(engine, engineProperty);
+    }
+};
+
+struct MotionPreferenceType {
+    Q_GADGET
+    QML_FOREIGN(norvin::MotionPreference)
+    QML_NAMED_ELEMENT(MotionPreference)
+    QML_SINGLETON
+public:
+    static constexpr auto engineProperty = "norvinMotionPreference";
+    static MotionPreference* create(QQmlEngine* engine, QJSEngine*) {
+        return handedTo<MotionPreference>(engine, engineProperty);
+    }
+};
+
+} // namespace norvin::qml

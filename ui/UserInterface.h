@@ -1,0 +1,74 @@
+#pragma once
+
+#include "ui/MotionPreference.h"
+
+#include <QObject>
+#include <QString>
+
+#include <memory>
+
+class QQmlEngine;
+class QQuickWindow;
+
+namespace norvin {
+
+class ApplicationListModel;
+class DeepWorkScreen;
+class Localization;
+class TrackingHealthModel;
+
+/// The main window and what is behind it. Needs a QGuiApplication that does not quit by itself when its last
+/// window closes. Main thread only.
+///
+/// Closing the window during a session only hides it. Otherwise closing it, like Ctrl+Q, asks to quit; what
+/// quitting means is decided by whoever listens.
+class UserInterface final : public QObject {
+    Q_OBJECT
+    /// What is wrong with the store, shown as a banner for as long as it is not empty.
+    Q_PROPERTY(QString storeProblem READ storeProblem WRITE setStoreProblem NOTIFY storeProblemChanged)
+public:
+    /// Everything given must outlive this.
+    UserInterface(DeepWorkScreen& deepWork, ApplicationListModel& applications, TrackingHealthModel& health,
+                  Localization& localization, QObject* parent = nullptr);
+    ~UserInterface() override;
+
+    /// Builds the window, hidden. @return whether it is there; a failure is logged
+    [[nodiscard]] bool load();
+    /// Brings the window to the front, from wherever it is.
+    void showWindow();
+    /// Null before load() and after it failed.
+    [[nodiscard]] QQuickWindow* window() const { return m_window.get(); }
+
+    [[nodiscard]] const QString& storeProblem() const { return m_storeProblem; }
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+public Q_SLOTS:
+    void setStoreProblem(const QString& text);
+
+Q_SIGNALS:
+    void storeProblemChanged();
+    void quitRequested();
+    /// The window was closed, and the session goes on without it.
+    void windowClosedWhileRunning();
+    /// The window's first picture is on the screen; sent once.
+    void firstFrameShown();
+
+private Q_SLOTS:
+    void quit();
+
+private:
+    [[nodiscard]] bool isPhaseUnderWay() const;
+
+    DeepWorkScreen& m_deepWork;
+    ApplicationListModel& m_applications;
+    TrackingHealthModel& m_health;
+    Localization& m_localization;
+    MotionPreference m_motion;
+    std::unique_ptr<QQmlEngine> m_engine;
+    std::unique_ptr<QQuickWindow> m_window;
+    QString m_storeProblem;
+    bool m_isQuitting = false;
+};
+
+} // namespace norvin

@@ -1,0 +1,101 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Templates as T
+import NorvinFocus.Ui
+
+/// The applications with the list that each is on.
+Page {
+    id: root
+
+    required property ApplicationListModel applications
+
+    heading: qsTrId("block_lists_title")
+    introduction: qsTrId("block_lists_subtitle")
+
+    onEntered: {
+        root.applications.refresh();
+        search.forceActiveFocus(Qt.OtherFocusReason);
+    }
+
+    headingContent: [
+        CountChip {
+            symbol: "hand.raised"
+            color: Theme.distracted
+            text: qsTrId("blocked_count", root.applications.blockedCount)
+        },
+        CountChip {
+            symbol: "checkmark.shield"
+            color: Theme.legitimate
+            text: qsTrId("whitelisted_count", root.applications.whitelistedCount)
+        }
+    ]
+
+    EntryField {
+        id: search
+
+        objectName: "applicationSearch"
+        Layout.fillWidth: true
+        symbol: "magnifyingglass"
+        placeholderText: qsTrId("application_search_placeholder")
+        onTextEdited: root.applications.filterText = search.text
+
+        Keys.onEscapePressed: {
+            search.clear();
+            root.applications.filterText = "";
+        }
+        Keys.onDownPressed: list.forceActiveFocus(Qt.TabFocusReason)
+    }
+
+    ListView {
+        id: list
+
+        Layout.fillWidth: true
+        Layout.fillHeight: true
+        objectName: "applicationList"
+        visible: list.count > 0
+        clip: true
+        spacing: 2
+        reuseItems: true
+        activeFocusOnTab: true
+        boundsBehavior: Flickable.StopAtBounds
+        highlightMoveDuration: 0
+        model: root.applications
+        Accessible.role: Accessible.List
+        Accessible.name: qsTrId("block_lists_title")
+
+        T.ScrollBar.vertical: ScrollBarThin {}
+
+        Keys.onPressed: event => {
+            const row = list.currentItem as ApplicationRow;
+            event.accepted = row !== null && (event.key === Qt.Key_Left || event.key === Qt.Key_Right);
+            if (event.accepted)
+                row.step(event.key === Qt.Key_Right ? 1 : -1);
+        }
+
+        delegate: ApplicationRow {
+            width: list.width - Theme.gap3
+            hasKeyboard: list.activeFocus
+            onListChosen: (bundleId, listName) => root.applications.setList(bundleId, listName)
+        }
+    }
+
+    EmptyState {
+        Layout.fillWidth: true
+        Layout.fillHeight: true
+        visible: list.count === 0
+        symbol: "magnifyingglass"
+        title: qsTrId("applications_empty_title")
+        message: root.applications.filterText.length > 0 ? qsTrId("applications_no_match_subtitle") : qsTrId("applications_empty_subtitle")
+    }
+
+    ThemedText {
+        Layout.fillWidth: true
+        Layout.bottomMargin: Theme.gap4
+        text: qsTrId("sites_command_line_note")
+        color: Theme.textFaint
+        font.pixelSize: Theme.caption
+        wrapMode: Text.WordWrap
+    }
+}

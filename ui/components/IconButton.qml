@@ -1,0 +1,47 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import NorvinFocus.Ui
+
+/// A button that shows only a symbol; its text is its name for a screen reader and its hint.
+T.Button {
+    id: root
+
+    required property string symbol
+    property color symbolColor: root.hovered || root.visualFocus ? Theme.text : Theme.textFaint
+    property int symbolSize: 18
+
+    implicitWidth: Theme.controlHeightSmall
+    implicitHeight: Theme.controlHeightSmall
+    hoverEnabled: true
+    focusPolicy: Qt.StrongFocus
+    Accessible.name: root.text
+
+    Keys.onReturnPressed: root.clicked()
+    Keys.onEnterPressed: root.clicked()
+
+    contentItem: Item {
+        Symbol {
+            anchors.centerIn: parent
+            name: root.symbol
+            color: root.symbolColor
+            size: root.symbolSize
+        }
+    }
+
+    background: Rectangle {
+        radius: Theme.radiusSmall
+        color: root.down ? Theme.surfacePressed : root.hovered ? Theme.surfaceHover : "transparent"
+
+        FocusRing {
+            shown: root.visualFocus
+            distance: 1
+        }
+    }
+
+    HoverHint {
+        text: root.text
+        shown: root.hovered || root.visualFocus
+    }
+}

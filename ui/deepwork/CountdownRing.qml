@@ -1,0 +1,88 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Shapes
+import NorvinFocus.Ui
+
+/// The countdown: a ring that empties as the phase passes, with the time left inside it.
+Item {
+    id: root
+
+    required property string timeText
+    /// Share of the phase that is over, 0 to 1.
+    required property double progress
+    required property color color
+    /// What the time means, under the digits.
+    required property string caption
+    property string symbol: ""
+    readonly property real thickness: Math.max(8, root.width / 28)
+    readonly property real arcRadius: (Math.min(root.width, root.height) - root.thickness) / 2
+
+    Accessible.role: Accessible.ProgressBar
+    Accessible.name: root.caption + ", " + root.timeText
+
+    Shape {
+        anchors.fill: parent
+
+        ShapePath {
+            strokeColor: Theme.track
+            strokeWidth: root.thickness
+            fillColor: "transparent"
+
+            PathAngleArc {
+                centerX: root.width / 2
+                centerY: root.height / 2
+                radiusX: root.arcRadius
+                radiusY: root.arcRadius
+                startAngle: -90
+                sweepAngle: 360
+            }
+        }
+
+        ShapePath {
+            strokeColor: root.progress < 1 ? root.color : "transparent"
+            strokeWidth: root.thickness
+            fillColor: "transparent"
+            capStyle: ShapePath.RoundCap
+
+            PathAngleArc {
+                centerX: root.width / 2
+                centerY: root.height / 2
+                radiusX: root.arcRadius
+                radiusY: root.arcRadius
+                startAngle: -90
+                sweepAngle: -360 * (1 - Math.min(Math.max(root.progress, 0), 1))
+            }
+        }
+    }
+
+    Symbol {
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: root.height * 0.2
+        name: root.symbol
+        color: root.color
+        size: Math.round(root.width / 10)
+    }
+
+    Digits {
+        id: digits
+
+        anchors.centerIn: parent
+        text: root.timeText
+        // "1440:00" must fit into the ring as "25:00" does.
+        pixelSize: Math.round(root.width / Math.max(4.8, root.timeText.length * 0.95))
+        Accessible.ignored: true
+    }
+
+    ThemedText {
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.top: digits.bottom
+        anchors.topMargin: Theme.gap1
+        width: root.width * 0.66
+        horizontalAlignment: Text.AlignHCenter
+        wrapMode: Text.WordWrap
+        text: root.caption
+        color: Theme.textMuted
+        Accessible.ignored: true
+    }
+}

@@ -1,0 +1,218 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Templates as T
+import NorvinFocus.Ui
+
+/// The Deep Work screen. Space starts, pauses and resumes wherever no field or button has the keyboard.
+FocusScope {
+    id: root
+
+    required property DeepWorkScreen screen
+    /// Whether anybody can see the screen.
+    required property bool live
+    readonly property bool isIdle: root.screen.state === "idle"
+    readonly property bool isCompleted: root.screen.state === "completed"
+    readonly property bool measures: !root.isIdle && !root.isCompleted && root.screen.phase === "work"
+
+    /// Puts the keyboard where the next step most likely is.
+    function focusStart(): void {
+        if (root.isCompleted)
+            completed.focusPrimary();
+        else if (root.isIdle && tasks.isEmpty)
+            tasks.focusField();
+        else
+            controls.focusPrimary();
+    }
+
+    function phaseName(): string {
+        if (root.isIdle)
+            return qsTrId("phase_idle");
+        if (root.screen.phase === "work")
+            return qsTrId("phase_work");
+        return root.screen.phase === "break_time" ? qsTrId("phase_break") : qsTrId("phase_rearming");
+    }
+
+    function phaseSymbol(): string {
+        if (root.isIdle)
+            return "brain";
+        if (root.screen.state === "paused")
+            return "pause.circle.fill";
+        if (root.screen.phase === "work")
+            return "brain.head.profile";
+        return root.screen.phase === "break_time" ? "cup.and.saucer.fill" : "arrow.clockwise";
+    }
+
+    function taskLine(): string {
+        if (root.screen.activeTaskTitle.length === 0)
+            return root.isIdle ? qsTrId("active_task_none_idle") : "";
+        return root.isIdle ? qsTrId("active_task_next").arg(root.screen.activeTaskTitle) : root.screen.activeTaskTitle;
+    }
+
+    Keys.onSpacePressed: {
+        if (!root.isCompleted)
+            controls.toggle();
+    }
+
+    LiveSession {
+        id: session
+
+        source: root.screen
+        live: root.live
+    }
+
+    // A press beside everything takes the keyboard out of the text fields.
+    Item {
+        id: nowhere
+
+        focus: true
+    }
+
+    TapHandler {
+        onTapped: nowhere.forceActiveFocus(Qt.MouseFocusReason)
+    }
+
+    Connections {
+        target: root.screen
+
+        function onStateChanged(): void {
+            // The button that had the keyboard may just have gone.
+            const holder = root.Window.activeFocusItem;
+            if (root.activeFocus && (!holder || !holder.visible || holder === nowhere))
+                root.focusStart();
+        }
+    }
+
+    RowLayout {
+        anchors.fill: parent
+        spacing: 0
+
+        Flickable {
+            id: page
+
+            readonly property int margin: Theme.gap8
+            readonly property int ringSize: Math.round(Math.min(440, Math.max(190, page.height - 2 * page.margin - column.implicitHeight + ring.Layout.preferredHeight)))
+
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            contentWidth: width
+            contentHeight: Math.max(height, column.implicitHeight + 2 * page.margin)
+            boundsBehavior: Flickable.StopAtBounds
+            interactive: contentHeight > height
+            clip: true
+
+            T.ScrollBar.vertical: ScrollBarThin {}
+
+            ColumnLayout {
+                id: column
+
+                anchors.centerIn: parent
+                width: Math.min(parent.width - 2 * page.margin, 620)
+                spacing: Theme.gap5
+
+                ThemedText {
+                    Layout.alignment: Qt.AlignHCenter
+                    visible: !root.isCompleted
+                    text: root.phaseName()
+                    font.pixelSize: Theme.headline
+                    font.weight: Font.DemiBold
+                    Accessible.role: Accessible.Heading
+                }
+
+                CountdownRing {
+                    id: ring
+
+                    Layout.alignment: Qt.AlignHCenter
+                    Layout.preferredWidth: page.ringSize
+                    Layout.preferredHeight: page.ringSize
+                    visible: !root.isCompleted
+                    timeText: session.timeText
+                    progress: session.progress
+                    color: root.screen.state === "paused" ? Theme.amber : root.isIdle ? Theme.accentBright : Theme.phaseColor(root.screen.phase)
+                    symbol: root.phaseSymbol()
+                    caption: root.isIdle ? qsTrId("ring_idle") : root.screen.state === "paused" ? qsTrId("ring_paused") : qsTrId("ring_running")
+                }
+
+                ThemedText {
+                    objectName: "activeTaskLine"
+                    Layout.alignment: Qt.AlignHCenter
+                    Layout.maximumWidth: column.width
+                    visible: !root.isCompleted && text.length > 0
+                    text: root.taskLine()
+                    color: root.isIdle ? Theme.textMuted : Theme.text
+                    font.pixelSize: Theme.bodyLarge
+                    horizontalAlignment: Text.AlignHCenter
+                    wrapMode: Text.Wrap
+                    maximumLineCount: 2
+                    elide: Text.ElideRight
+                }
+
+                DurationChoice {
+                    Layout.alignment: Qt.AlignHCenter
+                    visible: root.isIdle
+                    screen: root.screen
+                }
+
+                SessionControls {
+                    id: controls
+
+                    Layout.alignment: Qt.AlignHCenter
+                    visible: !root.isCompleted
+                    screen: root.screen
+                }
+
+                ThemedText {
+                    Layout.alignment: Qt.AlignHCenter
+                    visible: root.isIdle
+                    text: qsTrId("space_hint")
+                    color: Theme.textFaint
+                    font.pixelSize: Theme.caption
+                }
+
+                SessionPanel {
+                    Layout.fillWidth: true
+                    visible: root.measures
+                    screen: root.screen
+                    session: session
+                }
+
+                ThemedText {
+                    Layout.alignment: Qt.AlignHCenter
+                    Layout.maximumWidth: 420
+                    visible: !root.isIdle && !root.isCompleted && root.screen.phase !== "work"
+                    text: root.screen.phase === "break_time" ? qsTrId("break_subtitle") : qsTrId("rearming_subtitle")
+                    color: Theme.textMuted
+                    horizontalAlignment: Text.AlignHCenter
+                    wrapMode: Text.WordWrap
+                }
+
+                CompletedPanel {
+                    id: completed
+
+                    Layout.fillWidth: true
+                    visible: root.isCompleted
+                    screen: root.screen
+                    session: session
+                }
+
+                // The coach speaks here.
+                Item {
+                    objectName: "coachPlace"
+                    Layout.fillWidth: true
+                    Layout.topMargin: -Theme.gap5
+                    implicitHeight: 0
+                    enabled: false
+                }
+            }
+        }
+
+        TaskPanel {
+            id: tasks
+
+            Layout.preferredWidth: 372
+            Layout.fillHeight: true
+            screen: root.screen
+        }
+    }
+}

@@ -1,0 +1,77 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import NorvinFocus.Ui
+
+/// The queue. Arrow keys go through it; Enter works on a task, Control+Enter ticks it off, Plus adds a subtask,
+/// Delete removes it, Alt with an arrow moves it.
+ListView {
+    id: root
+
+    required property DeepWorkScreen screen
+    /// The row that a subtask is being typed for; -1 for none.
+    property int subtaskRow: -1
+    /// While a task is dragged: the place in the queue that it would get; -1 otherwise.
+    property int dropPlace: -1
+    /// While a task is dragged: the place that it has; -1 otherwise.
+    property int draggedPlace: -1
+
+    function move(row: int, places: int): void {
+        const taskId = root.taskIdAt(row);
+        root.screen.moveInQueue(row, places);
+        root.goTo(taskId);
+    }
+
+    function taskIdAt(row: int): string {
+        const item = root.itemAtIndex(row) as QueueRow;
+        return item ? item.taskId : "";
+    }
+
+    /// Rows move as others do; the current one is to stay the same task.
+    function goTo(taskId: string): void {
+        for (let row = 0; row < root.count; ++row) {
+            if (root.taskIdAt(row) === taskId) {
+                root.currentIndex = row;
+                return;
+            }
+        }
+    }
+
+    objectName: "queue"
+    clip: true
+    spacing: 2
+    activeFocusOnTab: true
+    boundsBehavior: Flickable.StopAtBounds
+    highlightMoveDuration: 0
+    // Tasks of a session are few; with all rows there, Tab and the reader reach every one.
+    cacheBuffer: 2000
+    model: root.screen.queue
+    Accessible.role: Accessible.List
+    Accessible.name: qsTrId("tasks_title")
+
+    Keys.onPressed: event => {
+        const row = root.currentIndex;
+        event.accepted = true;
+        if (event.key === Qt.Key_Up && event.modifiers & Qt.AltModifier)
+            root.move(row, -1);
+        else if (event.key === Qt.Key_Down && event.modifiers & Qt.AltModifier)
+            root.move(row, 1);
+        else if ((event.key === Qt.Key_Return || event.key === Qt.Key_Enter) && event.modifiers & Qt.ControlModifier)
+            root.screen.toggleDone(row);
+        else if (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)
+            root.screen.makeActive(row);
+        else if (event.key === Qt.Key_Delete)
+            root.screen.removeFromQueue(row);
+        else if (event.key === Qt.Key_Plus)
+            root.subtaskRow = row;
+        else
+            event.accepted = false;
+    }
+
+    T.ScrollBar.vertical: ScrollBarThin {}
+
+    delegate: QueueRow {
+        width: root.width
+    }
+}

@@ -1,0 +1,167 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import NorvinFocus.Ui
+
+/// A task or subtask of the queue, with what can be done to it.
+Item {
+    id: root
+
+    required property int index
+    required property string taskId
+    required property string title
+    required property int depth
+    required property bool isDone
+    required property bool isActive
+    required property string projectName
+    required property string projectColor
+    required property int subtaskCount
+    required property int completedSubtaskCount
+    required property int queueIndex
+
+    readonly property QueueList list: ListView.view as QueueList
+    readonly property bool isTask: root.depth === 0
+    readonly property bool isCurrent: root.ListView.isCurrentItem && root.list.activeFocus
+    readonly property bool showsActions: hover.hovered || root.isCurrent
+    readonly property bool showsDetail: root.isTask && (root.projectName.length > 0 || root.subtaskCount > 0)
+    readonly property bool isTyping: root.list.subtaskRow === root.index
+
+    function detail(): string {
+        const steps = root.subtaskCount > 0 ? qsTrId("subtasks_done").arg(root.completedSubtaskCount).arg(root.subtaskCount) : "";
+        return root.projectName.length > 0 && steps.length > 0 ? root.projectName + " · " + steps : root.projectName + steps;
+    }
+
+    implicitHeight: body.height + (root.isTyping ? subtask.height + Theme.gap1 : 0)
+    z: handle.pressed ? 2 : 0
+    Accessible.role: Accessible.ListItem
+    Accessible.name: root.isDone ? qsTrId("task_done_name").arg(root.title) : root.isActive ? qsTrId("task_active_name").arg(root.title) : root.title
+
+    Rectangle {
+        id: body
+
+        width: parent.width
+        height: root.showsDetail ? 56 : root.isTask ? 44 : 38
+        radius: Theme.radius
+        color: handle.pressed ? Theme.surfacePressed : root.isActive && root.isTask ? Theme.accentSurface : root.showsActions ? Theme.surfaceRaised : root.isTask ? Theme.surface : "transparent"
+        transform: Translate {
+            y: handle.pressed ? handle.offset : 0
+        }
+
+        HoverHandler {
+            id: hover
+        }
+
+        TapHandler {
+            onTapped: {
+                root.list.currentIndex = root.index;
+                root.list.forceActiveFocus(Qt.MouseFocusReason);
+            }
+            onDoubleTapped: root.list.screen.makeActive(root.index)
+        }
+
+        RowLayout {
+            anchors.fill: parent
+            anchors.leftMargin: Theme.gap1 + 24 * Math.min(root.depth, 4)
+            anchors.rightMargin: Theme.gap1
+            spacing: 0
+
+            CheckCircle {
+                checked: root.isDone
+                text: root.isDone ? qsTrId("task_reopen").arg(root.title) : qsTrId("task_tick").arg(root.title)
+                onClicked: root.list.screen.toggleDone(root.index)
+            }
+
+            ColumnLayout {
+                Layout.fillWidth: true
+                Layout.leftMargin: Theme.gap1
+                spacing: 0
+
+                ThemedText {
+                    Layout.fillWidth: true
+                    text: root.title
+                    color: root.isDone ? Theme.textFaint : root.isTask ? Theme.text : Theme.textMuted
+                    font.strikeout: root.isDone
+                    font.weight: root.isActive && root.isTask ? Font.DemiBold : Font.Normal
+                    elide: Text.ElideRight
+                    Accessible.ignored: true
+                }
+
+                RowLayout {
+                    visible: root.showsDetail
+                    spacing: Theme.gap1
+
+                    Rectangle {
+                        implicitWidth: 8
+                        implicitHeight: 8
+                        radius: 4
+                        visible: root.projectName.length > 0
+                        color: root.projectColor.length > 0 ? root.projectColor : Theme.textFaint
+                    }
+
+                    ThemedText {
+                        Layout.fillWidth: true
+                        text: root.detail()
+                        color: Theme.textMuted
+                        font.pixelSize: Theme.caption
+                        elide: Text.ElideRight
+                    }
+                }
+            }
+
+            QueueRowActions {
+                visible: root.showsActions
+                row: root as QueueRow
+            }
+
+            Item {
+                implicitWidth: 24
+                implicitHeight: 32
+                visible: root.isTask && root.showsActions && root.list.screen.queue.taskCount > 1
+
+                Symbol {
+                    anchors.centerIn: parent
+                    name: "line.3.horizontal"
+                    color: Theme.textFaint
+                    size: 16
+                }
+
+                QueueDragArea {
+                    id: handle
+
+                    anchors.fill: parent
+                    row: root as QueueRow
+                }
+            }
+        }
+
+        FocusRing {
+            shown: root.isCurrent
+            distance: -1
+            innerRadius: Theme.radius
+        }
+    }
+
+    // Where the dragged task would land.
+    Rectangle {
+        width: parent.width
+        height: 2
+        radius: 1
+        y: root.list.dropPlace > root.list.draggedPlace ? body.height : -2
+        color: Theme.accentText
+        visible: root.isTask && root.list.dropPlace === root.queueIndex && root.list.dropPlace !== root.list.draggedPlace
+    }
+
+    Loader {
+        id: subtask
+
+        x: Theme.gap8
+        y: body.height + Theme.gap1
+        width: parent.width - x
+        active: root.isTyping
+
+        sourceComponent: SubtaskField {
+            row: root as QueueRow
+        }
+    }
+}

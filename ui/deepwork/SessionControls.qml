@@ -1,0 +1,47 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import NorvinFocus.Ui
+
+/// Start, pause, resume on one button that stays where it is, so that it keeps the keyboard; and stop.
+RowLayout {
+    id: root
+
+    required property DeepWorkScreen screen
+    readonly property string timerState: root.screen.state
+
+    function toggle(): void {
+        if (root.screen.state === "running")
+            root.screen.pause();
+        else if (root.screen.state === "paused")
+            root.screen.resume();
+        else
+            root.screen.start();
+    }
+
+    function focusPrimary(): void {
+        primary.forceActiveFocus(Qt.TabFocusReason);
+    }
+
+    spacing: Theme.gap3
+
+    PushButton {
+        id: primary
+
+        objectName: "primaryButton"
+        kind: PushButton.Kind.Primary
+        symbol: root.timerState === "running" ? "pause" : "play"
+        text: root.timerState === "running" ? qsTrId("pause_button") : root.timerState === "paused" ? qsTrId("resume_button") : qsTrId("start_button")
+        onClicked: root.toggle()
+    }
+
+    PushButton {
+        objectName: "stopButton"
+        implicitHeight: Theme.controlHeightLarge
+        visible: root.timerState === "running" || root.timerState === "paused"
+        symbol: "stop"
+        text: qsTrId("stop_button")
+        onClicked: root.screen.stop()
+    }
+}

@@ -1,0 +1,40 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import NorvinFocus.Ui
+
+/// One figure of the summary.
+Card {
+    id: root
+
+    required property string label
+    required property string value
+    property color valueColor: Theme.text
+
+    Layout.fillWidth: true
+    Layout.fillHeight: true
+    Layout.preferredWidth: 1
+    implicitHeight: column.implicitHeight + 2 * Theme.gap4
+
+    ColumnLayout {
+        id: column
+
+        anchors.fill: parent
+        anchors.margins: Theme.gap4
+        spacing: Theme.gap1
+
+        Digits {
+            text: root.value
+            pixelSize: Theme.headline - 2
+            color: root.valueColor
+        }
+
+        ThemedText {
+            Layout.fillWidth: true
+            text: root.label
+            color: Theme.textMuted
+            wrapMode: Text.WordWrap
+        }
+    }
+}

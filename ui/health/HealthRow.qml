@@ -1,0 +1,89 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import NorvinFocus.Ui
+
+/// One check with its outcome.
+Card {
+    id: root
+
+    required property string capability
+    required property bool isAvailable
+    required property string reason
+    required property string remedy
+    required property string detail
+    required property bool hasKeyboard
+
+    implicitHeight: Math.max(row.implicitHeight + 2 * Theme.gap3, 52)
+    radius: Theme.radius
+    Accessible.role: Accessible.ListItem
+    Accessible.name: root.capability + ", " + (root.isAvailable ? qsTrId("health_works") : qsTrId("health_fails"))
+    Accessible.description: root.isAvailable ? "" : root.reason + " " + root.remedy
+
+    RowLayout {
+        id: row
+
+        anchors.fill: parent
+        anchors.leftMargin: Theme.gap5
+        anchors.rightMargin: Theme.gap5
+        anchors.topMargin: Theme.gap3
+        anchors.bottomMargin: Theme.gap3
+        spacing: Theme.gap4
+
+        Symbol {
+            Layout.alignment: Qt.AlignTop
+            name: root.isAvailable ? "checkmark.circle.fill" : "exclamationmark.triangle"
+            color: root.isAvailable ? Theme.legitimate : Theme.amber
+            size: 20
+        }
+
+        ColumnLayout {
+            Layout.fillWidth: true
+            spacing: Theme.gap1
+
+            ThemedText {
+                Layout.fillWidth: true
+                text: root.capability
+                font.weight: Font.DemiBold
+                wrapMode: Text.WordWrap
+            }
+
+            ThemedText {
+                Layout.fillWidth: true
+                visible: !root.isAvailable
+                text: root.reason
+                color: Theme.textMuted
+                wrapMode: Text.WordWrap
+            }
+
+            ThemedText {
+                Layout.fillWidth: true
+                visible: !root.isAvailable
+                text: root.remedy
+                wrapMode: Text.WordWrap
+            }
+
+            ThemedText {
+                Layout.fillWidth: true
+                visible: !root.isAvailable && root.detail.length > 0
+                text: root.detail
+                color: Theme.textFaint
+                font.pixelSize: Theme.caption
+                wrapMode: Text.WrapAnywhere
+            }
+        }
+
+        ThemedText {
+            Layout.alignment: Qt.AlignTop
+            text: root.isAvailable ? qsTrId("health_works") : qsTrId("health_fails")
+            color: root.isAvailable ? Theme.legitimate : Theme.amber
+        }
+    }
+
+    FocusRing {
+        shown: root.hasKeyboard && root.ListView.isCurrentItem
+        distance: -1
+        innerRadius: Theme.radius
+    }
+}

@@ -1,0 +1,81 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Templates as T
+import NorvinFocus.Ui
+
+/// What of this desktop works for the program, and what to do about the rest.
+Page {
+    id: root
+
+    required property TrackingHealthModel health
+    readonly property bool isAllGood: root.health.problemCount === 0
+
+    heading: qsTrId("health_title")
+    introduction: qsTrId("health_subtitle")
+
+    onEntered: {
+        root.health.refresh();
+        again.forceActiveFocus(Qt.OtherFocusReason);
+    }
+
+    headingContent: PushButton {
+        id: again
+
+        symbol: "arrow.clockwise"
+        text: qsTrId("health_check_again")
+        onClicked: root.health.refresh()
+    }
+
+    Card {
+        Layout.fillWidth: true
+        implicitHeight: 64
+        color: root.isAllGood ? Theme.legitimateSurface : Theme.amberSurface
+
+        RowLayout {
+            anchors.fill: parent
+            anchors.leftMargin: Theme.gap5
+            anchors.rightMargin: Theme.gap5
+            spacing: Theme.gap4
+
+            Symbol {
+                name: root.isAllGood ? "checkmark.circle.fill" : "exclamationmark.triangle"
+                color: root.isAllGood ? Theme.legitimate : Theme.amber
+                size: 24
+            }
+
+            ThemedText {
+                Layout.fillWidth: true
+                text: root.isAllGood ? qsTrId("health_all_good") : qsTrId("health_problems", root.health.problemCount)
+                font.pixelSize: Theme.bodyLarge
+                font.weight: Font.DemiBold
+                wrapMode: Text.WordWrap
+            }
+        }
+    }
+
+    ListView {
+        id: list
+
+        Layout.fillWidth: true
+        Layout.fillHeight: true
+        Layout.bottomMargin: Theme.gap4
+        objectName: "healthList"
+        clip: true
+        spacing: Theme.gap1
+        activeFocusOnTab: true
+        boundsBehavior: Flickable.StopAtBounds
+        highlightMoveDuration: 0
+        model: root.health
+        Accessible.role: Accessible.List
+        Accessible.name: qsTrId("health_title")
+
+        T.ScrollBar.vertical: ScrollBarThin {}
+
+        delegate: HealthRow {
+            width: list.width - Theme.gap3
+            hasKeyboard: list.activeFocus
+        }
+    }
+}

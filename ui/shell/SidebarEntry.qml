@@ -1,0 +1,78 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Templates as T
+import NorvinFocus.Ui
+
+/// The way to one page.
+T.Button {
+    id: root
+
+    required property string symbol
+    required property bool isCurrent
+    /// The keys that do the same, as they are shown.
+    required property string keys
+    /// How many things want attention there; 0 shows nothing.
+    property int badge: 0
+    property string badgeName: ""
+    readonly property color foreground: root.isCurrent ? Theme.text : root.hovered ? Theme.text : Theme.textMuted
+
+    Layout.fillWidth: true
+    implicitHeight: Theme.controlHeight
+    hoverEnabled: true
+    focusPolicy: Qt.TabFocus
+    Accessible.role: Accessible.PageTab
+    Accessible.name: root.badgeName.length > 0 ? root.text + ", " + root.badgeName : root.text
+    Accessible.selected: root.isCurrent
+
+    Keys.onReturnPressed: root.clicked()
+    Keys.onEnterPressed: root.clicked()
+    Keys.onUpPressed: root.nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
+    Keys.onDownPressed: root.nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+
+    contentItem: Item {
+        RowLayout {
+            anchors.fill: parent
+            anchors.leftMargin: Theme.gap3
+            anchors.rightMargin: Theme.gap2
+            spacing: Theme.gap3
+
+            Symbol {
+                name: root.symbol
+                color: root.isCurrent ? Theme.accentText : root.foreground
+                size: 20
+            }
+
+            ThemedText {
+                Layout.fillWidth: true
+                text: root.text
+                color: root.foreground
+                font.weight: root.isCurrent ? Font.DemiBold : Font.Normal
+                wrapMode: Text.WordWrap
+                Accessible.ignored: true
+            }
+
+            CountBadge {
+                visible: root.badge > 0
+                count: root.badge
+            }
+        }
+    }
+
+    background: Rectangle {
+        radius: Theme.radius
+        color: root.isCurrent ? Theme.surfaceRaised : root.hovered ? Theme.surface : "transparent"
+
+        FocusRing {
+            shown: root.visualFocus
+            distance: 1
+            innerRadius: Theme.radius
+        }
+    }
+
+    HoverHint {
+        text: root.keys
+        shown: root.hovered
+    }
+}
