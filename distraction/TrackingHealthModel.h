@@ -42,7 +42,7 @@ public:
     [[nodiscard]] const Availability& availability(int row) const { return m_answers.at(row); }
 
     /// Asks every check again.
-    void refresh();
+    Q_INVOKABLE void refresh();
     /// Gives the texts anew, for another language.
     void retranslate();
 
