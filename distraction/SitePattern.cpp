@@ -1,5 +1,6 @@
 #include "distraction/SitePattern.h"
 
+#include <QRegularExpression>
 #include <QUrl>
 
 #include <algorithm>
@@ -26,7 +27,11 @@ bool isHostCharacter(QChar c) {
 } // namespace
 
 std::optional<QString> normalizedSitePattern(const QString& text) {
-    QString host = withoutScheme(text.trimmed().toLower());
+    QString host = text.trimmed().toLower();
+    // An address may carry another one in its path or query.
+    const qsizetype afterHost = host.indexOf(QRegularExpression(QStringLiteral("[/?#]")));
+    if (host.indexOf(QLatin1String("://")) == afterHost - 1)
+        host = withoutScheme(host);
     for (const QChar delimiter : {u'/', u'\\', u'?', u'#'})
         keepBefore(host, delimiter);
     host = host.mid(host.lastIndexOf(u'@') + 1);
