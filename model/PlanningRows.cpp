@@ -5,6 +5,8 @@
 #include <SQLiteCpp/Exception.h>
 
 #include <tuple>
+#include <utility>
+#include <vector>
 
 namespace norvin {
 
@@ -185,7 +187,8 @@ void PlanningGraph::loadPhases(StoreConnection& connection) {
 void PlanningGraph::loadTasks(StoreConnection& connection) {
     const CachedStatement rows = connection.statement(
         "SELECT id, title, taskDescription, statusValue, priorityValue, dueDate, createdAt, plannedDate, "
-        "project, phase FROM TaskItem ORDER BY rowid");
+        "project, phase, parentTask FROM TaskItem ORDER BY rowid");
+    std::vector<std::pair<TaskItem*, QUuid>> parents;
     while (rows->executeStep()) {
         auto* task = new TaskItem({.id = TaskId(row::uuid(*rows, 0)),
                                    .title = row::text(*rows, 1),
@@ -207,16 +210,12 @@ void PlanningGraph::loadTasks(StoreConnection& connection) {
         task->m_phase = find(m_phases, *rows, 9);
         if (task->m_phase != nullptr)
             task->m_phase->m_tasks.append(task);
+        if (!rows->isColumnNull(10))
+            parents.emplace_back(task, row::uuid(*rows, 10));
     }
-    rows->tryReset();
-
-    // A second pass, since a task may be older than its parent.
-    const CachedStatement links = connection.statement(
-        "SELECT id, parentTask FROM TaskItem WHERE parentTask IS NOT NULL ORDER BY rowid");
-    while (links->executeStep()) {
-        if (TaskItem* const task = find(m_tasks, *links, 0))
-            task->m_parentTask = find(m_tasks, *links, 1);
-    }
+    // A task may be older than its parent.
+    for (const auto& [task, parent] : parents)
+        task->m_parentTask = m_tasks.byId.value(parent);
     linkSubtasks();
 }
 

@@ -99,7 +99,8 @@ StoreError storeError(const SQLite::Exception& exception) {
 }
 
 StoreConnection::StoreConnection(const QString& file, std::chrono::milliseconds lockWait, Locking locking)
-    : m_database(QFile::encodeName(file).toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE,
+    : m_database(QFile::encodeName(file).toStdString(),
+                 SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE | SQLite::OPEN_NOMUTEX,
                  static_cast<int>(lockWait.count())) {
     sqlite3* const handle = m_database.getHandle();
     // Without the right to write, the library quietly opens for reading.
