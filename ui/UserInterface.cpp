@@ -7,7 +7,9 @@
 #include "ui/ForeignTypes.h"
 #include "ui/ImageProviders.h"
 #include "ui/Localization.h"
+#include "ui/MotionPreference.h"
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QIcon>
 #include <QQmlComponent>
@@ -26,7 +28,8 @@ UserInterface::UserInterface(DeepWorkScreen& deepWork, ApplicationListModel& app
     , m_deepWork(deepWork)
     , m_applications(applications)
     , m_health(health)
-    , m_localization(localization) {
+    , m_localization(localization)
+    , m_motion(std::make_unique<MotionPreference>()) {
     connect(&localization, &Localization::languageChanged, this, [this] {
         m_health.retranslate();
         if (m_engine)
@@ -39,18 +42,21 @@ UserInterface::~UserInterface() = default;
 bool UserInterface::load() {
     qml_register_types_NorvinFocus_Ui();
     m_engine = std::make_unique<QQmlEngine>();
+    m_engine->addImportPath(QStringLiteral("qrc:/"));
     m_engine->setProperty(qml::LocalizationType::engineProperty, QVariant::fromValue(&m_localization));
-    m_engine->setProperty(qml::MotionPreferenceType::engineProperty, QVariant::fromValue(&m_motion));
+    m_engine->setProperty(qml::MotionPreferenceType::engineProperty, QVariant::fromValue(m_motion.get()));
     m_engine->addImageProvider(QStringLiteral("appicon"), new AppIconProvider);
     m_engine->addImageProvider(QStringLiteral("symbol"), new SymbolProvider);
 
     QQmlComponent component(m_engine.get(), QUrl(QStringLiteral("qrc:/NorvinFocus/Ui/shell/Main.qml")));
-    std::unique_ptr<QObject> root(component.createWithInitialProperties({
-        {QStringLiteral("deepWork"), QVariant::fromValue(&m_deepWork)},
-        {QStringLiteral("applications"), QVariant::fromValue(&m_applications)},
-        {QStringLiteral("health"), QVariant::fromValue(&m_health)},
-        {QStringLiteral("storeProblem"), m_storeProblem},
-    }));
+    std::unique_ptr<QObject> root;
+    if (component.isReady())
+        root.reset(component.createWithInitialProperties({
+            {QStringLiteral("deepWork"), QVariant::fromValue(&m_deepWork)},
+            {QStringLiteral("applications"), QVariant::fromValue(&m_applications)},
+            {QStringLiteral("health"), QVariant::fromValue(&m_health)},
+            {QStringLiteral("storeProblem"), m_storeProblem},
+        }));
     m_window.reset(qobject_cast<QQuickWindow*>(root.get()));
     if (!m_window) {
         logLine(QStringLiteral("UserInterface: The window cannot be built: %1").arg(component.errorString()));
@@ -59,12 +65,13 @@ bool UserInterface::load() {
     static_cast<void>(root.release()); // the same object as m_window
     m_window->setIcon(QIcon(QStringLiteral(":/icons/com.norvin.Focus.svg")));
     m_window->installEventFilter(this);
+    QCoreApplication::instance()->installEventFilter(this);
     connect(m_window.get(), SIGNAL(quitConfirmed()), this, SLOT(quit()));
     connect(
         m_window.get(), &QQuickWindow::frameSwapped, this,
         [this] {
             // Asked only now, so that a slow bus cannot hold up the first picture.
-            m_motion.askDesktop();
+            m_motion->askDesktop();
             Q_EMIT firstFrameShown();
         },
         static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
@@ -101,7 +108,9 @@ void UserInterface::quit() {
 }
 
 bool UserInterface::eventFilter(QObject* watched, QEvent* event) {
-    // A window that refuses to close would also stop the application from quitting.
+    // The application closes its windows to quit, and gives up quitting when one of them refuses.
+    if (watched == QCoreApplication::instance() && event->type() == QEvent::Quit)
+        m_isQuitting = true;
     if (watched != m_window.get() || event->type() != QEvent::Close || m_isQuitting)
         return QObject::eventFilter(watched, event);
     if (!isPhaseUnderWay()) {

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "ui/MotionPreference.h"
-
 #include <QObject>
 #include <QString>
 
@@ -15,6 +13,7 @@ namespace norvin {
 class ApplicationListModel;
 class DeepWorkScreen;
 class Localization;
+class MotionPreference;
 class TrackingHealthModel;
 
 /// The main window and what is behind it. Needs a QGuiApplication that does not quit by itself when its last
@@ -64,7 +63,7 @@ private:
     ApplicationListModel& m_applications;
     TrackingHealthModel& m_health;
     Localization& m_localization;
-    MotionPreference m_motion;
+    std::unique_ptr<MotionPreference> m_motion;
     std::unique_ptr<QQmlEngine> m_engine;
     std::unique_ptr<QQuickWindow> m_window;
     QString m_storeProblem;

@@ -17,7 +17,7 @@ T.TextField {
     verticalAlignment: TextInput.AlignVCenter
     color: Theme.text
     selectionColor: Theme.accent
-    selectedTextColor: Theme.onAccent
+    selectedTextColor: Theme.accentInk
     placeholderTextColor: Theme.textFaint
     font.pixelSize: Theme.body
     selectByMouse: true

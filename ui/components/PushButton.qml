@@ -18,7 +18,7 @@ T.Button {
 
     property int kind: PushButton.Kind.Secondary
     property string symbol: ""
-    readonly property color foreground: root.kind === PushButton.Kind.Primary ? Theme.onAccent : root.kind === PushButton.Kind.Danger ? Theme.onDanger : Theme.text
+    readonly property color foreground: root.kind === PushButton.Kind.Primary ? Theme.accentInk : root.kind === PushButton.Kind.Danger ? Theme.dangerInk : Theme.text
 
     function surfaceColor(): color {
         switch (root.kind) {

@@ -81,7 +81,7 @@ FocusScope {
 
                 contentItem: ThemedText {
                     text: segment.text
-                    color: segment.checked ? Theme.onAccent : segment.hovered ? Theme.text : Theme.textMuted
+                    color: segment.checked ? Theme.accentInk : segment.hovered ? Theme.text : Theme.textMuted
                     font.weight: segment.checked ? Font.DemiBold : Font.Normal
                     horizontalAlignment: Text.AlignHCenter
                     verticalAlignment: Text.AlignVCenter

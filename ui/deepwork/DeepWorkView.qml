@@ -92,7 +92,7 @@ FocusScope {
             id: page
 
             readonly property int margin: Theme.gap8
-            readonly property int ringSize: Math.round(Math.min(440, Math.max(190, page.height - 2 * page.margin - column.implicitHeight + ring.Layout.preferredHeight)))
+            readonly property int ringSize: Math.round(Math.min(440, Math.max(190, page.height - 2 * page.margin - heading.implicitHeight - lower.implicitHeight - 2 * column.spacing)))
 
             Layout.fillWidth: true
             Layout.fillHeight: true
@@ -112,6 +112,8 @@ FocusScope {
                 spacing: Theme.gap5
 
                 ThemedText {
+                    id: heading
+
                     Layout.alignment: Qt.AlignHCenter
                     visible: !root.isCompleted
                     text: root.phaseName()
@@ -121,8 +123,6 @@ FocusScope {
                 }
 
                 CountdownRing {
-                    id: ring
-
                     Layout.alignment: Qt.AlignHCenter
                     Layout.preferredWidth: page.ringSize
                     Layout.preferredHeight: page.ringSize
@@ -134,75 +134,82 @@ FocusScope {
                     caption: root.isIdle ? qsTrId("ring_idle") : root.screen.state === "paused" ? qsTrId("ring_paused") : qsTrId("ring_running")
                 }
 
-                ThemedText {
-                    objectName: "activeTaskLine"
-                    Layout.alignment: Qt.AlignHCenter
-                    Layout.maximumWidth: column.width
-                    visible: !root.isCompleted && text.length > 0
-                    text: root.taskLine()
-                    color: root.isIdle ? Theme.textMuted : Theme.text
-                    font.pixelSize: Theme.bodyLarge
-                    horizontalAlignment: Text.AlignHCenter
-                    wrapMode: Text.Wrap
-                    maximumLineCount: 2
-                    elide: Text.ElideRight
-                }
-
-                DurationChoice {
-                    Layout.alignment: Qt.AlignHCenter
-                    visible: root.isIdle
-                    screen: root.screen
-                }
-
-                SessionControls {
-                    id: controls
-
-                    Layout.alignment: Qt.AlignHCenter
-                    visible: !root.isCompleted
-                    screen: root.screen
-                }
-
-                ThemedText {
-                    Layout.alignment: Qt.AlignHCenter
-                    visible: root.isIdle
-                    text: qsTrId("space_hint")
-                    color: Theme.textFaint
-                    font.pixelSize: Theme.caption
-                }
-
-                SessionPanel {
-                    Layout.fillWidth: true
-                    visible: root.measures
-                    screen: root.screen
-                    session: session
-                }
-
-                ThemedText {
-                    Layout.alignment: Qt.AlignHCenter
-                    Layout.maximumWidth: 420
-                    visible: !root.isIdle && !root.isCompleted && root.screen.phase !== "work"
-                    text: root.screen.phase === "break_time" ? qsTrId("break_subtitle") : qsTrId("rearming_subtitle")
-                    color: Theme.textMuted
-                    horizontalAlignment: Text.AlignHCenter
-                    wrapMode: Text.WordWrap
-                }
-
-                CompletedPanel {
-                    id: completed
+                ColumnLayout {
+                    id: lower
 
                     Layout.fillWidth: true
-                    visible: root.isCompleted
-                    screen: root.screen
-                    session: session
-                }
+                    spacing: Theme.gap5
 
-                // The coach speaks here.
-                Item {
-                    objectName: "coachPlace"
-                    Layout.fillWidth: true
-                    Layout.topMargin: -Theme.gap5
-                    implicitHeight: 0
-                    enabled: false
+                    ThemedText {
+                        objectName: "activeTaskLine"
+                        Layout.alignment: Qt.AlignHCenter
+                        Layout.maximumWidth: column.width
+                        visible: !root.isCompleted && text.length > 0
+                        text: root.taskLine()
+                        color: root.isIdle ? Theme.textMuted : Theme.text
+                        font.pixelSize: Theme.bodyLarge
+                        horizontalAlignment: Text.AlignHCenter
+                        wrapMode: Text.Wrap
+                        maximumLineCount: 2
+                        elide: Text.ElideRight
+                    }
+
+                    DurationChoice {
+                        Layout.alignment: Qt.AlignHCenter
+                        visible: root.isIdle
+                        screen: root.screen
+                    }
+
+                    SessionControls {
+                        id: controls
+
+                        Layout.alignment: Qt.AlignHCenter
+                        visible: !root.isCompleted
+                        screen: root.screen
+                    }
+
+                    ThemedText {
+                        Layout.alignment: Qt.AlignHCenter
+                        visible: root.isIdle
+                        text: qsTrId("space_hint")
+                        color: Theme.textFaint
+                        font.pixelSize: Theme.caption
+                    }
+
+                    SessionPanel {
+                        Layout.fillWidth: true
+                        visible: root.measures
+                        screen: root.screen
+                        session: session
+                    }
+
+                    ThemedText {
+                        Layout.alignment: Qt.AlignHCenter
+                        Layout.maximumWidth: 420
+                        visible: !root.isIdle && !root.isCompleted && root.screen.phase !== "work"
+                        text: root.screen.phase === "break_time" ? qsTrId("break_subtitle") : qsTrId("rearming_subtitle")
+                        color: Theme.textMuted
+                        horizontalAlignment: Text.AlignHCenter
+                        wrapMode: Text.WordWrap
+                    }
+
+                    CompletedPanel {
+                        id: completed
+
+                        Layout.fillWidth: true
+                        visible: root.isCompleted
+                        screen: root.screen
+                        session: session
+                    }
+
+                    // The coach speaks here.
+                    Item {
+                        objectName: "coachPlace"
+                        Layout.fillWidth: true
+                        Layout.topMargin: -Theme.gap5
+                        implicitHeight: 0
+                        enabled: false
+                    }
                 }
             }
         }

@@ -7,39 +7,39 @@ import NorvinFocus.Ui
 MouseArea {
     id: root
 
-    required property QueueRow row
+    required property QueueState queue
+    required property int index
+    required property int queueIndex
+    /// What the list scrolls; heights are measured in it.
+    required property Item content
     property real startY: 0
     /// How far the row was dragged, in pixels.
     property real offset: 0
 
-    function update(mouse: MouseEvent): void {
-        const list = root.row.list;
-        const y = root.mapToItem(list.contentItem, mouse.x, mouse.y).y;
-        root.offset = y - root.startY;
-        const under = list.itemAt(list.width / 2, y) as QueueRow;
-        if (under)
-            list.dropPlace = under.queueIndex;
+    function forget(): void {
+        root.queue.dropPlace = -1;
+        root.queue.draggedPlace = -1;
+        root.offset = 0;
     }
 
     preventStealing: true
     cursorShape: root.pressed ? Qt.ClosedHandCursor : Qt.OpenHandCursor
 
     onPressed: mouse => {
-        root.startY = root.mapToItem(root.row.list.contentItem, mouse.x, mouse.y).y;
-        root.offset = 0;
-        root.row.list.draggedPlace = root.row.queueIndex;
-        root.row.list.dropPlace = root.row.queueIndex;
+        root.startY = root.mapToItem(root.content, mouse.x, mouse.y).y;
+        root.queue.draggedPlace = root.queueIndex;
+        root.queue.dropPlace = root.queueIndex;
     }
-    onPositionChanged: mouse => root.update(mouse)
+    onPositionChanged: mouse => {
+        // The row moves under the pointer, and the handle with it.
+        const y = root.mapToItem(root.content, mouse.x, mouse.y).y;
+        root.offset = y - root.startY;
+        root.queue.draggedTo(y);
+    }
     onReleased: {
-        const list = root.row.list;
-        const places = list.dropPlace - root.row.queueIndex;
-        list.dropPlace = -1;
-        list.draggedPlace = -1;
-        list.move(root.row.index, places);
+        const places = root.queue.dropPlace - root.queueIndex;
+        root.forget();
+        root.queue.moveAsked(root.index, places);
     }
-    onCanceled: {
-        root.row.list.dropPlace = -1;
-        root.row.list.draggedPlace = -1;
-    }
+    onCanceled: root.forget()
 }

@@ -10,12 +10,6 @@ ListView {
     id: root
 
     required property DeepWorkScreen screen
-    /// The row that a subtask is being typed for; -1 for none.
-    property int subtaskRow: -1
-    /// While a task is dragged: the place in the queue that it would get; -1 otherwise.
-    property int dropPlace: -1
-    /// While a task is dragged: the place that it has; -1 otherwise.
-    property int draggedPlace: -1
 
     function move(row: int, places: int): void {
         const taskId = root.taskIdAt(row);
@@ -64,14 +58,31 @@ ListView {
         else if (event.key === Qt.Key_Delete)
             root.screen.removeFromQueue(row);
         else if (event.key === Qt.Key_Plus)
-            root.subtaskRow = row;
+            queueState.subtaskRow = row;
         else
             event.accepted = false;
+    }
+
+    QueueState {
+        id: queueState
+
+        screen: root.screen
+        onMoveAsked: (row, places) => root.move(row, places)
+        onRowAsked: row => {
+            root.currentIndex = row;
+            root.forceActiveFocus(Qt.TabFocusReason);
+        }
+        onDraggedTo: y => {
+            const under = root.itemAt(root.width / 2, y) as QueueRow;
+            if (under)
+                queueState.dropPlace = under.queueIndex;
+        }
     }
 
     T.ScrollBar.vertical: ScrollBarThin {}
 
     delegate: QueueRow {
         width: root.width
+        queue: queueState
     }
 }

@@ -19,13 +19,13 @@ Item {
     required property int subtaskCount
     required property int completedSubtaskCount
     required property int queueIndex
+    required property QueueState queue
 
-    readonly property QueueList list: ListView.view as QueueList
     readonly property bool isTask: root.depth === 0
-    readonly property bool isCurrent: root.ListView.isCurrentItem && root.list.activeFocus
+    readonly property bool isCurrent: root.ListView.isCurrentItem && root.ListView.view.activeFocus
     readonly property bool showsActions: hover.hovered || root.isCurrent
     readonly property bool showsDetail: root.isTask && (root.projectName.length > 0 || root.subtaskCount > 0)
-    readonly property bool isTyping: root.list.subtaskRow === root.index
+    readonly property bool isTyping: root.queue.subtaskRow === root.index
 
     function detail(): string {
         const steps = root.subtaskCount > 0 ? qsTrId("subtasks_done").arg(root.completedSubtaskCount).arg(root.subtaskCount) : "";
@@ -53,11 +53,8 @@ Item {
         }
 
         TapHandler {
-            onTapped: {
-                root.list.currentIndex = root.index;
-                root.list.forceActiveFocus(Qt.MouseFocusReason);
-            }
-            onDoubleTapped: root.list.screen.makeActive(root.index)
+            onTapped: root.queue.rowAsked(root.index)
+            onDoubleTapped: root.queue.screen.makeActive(root.index)
         }
 
         RowLayout {
@@ -69,7 +66,7 @@ Item {
             CheckCircle {
                 checked: root.isDone
                 text: root.isDone ? qsTrId("task_reopen").arg(root.title) : qsTrId("task_tick").arg(root.title)
-                onClicked: root.list.screen.toggleDone(root.index)
+                onClicked: root.queue.screen.toggleDone(root.index)
             }
 
             ColumnLayout {
@@ -111,13 +108,18 @@ Item {
 
             QueueRowActions {
                 visible: root.showsActions
-                row: root as QueueRow
+                queue: root.queue
+                index: root.index
+                queueIndex: root.queueIndex
+                title: root.title
+                isTask: root.isTask
+                canBecomeActive: root.isTask && !root.isActive && !root.isDone
             }
 
             Item {
                 implicitWidth: 24
                 implicitHeight: 32
-                visible: root.isTask && root.showsActions && root.list.screen.queue.taskCount > 1
+                visible: root.isTask && root.showsActions && root.queue.screen.queue.taskCount > 1
 
                 Symbol {
                     anchors.centerIn: parent
@@ -130,7 +132,10 @@ Item {
                     id: handle
 
                     anchors.fill: parent
-                    row: root as QueueRow
+                    queue: root.queue
+                    index: root.index
+                    queueIndex: root.queueIndex
+                    content: root.ListView.view.contentItem
                 }
             }
         }
@@ -147,9 +152,9 @@ Item {
         width: parent.width
         height: 2
         radius: 1
-        y: root.list.dropPlace > root.list.draggedPlace ? body.height : -2
+        y: root.queue.dropPlace > root.queue.draggedPlace ? body.height : -2
         color: Theme.accentText
-        visible: root.isTask && root.list.dropPlace === root.queueIndex && root.list.dropPlace !== root.list.draggedPlace
+        visible: root.isTask && root.queue.dropPlace === root.queueIndex && root.queue.dropPlace !== root.queue.draggedPlace
     }
 
     Loader {
@@ -161,7 +166,8 @@ Item {
         active: root.isTyping
 
         sourceComponent: SubtaskField {
-            row: root as QueueRow
+            queue: root.queue
+            index: root.index
         }
     }
 }

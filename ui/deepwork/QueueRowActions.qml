@@ -7,50 +7,55 @@ import NorvinFocus.Ui
 Row {
     id: root
 
-    required property QueueRow row
-    readonly property DeepWorkScreen screen: root.row.list.screen
+    required property QueueState queue
+    required property int index
+    required property int queueIndex
+    required property string title
+    required property bool isTask
+    required property bool canBecomeActive
+    readonly property DeepWorkScreen screen: root.queue.screen
     readonly property int taskCount: root.screen.queue.taskCount
 
     IconButton {
         implicitWidth: 28
-        visible: !root.row.isActive && !root.row.isDone && root.row.isTask
+        visible: root.canBecomeActive
         symbol: "scope"
-        text: qsTrId("task_make_active").arg(root.row.title)
-        onClicked: root.screen.makeActive(root.row.index)
+        text: qsTrId("task_make_active").arg(root.title)
+        onClicked: root.screen.makeActive(root.index)
     }
 
     IconButton {
         implicitWidth: 28
-        visible: root.row.isTask && root.taskCount > 1
-        enabled: root.row.queueIndex > 0
+        visible: root.isTask && root.taskCount > 1
+        enabled: root.queueIndex > 0
         opacity: enabled ? 1 : 0.35
         symbol: "chevron.up"
-        text: qsTrId("task_move_up").arg(root.row.title)
-        onClicked: root.row.list.move(root.row.index, -1)
+        text: qsTrId("task_move_up").arg(root.title)
+        onClicked: root.queue.moveAsked(root.index, -1)
     }
 
     IconButton {
         implicitWidth: 28
-        visible: root.row.isTask && root.taskCount > 1
-        enabled: root.row.queueIndex < root.taskCount - 1
+        visible: root.isTask && root.taskCount > 1
+        enabled: root.queueIndex < root.taskCount - 1
         opacity: enabled ? 1 : 0.35
         symbol: "chevron.down"
-        text: qsTrId("task_move_down").arg(root.row.title)
-        onClicked: root.row.list.move(root.row.index, 1)
+        text: qsTrId("task_move_down").arg(root.title)
+        onClicked: root.queue.moveAsked(root.index, 1)
     }
 
     IconButton {
         implicitWidth: 28
         symbol: "plus"
-        text: qsTrId("subtask_add").arg(root.row.title)
-        onClicked: root.row.list.subtaskRow = root.row.index
+        text: qsTrId("subtask_add").arg(root.title)
+        onClicked: root.queue.subtaskRow = root.index
     }
 
     IconButton {
         implicitWidth: 28
-        visible: root.row.isTask
+        visible: root.isTask
         symbol: "xmark"
-        text: qsTrId("task_remove").arg(root.row.title)
-        onClicked: root.screen.removeFromQueue(root.row.index)
+        text: qsTrId("task_remove").arg(root.title)
+        onClicked: root.screen.removeFromQueue(root.index)
     }
 }

@@ -7,12 +7,14 @@ import NorvinFocus.Ui
 EntryField {
     id: root
 
-    required property QueueRow row
+    required property QueueState queue
+    required property int index
 
     function close(): void {
-        const list = root.row.list;
-        list.subtaskRow = -1;
-        list.forceActiveFocus(Qt.TabFocusReason);
+        const queue = root.queue;
+        const row = root.index;
+        queue.subtaskRow = -1;
+        queue.rowAsked(row);
     }
 
     objectName: "subtaskField"
@@ -23,7 +25,7 @@ EntryField {
     Component.onCompleted: root.forceActiveFocus(Qt.TabFocusReason)
 
     onAccepted: {
-        if (root.row.list.screen.addSubtask(root.row.index, root.text))
+        if (root.queue.screen.addSubtask(root.index, root.text))
             root.clear();
         else
             root.close();

@@ -28,7 +28,7 @@ QtObject {
     readonly property color accentPressed: "#5b21b6"
     readonly property color accentText: "#b79bff"
     readonly property color accentSurface: "#22173f"
-    readonly property color onAccent: "#ffffff"
+    readonly property color accentInk: "#ffffff"
     readonly property color legitimate: "#10b981"
     readonly property color legitimateSurface: "#0d2620"
     readonly property color distracted: "#ef4444"
@@ -37,7 +37,7 @@ QtObject {
     readonly property color amberSurface: "#2a1f10"
     readonly property color danger: "#b91c1c"
     readonly property color dangerHover: "#991b1b"
-    readonly property color onDanger: "#ffffff"
+    readonly property color dangerInk: "#ffffff"
     readonly property color focusRing: "#b79bff"
 
     // Distances, multiples of four.

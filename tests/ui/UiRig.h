@@ -1,0 +1,77 @@
+#pragma once
+
+#include "distraction/ApplicationListModel.h"
+#include "distraction/TrackingHealthModel.h"
+#include "focus/DeepWorkScreen.h"
+#include "tests/support/FocusRig.h"
+#include "ui/Localization.h"
+#include "ui/UserInterface.h"
+
+#include <QAccessible>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QtTest>
+
+namespace norvin {
+
+/// The real window over a focus engine on fakes.
+struct UiRig {
+    explicit UiRig(const QString& language = QStringLiteral("en")) {
+        focus.preferences.setValue(QLatin1String(Localization::preferencesKey), language);
+        localization = std::make_unique<Localization>(focus.preferences);
+        for (const char* name : {"Archive Manager", "Calculator", "Editor", "Game", "Terminal"})
+            install(QString::fromLatin1(name));
+        health.refresh();
+        userInterface = std::make_unique<UserInterface>(deepWork, applications, health, *localization);
+        loaded = userInterface->load();
+    }
+
+    void install(const QString& name) {
+        const QString id = QStringLiteral("org.example.") + QString(name).remove(QLatin1Char(' '));
+        focus.catalog.install({.bundleIdentifier = id, .name = name, .iconName = {}, .declaredCategory = {}});
+    }
+
+    /// Shows the window and waits until it is there and has the keyboard.
+    void show() {
+        userInterface->showWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window()));
+    }
+    [[nodiscard]] QQuickWindow* window() const { return userInterface->window(); }
+    [[nodiscard]] QQuickItem* item(const char* name) const {
+        return window()->findChild<QQuickItem*>(QLatin1String(name));
+    }
+    void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const {
+        QTest::keyClick(window(), static_cast<Qt::Key>(key), modifiers);
+    }
+    void type(const QString& text) const {
+        for (const QChar character : text)
+            QTest::keyClick(window(), character.toLatin1());
+    }
+    /// @param page 0 Deep Work, 1 block lists, 2 tracking health
+    void showPage(int page) const { press(Qt::Key_1 + page, Qt::ControlModifier); }
+
+    [[nodiscard]] static QList<QQuickItem*> visibleItems(QQuickItem* root) {
+        QList<QQuickItem*> found;
+        for (QQuickItem* child : root->childItems()) {
+            if (child->isVisible())
+                found << child << visibleItems(child);
+        }
+        return found;
+    }
+    [[nodiscard]] QList<QQuickItem*> visibleItems() const { return visibleItems(window()->contentItem()); }
+
+    FocusRig focus;
+    Availability idleTime = Availability::available();
+    Availability pages = Availability::unavailable(QStringLiteral("health_browser_pages_missing"));
+    std::unique_ptr<Localization> localization;
+    DeepWorkScreen deepWork{focus.timer, focus.usage, focus.motion, focus.context()};
+    ApplicationListModel applications{focus.catalog, focus.workspace, focus.blocker};
+    TrackingHealthModel health{
+        {{QStringLiteral("health_frontmost_application"), [] { return Availability::available(); }},
+         {QStringLiteral("health_idle_time"), [this] { return idleTime; }},
+         {QStringLiteral("health_browser_pages"), [this] { return pages; }}}};
+    std::unique_ptr<UserInterface> userInterface;
+    bool loaded = false;
+};
+
+} // namespace norvin
