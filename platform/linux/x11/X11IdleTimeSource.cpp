@@ -28,6 +28,8 @@ std::string_view nameOf(const xcb_sync_systemcounter_t* counter) {
 
 X11IdleTimeSource::X11IdleTimeSource(xcb_connection_t* connection)
     : m_connection(connection) {
+    if (xcb_connection_has_error(m_connection))
+        return;
     if (const auto screens = xcb_setup_roots_iterator(xcb_get_setup(m_connection)); screens.rem > 0)
         m_root = screens.data->root;
     if (findScreenSaver())
@@ -67,7 +69,7 @@ bool X11IdleTimeSource::findSyncCounter() {
 Availability X11IdleTimeSource::availability() const {
     if (m_source == Source::None)
         return Availability::unavailable(QStringLiteral("health_no_idle_source"),
-                                         QStringLiteral("no MIT-SCREEN-SAVER, no IDLETIME counter"));
+                                         QStringLiteral("neither MIT-SCREEN-SAVER nor an IDLETIME counter"));
     return Availability::available();
 }
 

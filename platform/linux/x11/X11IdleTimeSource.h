@@ -12,7 +12,7 @@ namespace norvin {
 /// trip to the server.
 class X11IdleTimeSource final : public IdleTimeSource {
 public:
-    /// @param connection an open connection, which must outlive this object
+    /// @param connection outlives this object; a broken one counts as a server without either extension
     explicit X11IdleTimeSource(xcb_connection_t* connection);
 
     [[nodiscard]] Availability availability() const override;

@@ -77,23 +77,22 @@ void X11Windows::watchRoot() const {
     xcb_change_window_attributes(m_connection, m_root, XCB_CW_EVENT_MASK, &mask);
 }
 
-std::optional<xcb_window_t> X11Windows::windowManager() const {
+X11Windows::WindowManager X11Windows::windowManager() const {
     const xcb_atom_t atom = m_atoms[SupportingWmCheck];
     const auto onRoot = items32(takeProperty(m_connection, request(m_root, atom, 1)).get(), XCB_ATOM_WINDOW);
     if (onRoot.empty() || onRoot.front() == XCB_NONE)
-        return std::nullopt;
-    // Watched before it is looked at, or its end in between would go unnoticed.
+        return {};
+    // Watched before it is looked at, or a change in between would go unnoticed.
     const xcb_window_t window = onRoot.front();
-    const uint32_t mask = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
+    const uint32_t mask = XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_PROPERTY_CHANGE;
     const xcb_void_cookie_t watch =
         xcb_change_window_attributes_checked(m_connection, window, XCB_CW_EVENT_MASK, &mask);
     xcb_discard_reply(m_connection, watch.sequence);
-    // A window manager that was killed leaves its mark on the root window, but not on a window of its own.
+    // The mark on the root window outlives a window manager that was killed; the one on its own window does
+    // not, but is often set a moment later.
     const auto onItself =
         items32(takeProperty(m_connection, request(window, atom, 1)).get(), XCB_ATOM_WINDOW);
-    if (onItself.empty() || onItself.front() != window)
-        return std::nullopt;
-    return window;
+    return {window, !onItself.empty() && onItself.front() == window};
 }
 
 xcb_window_t X11Windows::activeWindow() const {

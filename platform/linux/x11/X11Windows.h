@@ -37,9 +37,13 @@ public:
     /// Makes the root window's property changes arrive, whatever else was asked for on this connection.
     void watchRoot() const;
 
-    /// The window by which a living window manager shows itself, from now on watched for its end; none when
-    /// there is no window manager.
-    [[nodiscard]] std::optional<xcb_window_t> windowManager() const;
+    /// The window by which a window manager shows itself, from now on watched for its end and its properties.
+    struct WindowManager {
+        xcb_window_t window = XCB_NONE;
+        /// False while it is still starting, and for the mark that a killed one left behind.
+        bool isRunning = false;
+    };
+    [[nodiscard]] WindowManager windowManager() const;
 
     /// XCB_NONE when no window has the keyboard.
     [[nodiscard]] xcb_window_t activeWindow() const;

@@ -65,6 +65,9 @@ bool X11Workspace::nativeEventFilter(const QByteArray& eventType, void* message,
     const int type = event->response_type & 0x7f;
     if (type == XCB_PROPERTY_NOTIFY) {
         const auto* notify = reinterpret_cast<const xcb_property_notify_event_t*>(event);
+        if (notify->window == m_windowManager.window && !m_windowManager.isRunning &&
+            notify->atom == m_windows.windowManagerAtom())
+            updateAvailability();
         if (notify->window != m_windows.root())
             return false;
         if (notify->atom == m_windows.activeWindowAtom())
@@ -75,7 +78,7 @@ bool X11Workspace::nativeEventFilter(const QByteArray& eventType, void* message,
             updateAvailability();
     } else if (type == XCB_DESTROY_NOTIFY) {
         const auto* notify = reinterpret_cast<const xcb_destroy_notify_event_t*>(event);
-        if (notify->window == m_windowManager)
+        if (notify->window == m_windowManager.window)
             updateAvailability();
     }
     return false;
@@ -84,8 +87,8 @@ bool X11Workspace::nativeEventFilter(const QByteArray& eventType, void* message,
 void X11Workspace::updateAvailability() {
     m_windowManager = m_windows.windowManager();
     const Availability availability =
-        m_windowManager ? Availability::available()
-                        : Availability::unavailable(QStringLiteral("health_no_window_manager"));
+        m_windowManager.isRunning ? Availability::available()
+                                  : Availability::unavailable(QStringLiteral("health_no_window_manager"));
     if (availability != m_availability) {
         m_availability = availability;
         Q_EMIT availabilityChanged();
@@ -139,15 +142,30 @@ void X11Workspace::startLosing() {
         return;
     m_losing = m_clock.after(emptyFrontTolerance, [this] {
         m_losing.reset();
+        // A window may have become active before the window manager listed it.
+        if (isManaged(m_windows.activeWindow())) {
+            updateFrontmost();
+            if (m_frontmostWindow != XCB_NONE)
+                return;
+        }
+        m_losing.reset();
         m_frontmost.reset();
         Q_EMIT frontmostApplicationLost();
     });
+}
+
+bool X11Workspace::isManaged(xcb_window_t window) const {
+    const std::vector<xcb_window_t> managed = m_windows.clientList();
+    return std::find(managed.begin(), managed.end(), window) != managed.end();
 }
 
 void X11Workspace::updateClientList() {
     m_identified.clear();
     if (!m_availability.isAvailable())
         return;
+    // Some window managers go on naming the last window active after it was closed.
+    if (m_frontmostWindow != XCB_NONE && !isManaged(m_frontmostWindow))
+        startLosing();
     for (const Hiding& hiding : m_hiding)
         iconifyWindowsOf(hiding.application);
     activateOwnWindows();

@@ -51,6 +51,7 @@ private:
     void updateClientList();
     void bringToFront(xcb_window_t window, const RunningApplication& application);
     void startLosing();
+    [[nodiscard]] bool isManaged(xcb_window_t window) const;
     void identify(const std::vector<xcb_window_t>& windows) const;
     void iconifyWindowsOf(const RunningApplication& application) const;
     void activateOwnWindows();
@@ -59,7 +60,7 @@ private:
     Clock& m_clock;
     const ApplicationIdentity& m_identity;
     Availability m_availability;
-    std::optional<xcb_window_t> m_windowManager;
+    X11Windows::WindowManager m_windowManager;
 
     std::optional<RunningApplication> m_frontmost;
     xcb_window_t m_frontmostWindow = XCB_NONE;
