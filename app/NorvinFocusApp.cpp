@@ -87,6 +87,7 @@ NorvinFocusApp::NorvinFocusApp(LinuxPlatform& platform, std::unique_ptr<ModelCon
     , m_appDelegate(platform.accessibilityTrust())
     , m_sharedModelContainer(std::move(container))
     , m_localization(platform.preferences())
+    , m_sharedServices(platform)
     , m_soundService(platform.sounds())
     , m_timerService(timerCollaborators(platform, m_soundService))
     , m_deepWorkScreen(m_timerService, AppUsageService::shared(), MotionService::shared(),
