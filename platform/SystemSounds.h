@@ -16,7 +16,8 @@ public:
 
     [[nodiscard]] virtual Availability availability() const = 0;
 
-    /// Plays a sound once; an unknown name, and any sound while unavailable, is dropped.
+    /// Plays a sound once; one that is unknown or cannot be played is dropped. Tried while unavailable as
+    /// well: that is how a server that came back is noticed.
     /// @param volume 0.0 (silent) to 1.0 (as loud as the desktop plays its own)
     virtual void play(const QString& name, double volume) = 0;
 

@@ -1,0 +1,133 @@
+#include "platform/linux/LinuxPlatform.h"
+
+#include "platform/linux/NullIdleTimeSource.h"
+#include "platform/linux/NullWorkspace.h"
+#include "platform/linux/canberra/CanberraSounds.h"
+#include "platform/linux/clock/SystemClock.h"
+#include "platform/linux/freedesktop/FreedesktopNotifications.h"
+#include "platform/linux/gio/GioApplicationCatalog.h"
+#include "platform/linux/gio/GioDesktopEntries.h"
+#include "platform/linux/identity/ApplicationIdentity.h"
+#include "platform/linux/login1/Login1SleepMonitor.h"
+#include "platform/linux/settings/IniPreferences.h"
+#include "platform/linux/x11/X11IdleTimeSource.h"
+#include "platform/linux/x11/X11Workspace.h"
+
+#include <QFile>
+#include <QGuiApplication>
+
+#include <cstring>
+
+namespace norvin {
+
+namespace {
+
+// The X server that a Wayland compositor runs for old programs sees those alone.
+bool isXwayland(xcb_connection_t* connection) {
+    constexpr const char* name = "XWAYLAND";
+    auto* reply = xcb_query_extension_reply(
+        connection, xcb_query_extension(connection, static_cast<uint16_t>(std::strlen(name)), name), nullptr);
+    const bool present = reply && reply->present;
+    std::free(reply);
+    // Servers older than the extension are told by the session.
+    return present || qgetenv("XDG_SESSION_TYPE") == "wayland";
+}
+
+enum class Display { X11, Wayland, None };
+
+struct DisplayServer {
+    Display kind = Display::None;
+    xcb_connection_t* connection = nullptr;
+};
+
+DisplayServer findDisplay() {
+    if (const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>()) {
+        if (!isXwayland(x11->connection()))
+            return {Display::X11, x11->connection()};
+        return {Display::Wayland, nullptr};
+    }
+    if (QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
+        return {Display::Wayland, nullptr};
+    return {};
+}
+
+// Not autolaunched: where no bus was announced, libdbus would start one of its own.
+QDBusConnection sessionBus() {
+    const QString runtimeBus = qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus");
+    if (qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS") && !QFile::exists(runtimeBus))
+        return QDBusConnection(QStringLiteral("no session bus"));
+    return QDBusConnection::sessionBus();
+}
+
+} // namespace
+
+struct LinuxPlatform::Parts {
+    // In the order of what leans on what; taken down from the last to the first.
+    SystemClock clock;
+    IniPreferences preferences;
+    GioDesktopEntries entries;
+    ApplicationIdentity identity{entries};
+    GioApplicationCatalog applications{entries, QCoreApplication::applicationFilePath()};
+    Login1SleepMonitor sleepMonitor{QDBusConnection::systemBus()};
+    FreedesktopNotifications notifications{sessionBus()};
+    CanberraSounds sounds;
+    std::unique_ptr<Workspace> workspace;
+    std::unique_ptr<IdleTimeSource> idleTime;
+
+    Parts() {
+        const DisplayServer display = findDisplay();
+        if (display.kind == Display::X11) {
+            workspace = std::make_unique<X11Workspace>(display.connection, clock, sleepMonitor, identity);
+            idleTime = std::make_unique<X11IdleTimeSource>(display.connection);
+            return;
+        }
+        const bool wayland = display.kind == Display::Wayland;
+        workspace = std::make_unique<NullWorkspace>(
+            Availability::unavailable(wayland ? QStringLiteral("health_wayland_workspace")
+                                              : QStringLiteral("health_no_display"),
+                                      QGuiApplication::platformName()),
+            sleepMonitor);
+        idleTime = std::make_unique<NullIdleTimeSource>(Availability::unavailable(
+            wayland ? QStringLiteral("health_wayland_idle") : QStringLiteral("health_no_display"),
+            QGuiApplication::platformName()));
+    }
+};
+
+LinuxPlatform::LinuxPlatform()
+    : m_parts(std::make_unique<Parts>()) {}
+
+LinuxPlatform::~LinuxPlatform() = default;
+
+Clock& LinuxPlatform::clock() const {
+    return m_parts->clock;
+}
+
+Preferences& LinuxPlatform::preferences() const {
+    return m_parts->preferences;
+}
+
+ApplicationCatalog& LinuxPlatform::applications() const {
+    return m_parts->applications;
+}
+
+SleepMonitor& LinuxPlatform::sleepMonitor() const {
+    return m_parts->sleepMonitor;
+}
+
+Workspace& LinuxPlatform::workspace() const {
+    return *m_parts->workspace;
+}
+
+IdleTimeSource& LinuxPlatform::idleTime() const {
+    return *m_parts->idleTime;
+}
+
+UserNotifications& LinuxPlatform::notifications() const {
+    return m_parts->notifications;
+}
+
+SystemSounds& LinuxPlatform::sounds() const {
+    return m_parts->sounds;
+}
+
+} // namespace norvin

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "platform/ApplicationCatalog.h"
+#include "platform/Clock.h"
+#include "platform/IdleTimeSource.h"
+#include "platform/Preferences.h"
+#include "platform/SleepMonitor.h"
+#include "platform/SystemSounds.h"
+#include "platform/UserNotifications.h"
+#include "platform/Workspace.h"
+
+#include <memory>
+
+namespace norvin {
+
+/// This machine's capabilities, each by the first back end in a written order that can work here; where none
+/// can, one that says why. Needs a QGuiApplication, which must outlive it; main thread only.
+///
+/// | capability | order |
+/// |---|---|
+/// | Workspace | X11 window manager; else none, with "health_wayland_workspace" or "health_no_display" |
+/// | IdleTimeSource | X server; else none, with "health_wayland_idle" or "health_no_display" |
+class LinuxPlatform final {
+public:
+    LinuxPlatform();
+    ~LinuxPlatform();
+    LinuxPlatform(const LinuxPlatform&) = delete;
+    LinuxPlatform& operator=(const LinuxPlatform&) = delete;
+
+    [[nodiscard]] Clock& clock() const;
+    [[nodiscard]] Preferences& preferences() const;
+    [[nodiscard]] ApplicationCatalog& applications() const;
+    [[nodiscard]] SleepMonitor& sleepMonitor() const;
+    [[nodiscard]] Workspace& workspace() const;
+    [[nodiscard]] IdleTimeSource& idleTime() const;
+    [[nodiscard]] UserNotifications& notifications() const;
+    [[nodiscard]] SystemSounds& sounds() const;
+
+private:
+    struct Parts;
+    std::unique_ptr<Parts> m_parts;
+};
+
+} // namespace norvin
