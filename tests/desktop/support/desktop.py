@@ -189,15 +189,23 @@ class Desktop:
             raise AssertionError(f"{arguments}: {result.stderr}")
         return result.stdout
 
-    def start_program(self, identifier):
-        """Starts one of PROGRAMS and returns its window, which is in front then (under a window manager)."""
+    def open_program(self, identifier):
+        """Starts one of PROGRAMS and returns its window, which may have been hidden before anybody saw it."""
         _, window_class, command, _ = PROGRAMS[identifier]
         self.processes.start(command[0], command, self.environment)
-        window = wait_until(lambda: self.visible_windows("--class", f"^{window_class}$"),
-                            f"{command[0]} shows its window")[-1]
-        if self.window_manager:
-            wait_until(lambda: self.active_window() == window, f"{command[0]} comes to the front")
+        return wait_until(lambda: self._managed_window(window_class), f"{command[0]} has a window")
+
+    def start_program(self, identifier):
+        """Starts one of PROGRAMS and returns its window, which is in front then."""
+        window = self.open_program(identifier)
+        wait_until(lambda: self.active_window() == window, f"{identifier} comes to the front")
         return window
+
+    def _managed_window(self, window_class):
+        for line in self.run("xdotool", "search", "--class", f"^{window_class}$").split():
+            if not self.window_manager or "window state" in self.run("xprop", "-id", line, "WM_STATE"):
+                return int(line)
+        return None
 
     def visible_windows(self, *criteria):
         return [int(line) for line in self.run("xdotool", "search", "--onlyvisible", *criteria).split()]
