@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/AccessibilityTrust.h"
 #include "platform/ApplicationCatalog.h"
 #include "platform/Clock.h"
 #include "platform/IdleTimeSource.h"
@@ -27,6 +28,7 @@ public:
     LinuxPlatform(const LinuxPlatform&) = delete;
     LinuxPlatform& operator=(const LinuxPlatform&) = delete;
 
+    [[nodiscard]] AccessibilityTrust& accessibilityTrust() const;
     [[nodiscard]] Clock& clock() const;
     [[nodiscard]] Preferences& preferences() const;
     [[nodiscard]] ApplicationCatalog& applications() const;

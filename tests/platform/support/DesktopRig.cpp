@@ -37,11 +37,13 @@ QByteArray DesktopRig::startDisplay(const QStringList& options) {
     return number.isEmpty() ? QByteArray() : ':' + number;
 }
 
-QByteArray DesktopRig::startBus() {
+QByteArray DesktopRig::startBus(const QString& services) {
     const QString config = QStringLiteral("bus.conf");
-    writeFile(config, "<busconfig><type>session</type><listen>unix:tmpdir=/tmp</listen>"
-                      "<policy context=\"default\"><allow send_destination=\"*\"/>"
-                      "<allow eavesdrop=\"true\"/><allow own=\"*\"/></policy></busconfig>");
+    const QByteArray serviceDirectory =
+        services.isEmpty() ? QByteArray() : "<servicedir>" + services.toLocal8Bit() + "</servicedir>";
+    writeFile(config, "<busconfig><type>session</type><listen>unix:tmpdir=/tmp</listen>" + serviceDirectory +
+                          "<policy context=\"default\"><allow send_destination=\"*\"/>"
+                          "<allow eavesdrop=\"true\"/><allow own=\"*\"/></policy></busconfig>");
     QProcess* bus =
         start(QStringLiteral("dbus-daemon"), {QStringLiteral("--nofork"), QStringLiteral("--print-address=1"),
                                               QStringLiteral("--config-file=") + filePath(config)});
@@ -74,6 +76,11 @@ QByteArray DesktopRig::run(const QString& program, const QStringList& arguments)
     process.start(program, arguments);
     process.waitForFinished(patienceMs);
     return process.readAllStandardOutput().trimmed();
+}
+
+QByteArray DesktopRig::readFile(const QString& name) const {
+    QFile file(filePath(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 void DesktopRig::writeFile(const QString& name, const QByteArray& content) const {

@@ -25,9 +25,10 @@ public:
     /// @return the display's name (":7"); empty when it could not be started
     [[nodiscard]] QByteArray startDisplay(const QStringList& options = {});
 
-    /// Starts a bus that knows no services to start by itself.
+    /// Starts a message bus.
+    /// @param services directory of the services that it can start by itself; empty for none
     /// @return its address; empty when it could not be started
-    [[nodiscard]] QByteArray startBus();
+    [[nodiscard]] QByteArray startBus(const QString& services = {});
 
     /// Starts a program; what it prints is discarded, its input and output are the caller's to use.
     /// @return null when it could not be started; owned by the rig
@@ -42,6 +43,8 @@ public:
 
     /// A path below a directory that goes away with the rig.
     [[nodiscard]] QString filePath(const QString& name) const { return m_directory.filePath(name); }
+    /// Empty when there is no such file.
+    [[nodiscard]] QByteArray readFile(const QString& name) const;
     void writeFile(const QString& name, const QByteArray& content) const;
 
 private:

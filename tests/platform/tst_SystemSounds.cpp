@@ -1,0 +1,135 @@
+#include "platform/Log.h"
+#include "platform/linux/canberra/CanberraSounds.h"
+#include "support/DesktopRig.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <csignal>
+
+using namespace norvin;
+
+/// Runs against a sound server of the test's own, with a sink that nobody hears.
+class SystemSoundsTest : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void init() {
+        setLogSink([](const QString&) {});
+        m_rig = std::make_unique<DesktopRig>();
+        m_socket = m_rig->filePath(QStringLiteral("pulse"));
+        qputenv("PULSE_SERVER", "unix:" + m_socket.toLocal8Bit());
+        qputenv("PULSE_RUNTIME_PATH", m_rig->filePath(QStringLiteral("runtime")).toLocal8Bit());
+        qputenv("CANBERRA_DRIVER", "pulse");
+        m_streams.clear();
+    }
+
+    void cleanup() {
+        m_rig.reset();
+        setLogSink({});
+    }
+
+    void saysWhenThereIsNoServerAndRecovers() {
+        CanberraSounds sounds;
+        QSignalSpy changed(&sounds, &SystemSounds::availabilityChanged);
+        sounds.probe();
+        QTRY_COMPARE(changed.size(), 1);
+        QCOMPARE(sounds.availability().reason()->reasonKey, QStringLiteral("health_no_sound_server"));
+        QVERIFY(!sounds.availability().reason()->detail.isEmpty());
+
+        QProcess* server = startServer();
+        QVERIFY(server);
+        sounds.play(QStringLiteral("Ping"), 0.5);
+        QTRY_VERIFY(sounds.availability().isAvailable());
+
+        // A server that was replaced is found again by the next sound.
+        m_rig->kill(server);
+        QVERIFY(startServer());
+        sounds.play(QStringLiteral("Submarine"), 1.0);
+        QTRY_COMPARE(streamsPlayed(), 1);
+        QVERIFY(sounds.availability().isAvailable());
+    }
+
+    void playsEveryNameItKnows() {
+        QVERIFY(startServer());
+        CanberraSounds sounds;
+        QSignalSpy changed(&sounds, &SystemSounds::availabilityChanged);
+        sounds.play(QStringLiteral("No such sound"), 1.0);
+        sounds.play(QStringLiteral("Ping"), 0.0);
+        int expected = 0;
+        for (const char* name : {"Ping", "Blow", "Bottle", "Pop", "Glass", "Submarine"}) {
+            sounds.play(QString::fromLatin1(name), 1.0);
+            ++expected;
+            QTRY_COMPARE(streamsPlayed(), expected);
+        }
+        sounds.beep();
+        sounds.play(QStringLiteral("Submarine"), 1.0); // after the beep has been reported on
+        QTRY_VERIFY(streamsPlayed() > expected);
+        // None of them was missing from the theme.
+        QCOMPARE(changed.size(), 0);
+    }
+
+    void aHungServerHoldsUpNobody() {
+        QProcess* server = startServer();
+        QVERIFY(server);
+        auto sounds = std::make_unique<CanberraSounds>();
+        sounds->play(QStringLiteral("Ping"), 1.0);
+        QTRY_COMPARE(streamsPlayed(), 1);
+        ::kill(static_cast<pid_t>(server->processId()), SIGSTOP);
+        QSignalSpy changed(sounds.get(), &SystemSounds::availabilityChanged);
+        QElapsedTimer timer;
+        timer.start();
+        for (int i = 0; i < 50; ++i)
+            sounds->play(QStringLiteral("Pop"), 1.0);
+        sounds->beep();
+        qInfo("51 calls on a hung server: %lld us", timer.nsecsElapsed() / 1000);
+        // The library reports a failure when it has waited long enough: it is still waiting, elsewhere.
+        QCoreApplication::processEvents();
+        QCOMPARE(changed.size(), 0);
+
+        const qsizetype threads = threadCount();
+        timer.restart();
+        sounds.reset();
+        qInfo("end with a hung server: %lld ms", timer.elapsed());
+        // Its thread hangs on, left behind.
+        QCOMPARE(threadCount(), threads);
+    }
+
+private:
+    QProcess* startServer() {
+        QProcess* server =
+            m_rig->start(QStringLiteral("pulseaudio"),
+                         {QStringLiteral("-n"), QStringLiteral("--daemonize=no"),
+                          QStringLiteral("--exit-idle-time=-1"), QStringLiteral("-L"),
+                          QStringLiteral("module-native-protocol-unix auth-anonymous=1 socket=") + m_socket,
+                          QStringLiteral("-L"), QStringLiteral("module-null-sink")});
+        const bool started = QTest::qWaitFor(
+            [] { return !DesktopRig::run(QStringLiteral("pactl"), {QStringLiteral("info")}).isEmpty(); });
+        return started ? server : nullptr;
+    }
+
+    static qsizetype threadCount() {
+        return QDir(QStringLiteral("/proc/self/task")).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size();
+    }
+
+    // Streams seen so far, this one among them; very short sounds may pass between two looks.
+    [[nodiscard]] int streamsPlayed() {
+        const QByteArray list =
+            DesktopRig::run(QStringLiteral("pactl"),
+                            {QStringLiteral("list"), QStringLiteral("short"), QStringLiteral("sink-inputs")});
+        for (const QByteArray& line : list.split('\n')) {
+            if (!line.isEmpty())
+                m_streams.insert(line.split('\t').first());
+        }
+        return static_cast<int>(m_streams.size());
+    }
+
+    std::unique_ptr<DesktopRig> m_rig;
+    QString m_socket;
+    QSet<QByteArray> m_streams;
+};
+
+QTEST_GUILESS_MAIN(SystemSoundsTest)
+#include "tst_SystemSounds.moc"
