@@ -4,6 +4,7 @@
 #include "distraction/AppUsageService.h"
 #include "focus/MotionService.h"
 #include "platform/linux/LinuxPlatform.h"
+#include "platform/linux/SessionBus.h"
 
 #include <QCoreApplication>
 
@@ -18,7 +19,7 @@ PomodoroCollaborators timerCollaborators(LinuxPlatform& platform, SoundService& 
             .motion = MotionService::shared(),
             .sounds = sounds,
             .notifications = platform.notifications(),
-            .catalog = platform.catalog()};
+            .catalog = platform.applications()};
 }
 
 } // namespace
@@ -50,8 +51,7 @@ QList<TrackingHealthModel::Check> platformHealthChecks(LinuxPlatform& platform) 
         {QStringLiteral("health_frontmost_application"),
          [&platform] { return platform.workspace().availability(); }},
         {QStringLiteral("health_hiding"), [&platform] { return platform.workspace().availability(); }},
-        {QStringLiteral("health_idle_time"),
-         [&platform] { return platform.idleTimeSource().availability(); }},
+        {QStringLiteral("health_idle_time"), [&platform] { return platform.idleTime().availability(); }},
         {QStringLiteral("health_sleep"), [&platform] { return platform.sleepMonitor().availability(); }},
         {QStringLiteral("health_notifications"),
          [&platform] { return platform.notifications().availability(); }},
@@ -71,8 +71,7 @@ NorvinFocusApp::SharedServices::SharedServices(LinuxPlatform& platform) {
                                                  AppBlockerService::shared());
     });
     SharedInstance<MotionService>::setFactory([&platform] {
-        return std::make_unique<MotionService>(platform.clock(), platform.idleTimeSource(),
-                                               platform.preferences());
+        return std::make_unique<MotionService>(platform.clock(), platform.idleTime(), platform.preferences());
     });
 }
 
@@ -92,7 +91,7 @@ NorvinFocusApp::NorvinFocusApp(LinuxPlatform& platform, std::unique_ptr<ModelCon
     , m_timerService(timerCollaborators(platform, m_soundService))
     , m_deepWorkScreen(m_timerService, AppUsageService::shared(), MotionService::shared(),
                        m_sharedModelContainer->mainContext())
-    , m_applications(platform.catalog(), platform.workspace(), AppBlockerService::shared())
+    , m_applications(platform.applications(), platform.workspace(), AppBlockerService::shared())
     , m_busAvailability(Availability::available())
     , m_storeAvailability(Availability::available())
     , m_health(platformHealthChecks(platform)
@@ -101,7 +100,7 @@ NorvinFocusApp::NorvinFocusApp(LinuxPlatform& platform, std::unique_ptr<ModelCon
                << TrackingHealthModel::Check{QStringLiteral("health_store"),
                                              [this] { return m_storeAvailability; }})
     , m_userInterface(m_deepWorkScreen, m_applications, m_health, m_localization)
-    , m_busService(platform.sessionBus(), m_deepWorkScreen, AppBlockerService::shared(), m_health) {
+    , m_busService(sessionBus(), m_deepWorkScreen, AppBlockerService::shared(), m_health) {
     followStore();
     followPlatform();
 }

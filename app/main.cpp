@@ -5,6 +5,7 @@
 #include "app/StatusReport.h"
 #include "app/UnixSignals.h"
 #include "platform/linux/LinuxPlatform.h"
+#include "platform/linux/SessionBus.h"
 #include "platform/linux/display/DisplayProbe.h"
 
 #include <QElapsedTimer>
@@ -47,12 +48,12 @@ int runRemote(const Command& command, int& argc, char** argv) {
     const QCoreApplication application(argc, argv);
     QTranslator texts;
     loadTerminalTexts(texts);
-    return toInt(RemoteControl(QDBusConnection::sessionBus()).run(command));
+    return toInt(RemoteControl(sessionBus()).run(command));
 }
 
 int showRunningInstance(int& argc, char** argv) {
     const QCoreApplication application(argc, argv);
-    return toInt(RemoteControl(QDBusConnection::sessionBus()).showWindow());
+    return toInt(RemoteControl(sessionBus()).showWindow());
 }
 
 // With no instance to ask, the platform is looked at from here. Some of it answers after a moment.
@@ -63,7 +64,7 @@ int runOwnDoctor() {
     QCoreApplication::exec();
 
     QList<TrackingHealthModel::Check> checks = platformHealthChecks(platform);
-    const bool hasBus = platform.sessionBus().isConnected();
+    const bool hasBus = sessionBus().isConnected();
     checks.append({QStringLiteral("health_session_bus"), [hasBus] {
                        return hasBus ? Availability::available()
                                      : Availability::unavailable(QStringLiteral("health_no_session_bus"));
@@ -80,7 +81,7 @@ int runDoctor(int& argc, char** argv) {
     const QGuiApplication application(argc, argv);
     QTranslator texts;
     loadTerminalTexts(texts);
-    RemoteControl remote(QDBusConnection::sessionBus());
+    RemoteControl remote(sessionBus());
     return remote.isInstanceRunning() ? toInt(remote.run(command::Doctor{})) : runOwnDoctor();
 }
 

@@ -2,6 +2,8 @@
 
 #include "platform/linux/NullIdleTimeSource.h"
 #include "platform/linux/NullWorkspace.h"
+#include "platform/linux/SessionBus.h"
+#include "platform/linux/atspi/AtspiTrust.h"
 #include "platform/linux/canberra/CanberraSounds.h"
 #include "platform/linux/clock/SystemClock.h"
 #include "platform/linux/freedesktop/FreedesktopNotifications.h"
@@ -13,7 +15,6 @@
 #include "platform/linux/x11/X11IdleTimeSource.h"
 #include "platform/linux/x11/X11Workspace.h"
 
-#include <QFile>
 #include <QGuiApplication>
 
 #include <cstring>
@@ -51,14 +52,6 @@ DisplayServer findDisplay() {
     return {};
 }
 
-// Not autolaunched: where no bus was announced, libdbus would start one of its own.
-QDBusConnection sessionBus() {
-    const QString runtimeBus = qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus");
-    if (qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS") && !QFile::exists(runtimeBus))
-        return QDBusConnection(QStringLiteral("no session bus"));
-    return QDBusConnection::sessionBus();
-}
-
 } // namespace
 
 struct LinuxPlatform::Parts {
@@ -71,6 +64,7 @@ struct LinuxPlatform::Parts {
     Login1SleepMonitor sleepMonitor{QDBusConnection::systemBus()};
     FreedesktopNotifications notifications{sessionBus()};
     CanberraSounds sounds;
+    AtspiTrust accessibilityTrust{sessionBus()};
     std::unique_ptr<Workspace> workspace;
     std::unique_ptr<IdleTimeSource> idleTime;
 
@@ -97,6 +91,10 @@ LinuxPlatform::LinuxPlatform()
     : m_parts(std::make_unique<Parts>()) {}
 
 LinuxPlatform::~LinuxPlatform() = default;
+
+AccessibilityTrust& LinuxPlatform::accessibilityTrust() const {
+    return m_parts->accessibilityTrust;
+}
 
 Clock& LinuxPlatform::clock() const {
     return m_parts->clock;
