@@ -42,7 +42,9 @@ struct DisplayServer {
 };
 
 DisplayServer findDisplay() {
-    if (const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>()) {
+    // The interface is there on every platform, the connection only on X11.
+    const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    if (x11 && x11->connection()) {
         if (!isXwayland(x11->connection()))
             return {Display::X11, x11->connection()};
         return {Display::Wayland, nullptr};
