@@ -90,7 +90,8 @@ int runDoctor(int& argc, char** argv) {
 int runWindow(const command::OpenWindow& options, int& argc, char** argv) {
     const QString storeFile = ModelContainer::defaultStoreFile();
     InstanceLock lock(storeFile);
-    if (lock.tryAcquire() == InstanceLock::Outcome::heldByAnother)
+    const InstanceLock::Outcome locked = lock.tryAcquire();
+    if (locked == InstanceLock::Outcome::heldByAnother)
         return showRunningInstance(argc, argv);
     if (!isDisplayReachable()) {
         print(stderr,
@@ -103,6 +104,11 @@ int runWindow(const command::OpenWindow& options, int& argc, char** argv) {
         qputenv("QT_QUICK_BACKEND", "software");
     QGuiApplication application(argc, argv);
     QGuiApplication::setQuitOnLastWindowClosed(false);
+
+    if (locked == InstanceLock::Outcome::unsupported) {
+        if (RemoteControl remote(sessionBus()); remote.isInstanceRunning())
+            return toInt(remote.showWindow());
+    }
 
     auto opened = ModelContainer::openOrRecreate(storeFile);
     if (const auto* error = std::get_if<StoreError>(&opened))
