@@ -69,8 +69,11 @@ struct LinuxPlatform::Parts {
     AtspiTrust accessibilityTrust{sessionBus()};
     std::unique_ptr<Workspace> workspace;
     std::unique_ptr<IdleTimeSource> idleTime;
+    std::unique_ptr<ClockTimer> soundProbe;
 
     Parts() {
+        // Not at once: the first frame needs the processor more.
+        soundProbe = clock.after(std::chrono::milliseconds(400), [this] { sounds.probe(); });
         const DisplayServer display = findDisplay();
         if (display.kind == Display::X11) {
             workspace = std::make_unique<X11Workspace>(display.connection, clock, sleepMonitor, identity);

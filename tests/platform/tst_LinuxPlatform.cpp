@@ -37,6 +37,7 @@ private Q_SLOTS:
         QCOMPARE(reasonOf(platform.workspace().availability()), QStringLiteral("health_no_window_manager"));
         QCOMPARE(reasonOf(platform.sleepMonitor().availability()), QStringLiteral("health_no_login1"));
         QCOMPARE(reasonOf(platform.notifications().availability()), QStringLiteral("health_no_session_bus"));
+        QTRY_COMPARE(reasonOf(platform.sounds().availability()), QStringLiteral("health_no_sound_server"));
         QVERIFY(platform.idleTime().availability().isAvailable());
         QVERIFY(platform.idleTime().timeSinceLastInput().has_value());
         QVERIFY(!platform.applications().isOwnApplicationInstalled());
@@ -85,6 +86,8 @@ int main(int argc, char** argv) {
     qunsetenv("XDG_SESSION_TYPE");
     qunsetenv("DBUS_SESSION_BUS_ADDRESS");
     qputenv("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/nowhere/bus");
+    qputenv("PULSE_SERVER", "unix:/nowhere/pulse");
+    qputenv("CANBERRA_DRIVER", "pulse");
     qputenv("DISPLAY", rig.startDisplay());
     qputenv("QT_QPA_PLATFORM", "xcb");
     QGuiApplication application(argc, argv);
