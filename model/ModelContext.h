@@ -38,8 +38,9 @@ public:
     /// Saves what is left to save.
     ~ModelContext() override;
 
-    /// Takes the entity, whose id must not be in the context yet. What it refers to should be inserted too: a
-    /// relationship to an entity outside the context reaches the disk only once that one is inserted.
+    /// Takes the entity and gives it back. Its id must not be in the context yet: a second one with the same
+    /// id is destroyed, and null returned. What it refers to should be inserted too: a relationship to an
+    /// entity outside the context reaches the disk only once that one is inserted.
     Project* insert(std::unique_ptr<Project> project);
     ProjectPhase* insert(std::unique_ptr<ProjectPhase> phase);
     TaskItem* insert(std::unique_ptr<TaskItem> task);

@@ -1,13 +1,11 @@
 #include "StoreFixture.h"
 
-#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QTest>
 #include <QThread>
 #include <QTimer>
 
-#include <SQLiteCpp/Transaction.h>
 #include <sys/mount.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -78,17 +76,15 @@ private Q_SLOTS:
 
     void aStoreThatCannotBeOpenedIsMadeAnew_data() {
         QTest::addColumn<Damage>("damage");
-        const auto sql = [](const StoreFixture& store, const char* statement) {
+        static const auto run = [](const StoreFixture& store, const char* statement) {
             store.raw().exec(statement);
         };
-        static const auto run = sql;
         QTest::newRow("newer schema")
             << Damage{[](const StoreFixture& s) { run(s, "PRAGMA user_version = 10100"); }};
         QTest::newRow("older schema")
             << Damage{[](const StoreFixture& s) { run(s, "PRAGMA user_version = 1"); }};
-        QTest::newRow("column missing") << Damage{[](const StoreFixture& s) {
-            run(s, "DROP VIEW SessionLog; ALTER TABLE Session DROP COLUMN score");
-        }};
+        QTest::newRow("column too many")
+            << Damage{[](const StoreFixture& s) { run(s, "ALTER TABLE Project ADD COLUMN mine TEXT"); }};
         QTest::newRow("index missing")
             << Damage{[](const StoreFixture& s) { run(s, "DROP INDEX Session_task"); }};
         QTest::newRow("somebody else's file") << Damage{[](const StoreFixture& s) {
@@ -190,12 +186,25 @@ private Q_SLOTS:
         QVERIFY(QFileInfo(store.file() + "/inside").isDir());
     }
 
+    void aLockIsWaitedFor_data() {
+        QTest::addColumn<QByteArray>("lock");
+        QTest::addColumn<bool>("fresh");
+        QTest::newRow("store in use")
+            << QByteArray("PRAGMA locking_mode = EXCLUSIVE; BEGIN EXCLUSIVE") << false;
+        // Here the library reports the lock at once, whatever it was told about waiting.
+        QTest::newRow("store being made") << QByteArray("BEGIN IMMEDIATE") << true;
+    }
     void aLockIsWaitedFor() {
+        QFETCH(QByteArray, lock);
+        QFETCH(bool, fresh);
         const StoreFixture store;
-        fill(store, 1);
+        if (fresh)
+            writeFile(store.file(), {});
+        else
+            fill(store, 1);
         const LogCapture log;
         auto holder = std::make_unique<SQLite::Database>(store.raw());
-        holder->exec("PRAGMA locking_mode = EXCLUSIVE; BEGIN EXCLUSIVE");
+        holder->exec(lock.constData());
         QThread thread;
         QTimer release;
         release.setSingleShot(true);
@@ -208,7 +217,7 @@ private Q_SLOTS:
         thread.quit();
         thread.wait();
         QVERIFY(opened);
-        QCOMPARE(opened->mainContext().tasks().size(), size_t{1});
+        QCOMPARE(opened->mainContext().tasks().empty(), fresh);
         QVERIFY(log.lines().isEmpty());
     }
 
@@ -246,27 +255,39 @@ private Q_SLOTS:
         QCOMPARE(afterwards.open()->mainContext().tasks().front()->title(), QStringLiteral("written"));
     }
 
-    void aStoreThatMayNotBeWrittenIsAnError() {
+    void aStoreThatMayNotBeWrittenCannotBeOpened_data() {
+        QTest::addColumn<int>("folderMode");
+        QTest::addColumn<int>("fileMode");
+        QTest::addColumn<int>("tasks");
+        constexpr int noContainer = -1;
+        QTest::newRow("nor its folder") << 0555 << 0644 << noContainer;
+        QTest::newRow("file alone") << 0777 << 0444 << 0;
+        QTest::newRow("both may be written") << 0777 << 0666 << 5;
+    }
+    void aStoreThatMayNotBeWrittenCannotBeOpened() {
         if (::geteuid() != 0)
             QSKIP("Only root can become a user without rights to the folder");
+        QFETCH(int, folderMode);
+        QFETCH(int, fileMode);
         const StoreFixture store;
-        fill(store, 1);
+        fill(store, 5);
         const QByteArray before = contentOf(store.file());
-        QVERIFY(::chmod(QFile::encodeName(store.folder()).constData(), 0555) == 0);
+        QVERIFY(::chmod(QFile::encodeName(store.folder()).constData(), static_cast<mode_t>(folderMode)) == 0);
+        QVERIFY(::chmod(QFile::encodeName(store.file()).constData(), static_cast<mode_t>(fileMode)) == 0);
         const pid_t child = ::fork();
         if (child == 0) {
             if (::setgid(65534) != 0 || ::setuid(65534) != 0)
-                ::_exit(2);
+                ::_exit(99);
             setLogSink([](const QString&) {});
-            const Opened opened = ModelContainer::openOrRecreate(store.file(), 200ms);
-            const auto* error = std::get_if<StoreError>(&opened);
-            ::_exit(error != nullptr && !error->description.isEmpty() ? 0 : 1);
+            const auto opened = container(ModelContainer::openOrRecreate(store.file(), 200ms));
+            ::_exit(opened ? static_cast<int>(opened->mainContext().tasks().size()) : 255);
         }
         int status = -1;
         QCOMPARE(::waitpid(child, &status, 0), child);
         QVERIFY(WIFEXITED(status));
-        QCOMPARE(WEXITSTATUS(status), 0);
-        QCOMPARE(contentOf(store.file()), before);
+        QTEST(static_cast<int>(static_cast<qint8>(WEXITSTATUS(status))), "tasks");
+        if (folderMode == 0555)
+            QCOMPARE(contentOf(store.file()), before);
     }
 
     void aFullDiskCostsNothing_data() {
@@ -311,6 +332,9 @@ private Q_SLOTS:
 
             for (int i = 0; i < 20; ++i)
                 context.tasks()[static_cast<size_t>(i)]->setTaskDescription(QString(4000, u'x'));
+            AppUsageSession usage;
+            usage.bundleID = QStringLiteral("org.example.a");
+            context.insert(usage);
             const StoreResult failure = context.save();
             QVERIFY(failure);
             QVERIFY(context.hasChanges());
@@ -319,6 +343,7 @@ private Q_SLOTS:
         }
         QCOMPARE(full.soundness(), QStringLiteral("ok"));
         QCOMPARE(full.value("SELECT min(length(taskDescription)) FROM TaskItem"), QStringLiteral("4000"));
+        QCOMPARE(full.value("SELECT bundleID FROM AppUsageLog"), QStringLiteral("org.example.a"));
     }
 };
 

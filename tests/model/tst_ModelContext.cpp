@@ -1,6 +1,7 @@
 #include "StoreFixture.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QRandomGenerator>
 #include <QSignalSpy>
 #include <QTest>
@@ -140,6 +141,9 @@ private Q_SLOTS:
             before = contentOf(context);
             QVERIFY(!context.save());
             QCOMPARE(task->sessions(), QList<Session>{session});
+            QCOMPARE(store.value("SELECT start || minutes || completed || (task = project) || "
+                                 "blockedSites FROM SessionLog WHERE score = 7.25"),
+                     morning.toLocalTime().toString("yyyy-MM-dd HH:mm:ss") + "25yes13");
         }
         const auto reopened = store.open();
         QCOMPARE(contentOf(reopened->mainContext()), before);
@@ -359,6 +363,17 @@ private Q_SLOTS:
         QVERIFY(!context.hasChanges());
         QCOMPARE(store.value("SELECT title FROM TaskItem"), QStringLiteral("kept and changed"));
         QCOMPARE(store.value("SELECT count(*) FROM AppUsageLog"), QStringLiteral("1"));
+    }
+
+    void theLogMovesIntoTheFileWhenNothingIsSaved() {
+        const StoreFixture store;
+        const auto opened = store.open();
+        const QString text(64 * 1024, u'x');
+        for (int i = 0; i < 100; ++i)
+            addTask(opened->mainContext(), text);
+        QVERIFY(!opened->mainContext().save());
+        QVERIFY(QFileInfo(store.file()).size() < text.size());
+        QTRY_VERIFY_WITH_TIMEOUT(QFileInfo(store.file()).size() > 100 * text.size(), 20'000);
     }
 
     void recordsComeByStartAndRange() {
