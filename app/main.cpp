@@ -60,8 +60,6 @@ int showRunningInstance(int& argc, char** argv) {
 int runOwnDoctor() {
     constexpr std::chrono::milliseconds patience{700};
     LinuxPlatform platform;
-    platform.sounds().play(SoundService::soundName(SoundEffect::pop),
-                           0.0); // nobody hears it, but a missing server shows
     QTimer::singleShot(patience, qApp, &QCoreApplication::quit);
     QCoreApplication::exec();
 

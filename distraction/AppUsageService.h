@@ -62,6 +62,9 @@ public:
     /// The application whose interval is open; none when there is none.
     [[nodiscard]] const std::optional<RunningApplication>& currentApp() const { return m_currentApp; }
 
+    /// Whether the application in front can be known on this desktop.
+    [[nodiscard]] Availability trackingAvailability() const { return m_workspace.availability(); }
+
     /// Closes the open intervals because the program ends.
     void applicationWillTerminate();
 
@@ -71,6 +74,7 @@ Q_SIGNALS:
     void metricsChanged();
     void currentActivityStatusChanged();
     void isTrackingActiveChanged();
+    void trackingAvailabilityChanged();
 
 private:
     /// A moment on both clocks: lengths are measured on one, stamps are read from the other.

@@ -60,6 +60,7 @@ DeepWorkScreen::DeepWorkScreen(PomodoroTimerService& timer, AppUsageService& usa
     connect(&m_usage, &AppUsageService::metricsChanged, this, &DeepWorkScreen::refreshMetrics);
     connect(&m_usage, &AppUsageService::currentActivityStatusChanged, this, &DeepWorkScreen::activityChanged);
     connect(&m_usage, &AppUsageService::isTrackingActiveChanged, this, &DeepWorkScreen::activityChanged);
+    connect(&m_usage, &AppUsageService::trackingAvailabilityChanged, this, &DeepWorkScreen::activityChanged);
     connect(&m_motion, &MotionService::isInactiveChanged, this, &DeepWorkScreen::inactivityChanged);
 }
 
@@ -115,6 +116,11 @@ QString DeepWorkScreen::activityDomain() const {
 
 bool DeepWorkScreen::isTrackingActive() const {
     return m_usage.isTrackingActive();
+}
+
+QString DeepWorkScreen::blindReasonKey() const {
+    const Availability availability = m_usage.trackingAvailability();
+    return availability.isAvailable() ? QString() : availability.reason()->reasonKey;
 }
 
 int DeepWorkScreen::legitimateSeconds() const {

@@ -37,6 +37,9 @@ class DeepWorkScreen final : public QObject {
     Q_PROPERTY(QString activityDomain READ activityDomain NOTIFY activityChanged)
     /// Whether applications are being followed. False for the rest of a work phase that was paused.
     Q_PROPERTY(bool isTrackingActive READ isTrackingActive NOTIFY activityChanged)
+    /// Localisation key of why the application in front cannot be known here, empty while it can. The key with
+    /// "_remedy" appended says what to do.
+    Q_PROPERTY(QString blindReasonKey READ blindReasonKey NOTIFY activityChanged)
     Q_PROPERTY(int legitimateSeconds READ legitimateSeconds NOTIFY metricsChanged)
     Q_PROPERTY(int distractedSeconds READ distractedSeconds NOTIFY metricsChanged)
 
@@ -91,6 +94,7 @@ public:
     [[nodiscard]] QString activityAppName() const;
     [[nodiscard]] QString activityDomain() const;
     [[nodiscard]] bool isTrackingActive() const;
+    [[nodiscard]] QString blindReasonKey() const;
     [[nodiscard]] int legitimateSeconds() const;
     [[nodiscard]] int distractedSeconds() const;
     [[nodiscard]] bool scoreHasEnoughData() const { return m_terms.hasEnoughData; }

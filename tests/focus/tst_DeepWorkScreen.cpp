@@ -2,6 +2,7 @@
 #include "tests/support/FocusRig.h"
 
 #include <QAbstractItemModelTester>
+#include <QSignalSpy>
 #include <QTest>
 
 using namespace norvin;
@@ -17,6 +18,7 @@ private Q_SLOTS:
     void lastTaskDoneCompletesWithItsTask();
     void queueRowsFollowTasksAndSubtasks();
     void figuresBelongToWorkOnly();
+    void saysWhyItIsBlind();
     void inactivityIsGathered();
     void pickerOffersWhatCouldBeQueued();
     void ringShowsTheChosenLengthWhileIdle();
@@ -162,6 +164,15 @@ void tst_DeepWorkScreen::figuresBelongToWorkOnly() {
     rig.screen.startBreak();
     QCOMPARE(rig.screen.legitimateSeconds(), 0);
     QVERIFY(!rig.screen.scoreHasEnoughData());
+}
+
+void tst_DeepWorkScreen::saysWhyItIsBlind() {
+    ScreenRig rig;
+    QSignalSpy changed(&rig.screen, &DeepWorkScreen::activityChanged);
+    QCOMPARE(rig.screen.blindReasonKey(), QString());
+    rig.workspace.setAvailability(Availability::unavailable(QStringLiteral("health_no_window_manager")));
+    QCOMPARE(changed.size(), 1);
+    QCOMPARE(rig.screen.blindReasonKey(), QStringLiteral("health_no_window_manager"));
 }
 
 void tst_DeepWorkScreen::inactivityIsGathered() {

@@ -11,6 +11,7 @@ Card {
     required property DeepWorkScreen screen
     readonly property bool isPaused: root.screen.state === "paused"
     readonly property bool isMeasured: !root.isPaused && root.screen.isTrackingActive
+    readonly property bool isBlind: root.isMeasured && root.screen.blindReasonKey.length > 0
     readonly property string kind: root.isMeasured ? root.screen.activityKind : "idle"
     readonly property color kindColor: root.kind === "legitimate" ? Theme.legitimate : root.kind === "distracted" ? Theme.distracted : Theme.textFaint
 
@@ -19,6 +20,8 @@ Card {
             return qsTrId("activity_paused_title");
         if (!root.isMeasured)
             return qsTrId("activity_unmeasured_title");
+        if (root.isBlind)
+            return qsTrId(root.screen.blindReasonKey);
         return root.kind === "idle" ? qsTrId("activity_idle_title") : root.screen.activityAppName;
     }
 
@@ -27,6 +30,8 @@ Card {
             return qsTrId("activity_paused_subtitle");
         if (!root.isMeasured)
             return qsTrId("activity_unmeasured_subtitle");
+        if (root.isBlind)
+            return qsTrId(root.screen.blindReasonKey + "_remedy");
         return root.kind === "idle" ? qsTrId("activity_idle_subtitle") : root.screen.activityDomain;
     }
 
@@ -61,6 +66,8 @@ Card {
                 text: root.headline()
                 font.pixelSize: Theme.bodyLarge
                 font.weight: Font.DemiBold
+                wrapMode: Text.Wrap
+                maximumLineCount: root.isBlind ? 2 : 1
                 elide: Text.ElideRight
             }
 
