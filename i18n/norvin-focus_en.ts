@@ -293,6 +293,14 @@
         <source></source>
         <translation>Start PipeWire or PulseAudio.</translation>
     </message>
+    <message id="health_no_sound_theme">
+        <source></source>
+        <translation>No sound theme is installed.</translation>
+    </message>
+    <message id="health_no_sound_theme_remedy">
+        <source></source>
+        <translation>Install a sound theme, for instance the package sound-theme-freedesktop.</translation>
+    </message>
     <message id="health_no_window_manager">
         <source></source>
         <translation>The window manager does not say which window is active.</translation>

@@ -49,7 +49,7 @@
     </message>
     <message id="another_work_button">
         <source></source>
-        <translation>Nouvelle phase de travail</translation>
+        <translation>Nouvelle phase</translation>
     </message>
     <message id="application_running">
         <source></source>
@@ -292,6 +292,14 @@
     <message id="health_no_sound_server_remedy">
         <source></source>
         <translation>Lancez PipeWire ou PulseAudio.</translation>
+    </message>
+    <message id="health_no_sound_theme">
+        <source></source>
+        <translation>Aucun thème de sons n’est installé.</translation>
+    </message>
+    <message id="health_no_sound_theme_remedy">
+        <source></source>
+        <translation>Installez un thème de sons, par exemple le paquet sound-theme-freedesktop.</translation>
     </message>
     <message id="health_no_window_manager">
         <source></source>
@@ -538,7 +546,7 @@
     </message>
     <message id="score_label">
         <source></source>
-        <translation>Score de concentration</translation>
+        <translation>Score de focus</translation>
     </message>
     <message id="score_maximum">
         <source></source>

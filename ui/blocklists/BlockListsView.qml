@@ -67,6 +67,12 @@ Page {
 
         T.ScrollBar.vertical: ScrollBarThin {}
 
+        onActiveFocusChanged: {
+            list.forceLayout();
+            if (list.currentIndex < 0)
+                list.currentIndex = 0;
+        }
+
         Keys.onPressed: event => {
             const row = list.currentItem as ApplicationRow;
             event.accepted = row !== null && (event.key === Qt.Key_Left || event.key === Qt.Key_Right);

@@ -11,16 +11,17 @@ Item {
     property int pixelSize: Theme.headline
     property int weight: Font.DemiBold
     property color color: Theme.text
-    readonly property real cellWidth: Math.ceil(metrics.advanceWidth("0"))
+    readonly property real cellWidth: Math.ceil(metrics.advanceWidth)
 
     implicitWidth: row.implicitWidth
     implicitHeight: Math.ceil(metrics.height)
     Accessible.role: Accessible.StaticText
     Accessible.name: root.text
 
-    FontMetrics {
+    TextMetrics {
         id: metrics
 
+        text: "0"
         font.pixelSize: root.pixelSize
         font.weight: root.weight
     }

@@ -21,12 +21,10 @@ Item {
         onTriggered: hint.active = true
     }
 
-    Loader {
+    Deferred {
         id: hint
 
-        active: false
-
-        sourceComponent: T.ToolTip {
+        T.ToolTip {
             parent: root
             x: Math.round((root.width - width) / 2)
             y: root.height + Theme.gap1

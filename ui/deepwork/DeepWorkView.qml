@@ -92,7 +92,7 @@ FocusScope {
             id: page
 
             readonly property int margin: Theme.gap8
-            readonly property int ringSize: Math.round(Math.min(440, Math.max(190, page.height - 2 * page.margin - heading.implicitHeight - lower.implicitHeight - 2 * column.spacing)))
+            readonly property int ringSize: Math.round(Math.min(Math.max(360, page.height * 0.38), Math.max(150, page.height - 2 * page.margin - heading.implicitHeight - lower.implicitHeight - 2 * column.spacing)))
 
             Layout.fillWidth: true
             Layout.fillHeight: true
@@ -123,6 +123,7 @@ FocusScope {
                 }
 
                 CountdownRing {
+                    objectName: "countdown"
                     Layout.alignment: Qt.AlignHCenter
                     Layout.preferredWidth: page.ringSize
                     Layout.preferredHeight: page.ringSize
@@ -217,7 +218,7 @@ FocusScope {
         TaskPanel {
             id: tasks
 
-            Layout.preferredWidth: 372
+            Layout.preferredWidth: 344
             Layout.fillHeight: true
             screen: root.screen
         }

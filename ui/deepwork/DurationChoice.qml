@@ -16,6 +16,7 @@ RowLayout {
     spacing: Theme.gap3
 
     SegmentedChoice {
+        objectName: "durationChoice"
         name: qsTrId("duration_label")
         values: root.choices
         labels: ["15", "25", "45", "60", qsTrId("duration_own")]
@@ -32,6 +33,7 @@ RowLayout {
     EntryField {
         id: ownMinutes
 
+        objectName: "ownMinutes"
         implicitWidth: 88
         visible: root.ownAsked || !root.isUsual
         horizontalAlignment: TextInput.AlignHCenter
@@ -48,7 +50,8 @@ RowLayout {
             if (ownMinutes.acceptableInput)
                 root.screen.selectedDuration = Number(ownMinutes.text);
         }
-        onEditingFinished: ownMinutes.text = String(root.screen.selectedDuration)
+        // A number out of range is forgotten when the field is left.
+        onActiveFocusChanged: ownMinutes.text = String(root.screen.selectedDuration)
         onVisibleChanged: {
             ownMinutes.text = String(root.screen.selectedDuration);
             if (ownMinutes.visible && root.ownAsked) {

@@ -12,24 +12,9 @@ ListView {
     required property DeepWorkScreen screen
 
     function move(row: int, places: int): void {
-        const taskId = root.taskIdAt(row);
         root.screen.moveInQueue(row, places);
-        root.goTo(taskId);
-    }
-
-    function taskIdAt(row: int): string {
-        const item = root.itemAtIndex(row) as QueueRow;
-        return item ? item.taskId : "";
-    }
-
-    /// Rows move as others do; the current one is to stay the same task.
-    function goTo(taskId: string): void {
-        for (let row = 0; row < root.count; ++row) {
-            if (root.taskIdAt(row) === taskId) {
-                root.currentIndex = row;
-                return;
-            }
-        }
+        // The current row follows its task, but only once the list has taken note of the move.
+        root.forceLayout();
     }
 
     objectName: "queue"
@@ -44,7 +29,14 @@ ListView {
     Accessible.role: Accessible.List
     Accessible.name: qsTrId("tasks_title")
 
+    onActiveFocusChanged: {
+        // Whoever comes back is to find the row, not the button that was pressed last.
+        if (!root.activeFocus && root.currentItem)
+            root.currentItem.focus = true;
+    }
+
     Keys.onPressed: event => {
+        root.forceLayout();
         const row = root.currentIndex;
         event.accepted = true;
         if (event.key === Qt.Key_Up && event.modifiers & Qt.AltModifier)

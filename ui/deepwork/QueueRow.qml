@@ -23,7 +23,7 @@ Item {
 
     readonly property bool isTask: root.depth === 0
     readonly property bool isCurrent: root.ListView.isCurrentItem && root.ListView.view.activeFocus
-    readonly property bool showsActions: hover.hovered || root.isCurrent
+    readonly property bool isReached: hover.hovered || root.isCurrent
     readonly property bool showsDetail: root.isTask && (root.projectName.length > 0 || root.subtaskCount > 0)
     readonly property bool isTyping: root.queue.subtaskRow === root.index
 
@@ -41,9 +41,9 @@ Item {
         id: body
 
         width: parent.width
-        height: root.showsDetail ? 56 : root.isTask ? 44 : 38
+        height: Math.max(root.isTask ? 44 : 38, words.implicitHeight + 2 * Theme.gap3)
         radius: Theme.radius
-        color: handle.pressed ? Theme.surfacePressed : root.isActive && root.isTask ? Theme.accentSurface : root.showsActions ? Theme.surfaceRaised : root.isTask ? Theme.surface : "transparent"
+        color: handle.pressed ? Theme.surfacePressed : root.isActive && root.isTask ? Theme.accentSurface : root.isReached ? Theme.surfaceRaised : root.isTask ? Theme.surface : "transparent"
         transform: Translate {
             y: handle.pressed ? handle.offset : 0
         }
@@ -64,12 +64,16 @@ Item {
             spacing: 0
 
             CheckCircle {
+                Layout.alignment: Qt.AlignTop
+                Layout.topMargin: root.isTask ? 6 : 3
                 checked: root.isDone
                 text: root.isDone ? qsTrId("task_reopen").arg(root.title) : qsTrId("task_tick").arg(root.title)
                 onClicked: root.queue.screen.toggleDone(root.index)
             }
 
             ColumnLayout {
+                id: words
+
                 Layout.fillWidth: true
                 Layout.leftMargin: Theme.gap1
                 spacing: 0
@@ -80,6 +84,8 @@ Item {
                     color: root.isDone ? Theme.textFaint : root.isTask ? Theme.text : Theme.textMuted
                     font.strikeout: root.isDone
                     font.weight: root.isActive && root.isTask ? Font.DemiBold : Font.Normal
+                    wrapMode: Text.Wrap
+                    maximumLineCount: 2
                     elide: Text.ElideRight
                     Accessible.ignored: true
                 }
@@ -104,22 +110,27 @@ Item {
                         elide: Text.ElideRight
                     }
                 }
-            }
 
-            QueueRowActions {
-                visible: root.showsActions
-                queue: root.queue
-                index: root.index
-                queueIndex: root.queueIndex
-                title: root.title
-                isTask: root.isTask
-                canBecomeActive: root.isTask && !root.isActive && !root.isDone
+                QueueRowActions {
+                    Layout.topMargin: Theme.gap1
+                    Layout.leftMargin: -Theme.gap2
+                    objectName: "queueRowActions"
+                    visible: root.isCurrent
+                    queue: root.queue
+                    index: root.index
+                    queueIndex: root.queueIndex
+                    title: root.title
+                    isTask: root.isTask
+                    canBecomeActive: root.isTask && !root.isActive && !root.isDone
+                }
             }
 
             Item {
+                Layout.alignment: Qt.AlignTop
+                Layout.topMargin: 6
                 implicitWidth: 24
                 implicitHeight: 32
-                visible: root.isTask && root.showsActions && root.queue.screen.queue.taskCount > 1
+                visible: root.isTask && root.isReached && root.queue.screen.queue.taskCount > 1
 
                 Symbol {
                     anchors.centerIn: parent
@@ -157,7 +168,7 @@ Item {
         visible: root.isTask && root.queue.dropPlace === root.queueIndex && root.queue.dropPlace !== root.queue.draggedPlace
     }
 
-    Loader {
+    Deferred {
         id: subtask
 
         x: Theme.gap8
@@ -165,7 +176,7 @@ Item {
         width: parent.width - x
         active: root.isTyping
 
-        sourceComponent: SubtaskField {
+        SubtaskField {
             queue: root.queue
             index: root.index
         }

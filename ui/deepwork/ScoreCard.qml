@@ -19,24 +19,15 @@ Card {
         anchors.fill: parent
         anchors.margins: Theme.gap4
         anchors.leftMargin: Theme.gap5
-        anchors.rightMargin: Theme.gap3
-        spacing: Theme.gap1
+        anchors.rightMargin: Theme.gap5
+        spacing: Theme.gap2
 
-        RowLayout {
-            spacing: Theme.gap2
-
-            ThemedText {
-                Layout.fillWidth: true
-                text: qsTrId("score_label")
-                color: Theme.textMuted
-            }
-
-            IconButton {
-                objectName: "explainScore"
-                symbol: root.explained ? "chevron.up" : "chevron.down"
-                text: root.explained ? qsTrId("score_hide_terms") : qsTrId("score_show_terms")
-                onClicked: root.explained = !root.explained
-            }
+        ThemedText {
+            Layout.fillWidth: true
+            Layout.rightMargin: explain.width
+            text: qsTrId("score_label")
+            color: Theme.textMuted
+            wrapMode: Text.WordWrap
         }
 
         RowLayout {
@@ -58,11 +49,26 @@ Card {
 
         ThemedText {
             Layout.fillWidth: true
-            Layout.rightMargin: Theme.gap2
             visible: !root.session.scoreHasEnoughData
             text: qsTrId("score_not_enough_data")
             color: Theme.textMuted
             wrapMode: Text.WordWrap
         }
+
+        Item {
+            Layout.fillHeight: true
+        }
+    }
+
+    IconButton {
+        id: explain
+
+        objectName: "explainScore"
+        anchors.right: parent.right
+        anchors.top: parent.top
+        anchors.margins: Theme.gap2
+        symbol: root.explained ? "chevron.up" : "chevron.down"
+        text: root.explained ? qsTrId("score_hide_terms") : qsTrId("score_show_terms")
+        onClicked: root.explained = !root.explained
     }
 }

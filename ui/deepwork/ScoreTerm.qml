@@ -1,21 +1,24 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Layouts
 import NorvinFocus.Ui
 
 /// One line of the score's explanation.
-RowLayout {
+Item {
     id: root
 
     required property string label
     required property string value
     property bool isTotal: false
 
-    spacing: Theme.gap3
+    implicitHeight: name.implicitHeight + 2
 
     ThemedText {
-        Layout.fillWidth: true
+        id: name
+
+        anchors.left: parent.left
+        anchors.right: points.left
+        anchors.rightMargin: Theme.gap3
         text: root.label
         color: root.isTotal ? Theme.text : Theme.textMuted
         font.weight: root.isTotal ? Font.DemiBold : Font.Normal
@@ -23,6 +26,9 @@ RowLayout {
     }
 
     Digits {
+        id: points
+
+        anchors.right: parent.right
         text: root.value
         pixelSize: Theme.body
         weight: root.isTotal ? Font.DemiBold : Font.Normal

@@ -46,12 +46,12 @@ ColumnLayout {
         }
     }
 
-    Loader {
+    Deferred {
         Layout.fillWidth: true
         active: scoreCard.explained
         visible: active
 
-        sourceComponent: ScoreTerms {
+        ScoreTerms {
             session: root.session
         }
     }

@@ -36,5 +36,9 @@ Card {
             color: Theme.textMuted
             wrapMode: Text.WordWrap
         }
+
+        Item {
+            Layout.fillHeight: true
+        }
     }
 }

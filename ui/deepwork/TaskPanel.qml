@@ -36,8 +36,7 @@ Rectangle {
             }
 
             ThemedText {
-                visible: root.screen.queue.taskCount > 0
-                text: qsTrId("tasks_count", root.screen.queue.taskCount)
+                text: root.screen.queue.taskCount > 0 ? qsTrId("tasks_count", root.screen.queue.taskCount) : ""
                 color: Theme.textMuted
             }
         }

@@ -4,12 +4,12 @@ import QtQuick
 import NorvinFocus.Ui
 
 /// A page that is built when it is first wanted, takes the keyboard each time it is, and then stays.
-Loader {
+Deferred {
     id: root
 
     required property bool wanted
 
-    active: false
+    fillsHeight: true
 
     onWantedChanged: {
         if (!root.wanted)

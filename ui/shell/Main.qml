@@ -100,7 +100,7 @@ Window {
                 LazyPage {
                     wanted: root.page === 1
 
-                    sourceComponent: BlockListsView {
+                    BlockListsView {
                         applications: root.applications
                     }
                 }
@@ -108,7 +108,7 @@ Window {
                 LazyPage {
                     wanted: root.page === 2
 
-                    sourceComponent: HealthView {
+                    HealthView {
                         health: root.health
                     }
                 }
@@ -116,13 +116,11 @@ Window {
         }
     }
 
-    Loader {
+    Deferred {
         id: quitQuestion
 
-        active: false
-        onLoaded: (quitQuestion.item as QuestionDialog).open()
-
-        sourceComponent: QuestionDialog {
+        QuestionDialog {
+            visible: true
             title: qsTrId("quit_title")
             message: qsTrId("quit_message")
             acceptText: qsTrId("quit_button")

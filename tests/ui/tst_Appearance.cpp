@@ -1,0 +1,212 @@
+#include "tests/ui/UiRig.h"
+
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQmlProperty>
+
+#include <cmath>
+
+using namespace norvin;
+
+/// What must hold for whatever the window shows, in both languages.
+class AppearanceTest final : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase_data();
+    void init();
+    void cleanup() { rig.reset(); }
+
+    void nothingIsCutAndEverythingHasAName_data();
+    void nothingIsCutAndEverythingHasAName();
+    void textsStandOutFromTheirGround();
+
+private:
+    void bringAbout(const QString& scene);
+    void checkTexts(const QString& scene) const;
+    void checkNames(const QString& scene) const;
+
+    std::unique_ptr<UiRig> rig;
+};
+
+namespace {
+
+QString described(const QQuickItem* item) {
+    return QStringLiteral("%1 \"%2\" \"%3\"")
+        .arg(QLatin1String(item->metaObject()->className()), item->objectName(),
+             item->property("text").toString());
+}
+
+double channel(double value) {
+    return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+}
+
+double luminance(const QColor& color) {
+    return 0.2126 * channel(color.redF()) + 0.7152 * channel(color.greenF()) +
+           0.0722 * channel(color.blueF());
+}
+
+double contrast(const QColor& one, const QColor& other) {
+    const double a = luminance(one);
+    const double b = luminance(other);
+    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+}
+
+} // namespace
+
+void AppearanceTest::initTestCase_data() {
+    QTest::addColumn<QString>("language");
+    QTest::newRow("en") << QStringLiteral("en");
+    QTest::newRow("fr") << QStringLiteral("fr");
+}
+
+void AppearanceTest::init() {
+    QFETCH_GLOBAL(QString, language);
+    rig = std::make_unique<UiRig>(language);
+    QVERIFY2(rig->loaded, qPrintable(rig->focus.lines.join(QLatin1Char('\n'))));
+    rig->show();
+}
+
+void AppearanceTest::bringAbout(const QString& scene) {
+    FocusRig& focus = rig->focus;
+    focus.blocker.addAppToWhitelist(focus.editor.bundleIdentifier);
+    focus.workspace.setRunningApplications({focus.editor});
+    focus.workspace.setFrontmost(focus.editor);
+    if (scene == QLatin1String("filled") || scene == QLatin1String("running")) {
+        rig->deepWork.addTask(QStringLiteral("Write the report"));
+        rig->deepWork.addTask(QStringLiteral("Answer mail"));
+        FocusRig::settle();
+        rig->deepWork.addSubtask(0, QStringLiteral("Collect figures"));
+        FocusRig::settle();
+        rig->item("queue")->forceActiveFocus(Qt::TabFocusReason);
+    }
+    if (scene == QLatin1String("blocklists"))
+        rig->showPage(1);
+    if (scene == QLatin1String("health")) {
+        rig->idleTime =
+            Availability::unavailable(QStringLiteral("health_wayland_idle"), QStringLiteral("detail"));
+        rig->showPage(2);
+    }
+    if (scene == QLatin1String("own"))
+        rig->deepWork.setSelectedDuration(1440);
+    if (scene == QLatin1String("break"))
+        rig->deepWork.startBreak();
+    if (!QStringList({QStringLiteral("started"), QStringLiteral("running"), QStringLiteral("paused"),
+                      QStringLiteral("resumed"), QStringLiteral("completed"), QStringLiteral("quit")})
+             .contains(scene))
+        return;
+    rig->deepWork.start();
+    if (scene == QLatin1String("started"))
+        return;
+    focus.pass(std::chrono::seconds(75));
+    focus.workspace.setFrontmost(focus.game);
+    focus.idle.setTimeSinceLastInput(std::chrono::minutes(5));
+    focus.pass(std::chrono::seconds(75));
+    if (scene == QLatin1String("running"))
+        QMetaObject::invokeMethod(rig->item("explainScore"), "clicked");
+    if (scene == QLatin1String("paused") || scene == QLatin1String("resumed"))
+        rig->deepWork.pause();
+    if (scene == QLatin1String("resumed"))
+        rig->deepWork.resume();
+    if (scene == QLatin1String("completed"))
+        focus.pass(std::chrono::seconds(1501));
+    if (scene == QLatin1String("quit"))
+        rig->press(Qt::Key_Q, Qt::ControlModifier);
+}
+
+void AppearanceTest::checkTexts(const QString& scene) const {
+    const QRectF page(QPointF(0, 0), QSizeF(rig->window()->size()));
+    int texts = 0;
+    for (QQuickItem* item : rig->visibleItems()) {
+        if (!item->inherits("QQuickText") || item->property("text").toString().isEmpty())
+            continue;
+        ++texts;
+        const QString what = scene + QStringLiteral(": ") + described(item);
+        QVERIFY2(!item->property("truncated").toBool(), qPrintable(what));
+        QVERIFY2(item->property("contentWidth").toReal() <= item->width() + 1, qPrintable(what));
+        QVERIFY2(item->property("contentHeight").toReal() <= item->height() + 1, qPrintable(what));
+        bool isInList = false;
+        for (const QQuickItem* above = item; above; above = above->parentItem())
+            isInList = isInList || above->inherits("QQuickListView");
+        if (isInList)
+            continue;
+        const QRectF place = item->mapRectToScene(item->boundingRect());
+        QVERIFY2(page.adjusted(-1, -1, 1, 1).contains(place), qPrintable(what));
+        const QRectF room = QRectF(QPointF(0, 0), item->parentItem()->size()).adjusted(-1, -1, 1, 1);
+        QVERIFY2(room.contains(item->mapRectToItem(item->parentItem(), item->boundingRect())),
+                 qPrintable(what));
+    }
+    QVERIFY(texts > 10);
+}
+
+void AppearanceTest::checkNames(const QString& scene) const {
+    int controls = 0;
+    for (QQuickItem* item : rig->visibleItems()) {
+        const bool takesInput = item->activeFocusOnTab() || item->inherits("QQuickAbstractButton");
+        if (!takesInput)
+            continue;
+        ++controls;
+        QAccessibleInterface* face = QAccessible::queryAccessibleInterface(item);
+        const QString what = scene + QStringLiteral(": ") + described(item);
+        QVERIFY2(face && face->isValid(), qPrintable(what));
+        QVERIFY2(!face->text(QAccessible::Name).isEmpty(), qPrintable(what));
+        QVERIFY2(face->role() != QAccessible::NoRole, qPrintable(what));
+    }
+    QVERIFY(controls >= 5);
+}
+
+void AppearanceTest::nothingIsCutAndEverythingHasAName_data() {
+    QTest::addColumn<QString>("scene");
+    for (const char* scene : {"empty", "filled", "own", "started", "running", "paused", "resumed",
+                              "completed", "break", "blocklists", "health", "quit"})
+        QTest::newRow(scene) << QString::fromLatin1(scene);
+}
+
+void AppearanceTest::nothingIsCutAndEverythingHasAName() {
+    QFETCH(QString, scene);
+    bringAbout(scene);
+    QSignalSpy drawn(rig->window(), &QQuickWindow::frameSwapped);
+    rig->window()->update();
+    QVERIFY(drawn.wait());
+    checkTexts(scene);
+    checkNames(scene);
+}
+
+void AppearanceTest::textsStandOutFromTheirGround() {
+    QQmlComponent component(qmlEngine(rig->window()));
+    component.setData("import QtQuick\nimport NorvinFocus.Ui\nQtObject { property QtObject theme: Theme }",
+                      {});
+    const std::unique_ptr<QObject> holder(component.create());
+    QVERIFY2(holder, qPrintable(component.errorString()));
+    auto* theme = holder->property("theme").value<QObject*>();
+    const auto check = [theme](const char* text, const char* ground) {
+        const QColor ink = theme->property(text).value<QColor>();
+        const QColor paper = theme->property(ground).value<QColor>();
+        QVERIFY2(ink.isValid() && paper.isValid(), text);
+        QVERIFY2(contrast(ink, paper) >= 4.5,
+                 qPrintable(QStringLiteral("%1 on %2").arg(QLatin1String(text), QLatin1String(ground))));
+    };
+    for (const char* ground : {"background", "sidebar", "surface", "surfaceRaised", "surfaceHover"}) {
+        check("text", ground);
+        check("textMuted", ground);
+    }
+    for (const char* ground : {"background", "sidebar", "surface", "surfaceRaised"}) {
+        check("textFaint", ground);
+        check("accentText", ground);
+        check("legitimate", ground);
+        check("amber", ground);
+    }
+    check("distracted", "surface");
+    check("distracted", "distractedSurface");
+    check("legitimate", "legitimateSurface");
+    check("text", "accentSurface");
+    check("textMuted", "accentSurface");
+    check("text", "amberSurface");
+    for (const char* ground : {"accent", "accentHover", "accentPressed"})
+        check("accentInk", ground);
+    check("dangerInk", "danger");
+    check("dangerInk", "dangerHover");
+}
+
+QTEST_MAIN(AppearanceTest)
+#include "tst_Appearance.moc"
