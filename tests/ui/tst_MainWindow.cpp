@@ -119,10 +119,18 @@ void MainWindowTest::theQueueIsArrangedByKeyboard() {
 void MainWindowTest::aTaskIsDraggedToAnotherPlace() {
     queueTasks({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
     QQuickItem* queue = rig->item("queue");
-    const auto at = [&](qreal x, qreal y) { return queue->mapToScene(QPointF(x, y)).toPoint(); };
-    const QPoint handle = at(queue->width() - 16, 22);
-    QTest::mouseMove(rig->window(), handle - QPoint(4, 0));
-    QTest::mouseMove(rig->window(), handle);
+    QTRY_VERIFY(queue->property("contentHeight").toReal() > 3 * 40);
+    const auto visibleHandle = [this]() -> QQuickItem* {
+        for (QQuickItem* item : rig->visibleItems()) {
+            if (item->objectName() == QLatin1String("dragHandle"))
+                return item;
+        }
+        return nullptr;
+    };
+    QTest::mouseMove(rig->window(), queue->mapToScene(QPointF(60, 20)).toPoint());
+    QTRY_VERIFY(visibleHandle());
+    QQuickItem* item = visibleHandle();
+    const QPoint handle = item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
     QTest::mousePress(rig->window(), Qt::LeftButton, {}, handle);
     QTest::mouseMove(rig->window(), handle + QPoint(0, 40));
     QTest::mouseMove(rig->window(), handle + QPoint(0, 92));

@@ -26,7 +26,7 @@ ColumnLayout {
     spacing: Theme.gap6
 
     ColumnLayout {
-        Layout.alignment: Qt.AlignHCenter
+        Layout.fillWidth: true
         spacing: Theme.gap3
 
         Symbol {
@@ -37,7 +37,8 @@ ColumnLayout {
         }
 
         ThemedText {
-            Layout.alignment: Qt.AlignHCenter
+            Layout.fillWidth: true
+            horizontalAlignment: Text.AlignHCenter
             text: root.headline()
             font.pixelSize: Theme.headline
             font.weight: Font.DemiBold

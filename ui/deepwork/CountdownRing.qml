@@ -59,6 +59,7 @@ Item {
     Symbol {
         anchors.horizontalCenter: parent.horizontalCenter
         y: root.height * 0.2
+        visible: root.width >= 180
         name: root.symbol
         color: root.color
         size: Math.round(root.width / 10)

@@ -48,7 +48,6 @@ T.Button {
                 Layout.fillWidth: true
                 text: root.text
                 color: root.foreground
-                font.weight: root.isCurrent ? Font.DemiBold : Font.Normal
                 wrapMode: Text.WordWrap
                 Accessible.ignored: true
             }
