@@ -127,14 +127,16 @@ void MainWindowTest::aTaskIsDraggedToAnotherPlace() {
         }
         return nullptr;
     };
-    QTest::mouseMove(rig->window(), queue->mapToScene(QPointF(60, 20)).toPoint());
+    QTest::mouseClick(rig->window(), Qt::LeftButton, {}, queue->mapToScene(QPointF(60, 20)).toPoint());
     QTRY_VERIFY(visibleHandle());
     QQuickItem* item = visibleHandle();
     const QPoint handle = item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
     QTest::mousePress(rig->window(), Qt::LeftButton, {}, handle);
-    QTest::mouseMove(rig->window(), handle + QPoint(0, 40));
-    QTest::mouseMove(rig->window(), handle + QPoint(0, 92));
-    QTest::mouseRelease(rig->window(), Qt::LeftButton, {}, handle + QPoint(0, 92));
+    const qreal lastRow = queue->property("contentHeight").toReal() - 10;
+    const QPoint target(handle.x(), qRound(queue->mapToScene(QPointF(0, lastRow)).y()));
+    QTest::mouseMove(rig->window(), (handle + target) / 2);
+    QTest::mouseMove(rig->window(), target);
+    QTest::mouseRelease(rig->window(), Qt::LeftButton, {}, target);
     QTRY_COMPARE(queuedTitles(),
                  QStringList({QStringLiteral("b"), QStringLiteral("c"), QStringLiteral("a")}));
 }
