@@ -142,6 +142,7 @@ Item {
                 QueueDragArea {
                     id: handle
 
+                    objectName: "dragHandle"
                     anchors.fill: parent
                     queue: root.queue
                     index: root.index
