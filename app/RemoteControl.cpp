@@ -120,6 +120,8 @@ ExitCode RemoteControl::launch() {
     QProcess process;
     process.setProgram(QCoreApplication::applicationFilePath());
     process.setStandardOutputFile(QProcess::nullDevice());
+    // A caller that reads this command's output to its end must not wait for the program to end.
+    process.setStandardErrorFile(QProcess::nullDevice());
     process.setStandardInputFile(QProcess::nullDevice());
     if (!process.startDetached(&processId) || !waitForInstance(processId)) {
         printError(QStringLiteral("Norvin Focus could not be started"));
