@@ -1,0 +1,184 @@
+"""Measures the program and prints ratios as a table: run.py BUILD-DIRECTORY
+
+Whole processes are measured on a private virtual display, in turn with their neighbours, so that what the machine does
+meanwhile meets both. The store holds ten years of a heavy user. Nothing here passes or fails."""
+
+import json
+import random
+import sqlite3
+import statistics
+import subprocess
+import sys
+import time
+import uuid
+from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "tests" / "desktop"))
+
+from support.application import Application  # noqa: E402
+from support.desktop import WORK, Desktop  # noqa: E402
+
+START_PAIRS = 15
+SAMPLE_SECONDS = 30
+YEARS = 10
+DAY = 86_400_000  # milliseconds
+
+
+def fill_store(file):
+    """200 projects, 20,000 tasks, 36,500 sessions and 1,500,000 intervals, the newest of today."""
+    chance = random.Random(1)
+    now = int(time.time() * 1000)
+    first = now - YEARS * 365 * DAY
+    connection = sqlite3.connect(file)
+    connection.execute("PRAGMA synchronous = OFF")
+
+    def identity():
+        return uuid.UUID(int=chance.getrandbits(128)).bytes
+
+    projects = [identity() for _ in range(200)]
+    connection.executemany("INSERT INTO Project VALUES (?, ?, '', '#7c3aed', '', ?)",
+                           ((key, f"Project {i}", first + i) for i, key in enumerate(projects)))
+    connection.executemany(
+        "INSERT INTO TaskItem VALUES (?, ?, '', ?, 1, NULL, ?, NULL, ?, NULL, NULL)",
+        ((identity(), f"Task {i}", "done" if i % 5 else "todo", first + i, projects[i % 200]) for i in range(20_000)))
+    connection.executemany(
+        "INSERT INTO Session VALUES (?, ?, 25, 1, NULL, ?, 0, 0, 0, 1400, 100)",
+        ((identity(), first + i * (YEARS * 365 * DAY // 36_500), chance.uniform(3, 10)) for i in range(36_500)))
+    connection.executemany("INSERT INTO AppUsageSource VALUES (?, ?, ?, 'category_other')",
+                           ((i, f"org.example.App{i}", f"App {i}") for i in range(1, 121)))
+    step = YEARS * 365 * DAY // 1_500_000
+    connection.executemany(
+        "INSERT INTO AppUsageSession VALUES (?, ?, ?, ?, 60)",
+        ((chance.randbytes(16), 1 + min(119, int(chance.paretovariate(1))), first + i * step, first + i * step + 60_000)
+         for i in range(1_500_000)))
+    connection.commit()
+    connection.execute("PRAGMA wal_checkpoint(TRUNCATE)")
+    connection.close()
+
+
+def first_frame(command, environment):
+    """Seconds from the start of a process to the line that announces its first frame."""
+    begin = time.perf_counter()
+    with subprocess.Popen(command, env=environment, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                          stderr=subprocess.DEVNULL) as process:
+        for line in process.stdout:
+            if line.startswith(b"first frame"):
+                elapsed = time.perf_counter() - begin
+                process.communicate()
+                return elapsed
+    raise SystemExit(f"{command} showed no frame")
+
+
+def measure_start(desktop, program, empty_window):
+    own, empty = [], []
+    for pair in range(START_PAIRS + 1):
+        a = first_frame([program, "--measure-first-frame"], desktop.environment)
+        b = first_frame([empty_window], desktop.environment)
+        if pair > 0:  # the first pair warms the caches
+            own.append(a)
+            empty.append(b)
+    return statistics.median(own), statistics.median(empty)
+
+
+def usage_of(pid):
+    """CPU nanoseconds and voluntary context switches of a process so far."""
+    cpu = switches = 0
+    for task in Path(f"/proc/{pid}/task").iterdir():
+        cpu += int((task / "schedstat").read_text().split()[0])
+        for line in (task / "status").read_text().splitlines():
+            if line.startswith("voluntary_ctxt_switches:"):
+                switches += int(line.split()[1])
+    return cpu, switches
+
+
+def sample(pid):
+    """Per cent of a core, voluntary context switches a second, proportional set size in MB."""
+    time.sleep(3)  # what was done just before settles
+    begin = time.perf_counter()
+    cpu, switches = usage_of(pid)
+    time.sleep(SAMPLE_SECONDS)
+    cpu_after, switches_after = usage_of(pid)
+    seconds = time.perf_counter() - begin
+    rollup = Path(f"/proc/{pid}/smaps_rollup").read_text()
+    pss = next(int(line.split()[1]) for line in rollup.splitlines() if line.startswith("Pss:"))
+    return (cpu_after - cpu) / seconds / 1e7, (switches_after - switches) / seconds, pss / 1024
+
+
+def measure_session(app):
+    desktop = app.desktop
+    app.launch()
+    app.do("allow", "--app", WORK)
+    desktop.bring_to_front(app.windows()[0])
+    result = {"idle": sample(app.process.pid)}
+    app.do("start", "--minutes", "60")
+    result["open"] = sample(app.process.pid)
+    desktop.start_program(WORK)
+    app.close_windows()
+    result["hidden"] = sample(app.process.pid)
+    app.do("stop")
+    result["idle, hidden"] = sample(app.process.pid)
+    return result
+
+
+def measure_store(program):
+    output = subprocess.run([program, "--benchmark_format=json", "--benchmark_repetitions=3",
+                             "--benchmark_enable_random_interleaving=true"],
+                            check=True, capture_output=True, text=True).stdout
+    runs = {}
+    for run in json.loads(output)["benchmarks"]:
+        if run["run_type"] == "iteration":
+            runs.setdefault(run["name"].split("/")[0], []).append(run)
+
+    def median(name, key):
+        return statistics.median(run[key] for run in runs[name])
+
+    return median
+
+
+def main():
+    build = Path(sys.argv[1]).resolve()
+    program = str(build / "bin" / "norvin-focus")
+    rows = []
+    desktop = Desktop()
+    try:
+        app = Application(desktop, program)
+        app.launch("--hidden")
+        app.process.terminate()
+        app.process.wait()
+        fill_store(app.store_file)
+
+        own, empty = measure_start(desktop, program, str(build / "bin" / "bench_empty_window"))
+        rows.append(("start to first frame / that of an empty Qt Quick window", f"{own / empty:.2f}",
+                     f"{own * 1000:.0f} / {empty * 1000:.0f} ms", "2"))
+        budgets = {"idle": ("–", "0.1", "60"), "open": ("0.2", "6", "60"), "hidden": ("0.05", "2", "60"),
+                   "idle, hidden": ("–", "0.1", "60")}
+        names = {"idle": "nothing running, window open", "open": "session running, window open",
+                 "hidden": "session running, window closed", "idle, hidden": "nothing running, window closed"}
+        for state, (cpu, switches, pss) in measure_session(app).items():
+            limits = budgets[state]
+            rows.append((f"{names[state]}: CPU, % of a core", f"{cpu:.3f}", "", limits[0]))
+            rows.append((f"{names[state]}: voluntary context switches a second", f"{switches:.2f}", "", limits[1]))
+            rows.append((f"{names[state]}: proportional set size, MB", f"{pss:.0f}", "", limits[2]))
+    finally:
+        desktop.close()
+
+    median = measure_store(str(build / "bin" / "bench_store"))
+    for percentile, budget in (("p50_us", "0.5 ms more"), ("p99_us", "2 ms more")):
+        save, sqlite, flush = (median(name, percentile)
+                               for name in ("saveThroughContext", "saveThroughSqlite", "flushBare"))
+        name = percentile.removesuffix("_us")
+        rows.append((f"save of one record, {name} / the same row through SQLite's C interface",
+                     f"{save / sqlite:.2f}", f"{save:.0f} / {sqlite:.0f} µs", "–"))
+        rows.append((f"save of one record, {name} / a bare fdatasync", f"{save / flush:.2f}",
+                     f"{save:.0f} / {flush:.0f} µs", budget))
+    load, scan = median("loadPlanningGraph", "real_time"), median("scanPlanningRows", "real_time")
+    rows.append(("load of 200 projects and 20,000 tasks / a bare scan of their rows", f"{load / scan:.2f}",
+                 f"{load / 1e6:.1f} / {scan / 1e6:.1f} ms", "–"))
+
+    print("| what | measured | from | at most |\n| --- | --- | --- | --- |")
+    for row in rows:
+        print("| " + " | ".join(row) + " |")
+
+
+if __name__ == "__main__":
+    main()
