@@ -60,23 +60,14 @@ class Session(DesktopTestCase):
         # The own window, brought up over the blocked application, counts as work but is not recorded.
         self.assertGreaterEqual(seconds[WORK], 12)
         self.assertLessEqual(seconds[WORK], session["legitimateTimeSeconds"])
-        log = self.rows_of_view("SessionLog")
+        (log,) = self.app.rows("SELECT * FROM SessionLog")
         self.assertEqual((log["task"], log["completed"]), ("Write the report", "yes"))
 
-        self.assertEqual(self.app.windows(), []) if not self.app.windows() else self.close_window()
+        self.app.close_windows()
         (notification,) = wait_until(lambda: self.desktop.visible_windows("--class", "^Dunst$"),
-                                     "the end is announced")[-1:]
+                                     "the end is announced")
         self.desktop.run("xdotool", "mousemove", "--window", str(notification), "20", "20", "click", "1", check=True)
         wait_until(self.app.is_in_front, "the notification leads back to the window")
-
-    def rows_of_view(self, view):
-        return self.app.rows(f"SELECT * FROM {view}")[0]
-
-    def close_window(self):
-        for window in self.app.windows():
-            self.desktop.bring_to_front(window)
-            self.desktop.run("xdotool", "key", "alt+F4")
-        wait_until(lambda: not self.app.windows(), "the window is closed")
 
 
 if __name__ == "__main__":

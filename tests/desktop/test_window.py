@@ -7,16 +7,11 @@ from support.processes import wait_until
 
 
 class Window(DesktopTestCase):
-    def close_window(self):
-        (window,) = wait_until(self.app.windows, "the window is shown")
-        self.desktop.bring_to_front(window)
-        self.desktop.run("xdotool", "key", "alt+F4", check=True)
-        wait_until(lambda: not self.app.windows(), "the window is closed")
-
     def test_closing_it_keeps_a_session_running(self):
         self.app.launch()
         self.app.do("start", "--task", "Go on")
-        self.close_window()
+        wait_until(self.app.is_in_front, "the window is shown")
+        self.app.close_windows()
         remaining = self.app.status()["timeRemaining"]
         status = self.app.wait_for(lambda s: s["timeRemaining"] < remaining, "the session runs on")
         self.assertEqual((status["state"], status["activeTask"]["title"]), ("running", "Go on"))
@@ -24,6 +19,7 @@ class Window(DesktopTestCase):
 
         self.assertEqual(self.app.command()[0], 0)
         wait_until(self.app.is_in_front, "another launch brings the window back")
+        self.app.do("stop")
         self.desktop.run("xdotool", "key", "ctrl+q", check=True)
         self.assertEqual(self.app.process.wait(15), 0)
         self.assertEqual(self.app.sessions(), [])

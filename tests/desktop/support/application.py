@@ -86,6 +86,13 @@ class Application:
         """The windows on the screen of the program that was launched."""
         return self.desktop.visible_windows("--pid", str(self.process.pid))
 
+    def close_windows(self):
+        """Closes each window as its user does."""
+        for window in self.windows():
+            self.desktop.bring_to_front(window)
+            self.desktop.run("xdotool", "key", "alt+F4", check=True)
+        wait_until(lambda: not self.windows(), "the window is closed")
+
     def is_in_front(self):
         return self.desktop.active_window() in self.windows()
 
@@ -158,9 +165,5 @@ class DesktopTestCase(unittest.TestCase):
     def _report_failure(self):
         # The result is complete only after the cleanups, so the failure is looked up where it is kept now.
         outcome = self._outcome.result
-        if not any(test is self for test, _ in outcome.failures + outcome.errors):
-            return
-        for name in sorted(os.listdir(self.desktop.directory)):
-            if name.endswith(".log"):
-                with open(self.desktop.path(name), encoding="utf-8", errors="replace") as log:
-                    print(f"--- {name}\n{log.read()[-4000:]}", flush=True)
+        if any(test is self for test, _ in outcome.failures + outcome.errors):
+            self.desktop.print_logs()

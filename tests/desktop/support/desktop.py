@@ -90,8 +90,15 @@ class Desktop:
             if login:
                 self.start_login_service()
         except BaseException:
+            self.print_logs()
             self.close()
             raise
+
+    def print_logs(self):
+        for name in sorted(os.listdir(self.directory)):
+            if name.endswith(".log"):
+                with open(self.path(name), encoding="utf-8", errors="replace") as log:
+                    print(f"--- {name}\n{log.read()[-4000:]}", flush=True)
 
     def close(self):
         self.processes.stop_all()
@@ -122,8 +129,11 @@ class Desktop:
     def _start_display(self):
         reading, writing = os.pipe()
         with os.fdopen(reading, "rb") as answer:
-            self.processes.start("xvfb", ["Xvfb", "-displayfd", str(writing), "-screen", "0", "1400x900x24",
-                                          "-nolisten", "tcp"], self.environment, pass_fds=(writing,))
+            # Without -noreset the server would begin anew, and refuse connections for a moment, whenever its last
+            # client leaves.
+            self.processes.start("xvfb", ["Xvfb", "-displayfd", str(writing), "-noreset", "-screen", "0",
+                                          "1400x900x24", "-nolisten", "tcp"],
+                                 self.environment, pass_fds=(writing,))
             os.close(writing)
             self.environment["DISPLAY"] = ":" + read_line(answer.fileno(), "the display")
 
