@@ -93,6 +93,8 @@ Rectangle {
             activeFocusOnTab: false
             values: root.lists
             labels: [qsTrId("list_none"), qsTrId("list_blocked"), qsTrId("list_whitelisted")]
+            chosenColors: [Theme.surfacePressed, Theme.danger, Theme.legitimateStrong]
+            chosenInks: [Theme.text, Theme.dangerInk, Theme.legitimateInk]
             value: root.list
             onChosen: value => root.listChosen(root.bundleId, value)
         }

@@ -16,6 +16,9 @@ FocusScope {
     required property string name
     /// Names of the options for a screen reader, where the labels say too little; may be empty.
     property list<string> optionNames: []
+    /// Colour behind each option while it is chosen, and of its text; the accent where there are none.
+    property list<color> chosenColors: []
+    property list<color> chosenInks: []
     property int segmentHeight: Theme.controlHeightSmall
     property int segmentPadding: Theme.gap3
     readonly property int index: root.values.indexOf(root.value)
@@ -66,7 +69,8 @@ FocusScope {
 
                 text: segment.modelData
                 checked: segment.index === root.index
-                implicitWidth: Math.max(implicitContentWidth, 20) + 2 * root.segmentPadding
+                // As wide as when it is chosen, so that nothing moves.
+                implicitWidth: Math.max(chosenText.advanceWidth, 20) + 2 * root.segmentPadding
                 implicitHeight: root.segmentHeight
                 hoverEnabled: true
                 focusPolicy: Qt.NoFocus
@@ -79,9 +83,20 @@ FocusScope {
                     root.choose(segment.index);
                 }
 
-                contentItem: ThemedText {
+                TextMetrics {
+                    id: chosenText
+
                     text: segment.text
-                    color: segment.checked ? Theme.accentInk : segment.hovered ? Theme.text : Theme.textMuted
+                    font.family: label.font.family
+                    font.pixelSize: label.font.pixelSize
+                    font.weight: Font.DemiBold
+                }
+
+                contentItem: ThemedText {
+                    id: label
+
+                    text: segment.text
+                    color: segment.checked ? (root.chosenInks[segment.index] ?? Theme.accentInk) : segment.hovered ? Theme.text : Theme.textMuted
                     font.weight: segment.checked ? Font.DemiBold : Font.Normal
                     horizontalAlignment: Text.AlignHCenter
                     verticalAlignment: Text.AlignVCenter
@@ -90,7 +105,7 @@ FocusScope {
 
                 background: Rectangle {
                     radius: Theme.radiusSmall
-                    color: segment.checked ? Theme.accent : segment.hovered ? Theme.surfaceHover : "transparent"
+                    color: segment.checked ? (root.chosenColors[segment.index] ?? Theme.accent) : segment.hovered ? Theme.surfaceHover : "transparent"
                 }
             }
         }

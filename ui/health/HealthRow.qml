@@ -32,7 +32,7 @@ Card {
         spacing: Theme.gap4
 
         Symbol {
-            Layout.alignment: Qt.AlignTop
+            Layout.alignment: root.isAvailable ? Qt.AlignVCenter : Qt.AlignTop
             name: root.isAvailable ? "checkmark.circle.fill" : "exclamationmark.triangle"
             color: root.isAvailable ? Theme.legitimate : Theme.amber
             size: 20
@@ -75,7 +75,7 @@ Card {
         }
 
         ThemedText {
-            Layout.alignment: Qt.AlignTop
+            Layout.alignment: root.isAvailable ? Qt.AlignVCenter : Qt.AlignTop
             text: root.isAvailable ? qsTrId("health_works") : qsTrId("health_fails")
             color: root.isAvailable ? Theme.legitimate : Theme.amber
         }

@@ -31,6 +31,8 @@ QtObject {
     readonly property color accentInk: "#ffffff"
     readonly property color legitimate: "#10b981"
     readonly property color legitimateSurface: "#0d2620"
+    readonly property color legitimateStrong: "#047857"
+    readonly property color legitimateInk: "#ffffff"
     readonly property color distracted: "#ef4444"
     readonly property color distractedSurface: "#2a1219"
     readonly property color amber: "#f59e0b"
