@@ -63,7 +63,7 @@ class Session(DesktopTestCase):
         (log,) = self.app.rows("SELECT * FROM SessionLog")
         self.assertEqual((log["task"], log["completed"]), ("Write the report", "yes"))
 
-        self.app.close_windows()
+        self.assertFalse(self.app.is_in_front())
         (notification,) = wait_until(lambda: self.desktop.visible_windows("--class", "^Dunst$"),
                                      "the end is announced")
         self.desktop.run("xdotool", "mousemove", "--window", str(notification), "20", "20", "click", "1", check=True)

@@ -88,7 +88,7 @@ class Application:
 
     def close_windows(self):
         """Closes each window as its user does."""
-        for window in self.windows():
+        for window in wait_until(self.windows, "there is a window to close"):
             self.desktop.bring_to_front(window)
             self.desktop.run("xdotool", "key", "alt+F4", check=True)
         wait_until(lambda: not self.windows(), "the window is closed")
