@@ -11,10 +11,12 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QGuiApplication>
 #include <QIcon>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickWindow>
+#include <QStyleHints>
 #include <QUrl>
 
 // The module is linked in, not loaded from a plugin, so its types are registered by hand.
@@ -40,6 +42,8 @@ UserInterface::UserInterface(DeepWorkScreen& deepWork, ApplicationListModel& app
 UserInterface::~UserInterface() = default;
 
 bool UserInterface::load() {
+    // A blinking cursor would wake the program twice a second for as long as a field has the keyboard.
+    QGuiApplication::styleHints()->setCursorFlashTime(0);
     qml_register_types_NorvinFocus_Ui();
     m_engine = std::make_unique<QQmlEngine>();
     m_engine->addImportPath(QStringLiteral("qrc:/"));

@@ -87,14 +87,11 @@ FocusScope {
                     id: chosenText
 
                     text: segment.text
-                    font.family: label.font.family
-                    font.pixelSize: label.font.pixelSize
+                    font.pixelSize: Theme.body
                     font.weight: Font.DemiBold
                 }
 
                 contentItem: ThemedText {
-                    id: label
-
                     text: segment.text
                     color: segment.checked ? (root.chosenInks[segment.index] ?? Theme.accentInk) : segment.hovered ? Theme.text : Theme.textMuted
                     font.weight: segment.checked ? Font.DemiBold : Font.Normal

@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Shapes
 import NorvinFocus.Ui
 
 /// The countdown: a ring that empties as the phase passes, with the time left inside it.
@@ -16,44 +15,16 @@ Item {
     required property string caption
     property string symbol: ""
     readonly property real thickness: Math.max(8, root.width / 28)
-    readonly property real arcRadius: (Math.min(root.width, root.height) - root.thickness) / 2
 
     Accessible.role: Accessible.ProgressBar
     Accessible.name: root.caption + ", " + root.timeText
 
-    Shape {
+    Ring {
         anchors.fill: parent
-
-        ShapePath {
-            strokeColor: Theme.track
-            strokeWidth: root.thickness
-            fillColor: "transparent"
-
-            PathAngleArc {
-                centerX: root.width / 2
-                centerY: root.height / 2
-                radiusX: root.arcRadius
-                radiusY: root.arcRadius
-                startAngle: -90
-                sweepAngle: 360
-            }
-        }
-
-        ShapePath {
-            strokeColor: root.progress < 1 ? root.color : "transparent"
-            strokeWidth: root.thickness
-            fillColor: "transparent"
-            capStyle: ShapePath.RoundCap
-
-            PathAngleArc {
-                centerX: root.width / 2
-                centerY: root.height / 2
-                radiusX: root.arcRadius
-                radiusY: root.arcRadius
-                startAngle: -90
-                sweepAngle: -360 * (1 - Math.min(Math.max(root.progress, 0), 1))
-            }
-        }
+        share: 1 - root.progress
+        thickness: root.thickness
+        color: root.color
+        trackColor: Theme.track
     }
 
     Symbol {
