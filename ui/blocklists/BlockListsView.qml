@@ -9,13 +9,13 @@ import NorvinFocus.Ui
 Page {
     id: root
 
-    required property ApplicationListModel applications
+    required property ApplicationListModel model
 
     heading: qsTrId("block_lists_title")
     introduction: qsTrId("block_lists_subtitle")
 
     onEntered: {
-        root.applications.refresh();
+        root.model.refresh();
         search.forceActiveFocus(Qt.OtherFocusReason);
     }
 
@@ -23,12 +23,12 @@ Page {
         CountChip {
             symbol: "hand.raised"
             color: Theme.distracted
-            text: qsTrId("blocked_count", root.applications.blockedCount)
+            text: qsTrId("blocked_count", root.model.blockedCount)
         },
         CountChip {
             symbol: "checkmark.shield"
             color: Theme.legitimate
-            text: qsTrId("whitelisted_count", root.applications.whitelistedCount)
+            text: qsTrId("whitelisted_count", root.model.whitelistedCount)
         }
     ]
 
@@ -39,11 +39,11 @@ Page {
         Layout.fillWidth: true
         symbol: "magnifyingglass"
         placeholderText: qsTrId("application_search_placeholder")
-        onTextEdited: root.applications.filterText = search.text
+        onTextEdited: root.model.filterText = search.text
 
         Keys.onEscapePressed: {
             search.clear();
-            root.applications.filterText = "";
+            root.model.filterText = "";
         }
         Keys.onDownPressed: list.forceActiveFocus(Qt.TabFocusReason)
     }
@@ -61,7 +61,7 @@ Page {
         activeFocusOnTab: true
         boundsBehavior: Flickable.StopAtBounds
         highlightMoveDuration: 0
-        model: root.applications
+        model: root.model
         Accessible.role: Accessible.List
         Accessible.name: qsTrId("block_lists_title")
 
@@ -83,7 +83,7 @@ Page {
         delegate: ApplicationRow {
             width: list.width - Theme.gap3
             hasKeyboard: list.activeFocus
-            onListChosen: (bundleId, listName) => root.applications.setList(bundleId, listName)
+            onListChosen: (bundleId, listName) => root.model.setList(bundleId, listName)
         }
     }
 
@@ -93,7 +93,7 @@ Page {
         visible: list.count === 0
         symbol: "magnifyingglass"
         title: qsTrId("applications_empty_title")
-        message: root.applications.filterText.length > 0 ? qsTrId("applications_no_match_subtitle") : qsTrId("applications_empty_subtitle")
+        message: root.model.filterText.length > 0 ? qsTrId("applications_no_match_subtitle") : qsTrId("applications_empty_subtitle")
     }
 
     ThemedText {

@@ -9,19 +9,14 @@ Item {
 
     default property Component content: null
     property bool active: false
-    /// Whether an item gets this item's height, not only its width.
-    property bool fillsHeight: false
     property QtObject object: null
     readonly property Item item: root.object as Item
 
     function update(): void {
         if (root.active && !root.object) {
             root.object = root.content.createObject(root);
-            if (root.item) {
+            if (root.item)
                 root.item.width = Qt.binding(() => root.width);
-                if (root.fillsHeight)
-                    root.item.height = Qt.binding(() => root.height);
-            }
         } else if (!root.active && root.object) {
             root.object.destroy();
             root.object = null;

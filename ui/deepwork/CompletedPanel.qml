@@ -13,10 +13,6 @@ ColumnLayout {
     readonly property bool wasWork: root.screen.phase === "work"
     readonly property TextFormats formats: Localization.formats
 
-    function focusPrimary(): void {
-        primary.forceActiveFocus(Qt.TabFocusReason);
-    }
-
     function headline(): string {
         if (root.wasWork)
             return qsTrId("completed_work_title");
@@ -24,6 +20,11 @@ ColumnLayout {
     }
 
     spacing: Theme.gap6
+
+    onActiveFocusChanged: {
+        if (root.activeFocus)
+            primary.forceActiveFocus(Qt.TabFocusReason);
+    }
 
     ColumnLayout {
         Layout.fillWidth: true

@@ -18,12 +18,19 @@ FocusScope {
 
     /// Puts the keyboard where the next step most likely is.
     function focusStart(): void {
-        if (root.isCompleted)
-            completed.focusPrimary();
+        if (completed.item)
+            (completed.item as Item).forceActiveFocus(Qt.TabFocusReason);
         else if (root.isIdle && tasks.isEmpty)
             tasks.focusField();
         else
             controls.focusPrimary();
+    }
+
+    /// The button that had the keyboard may just have gone.
+    function keepKeyboard(): void {
+        const holder = root.Window.activeFocusItem;
+        if (root.visible && (!holder || !holder.visible || holder === nowhere || holder === root))
+            root.focusStart();
     }
 
     function phaseName(): string {
@@ -73,14 +80,19 @@ FocusScope {
         onTapped: nowhere.forceActiveFocus(Qt.MouseFocusReason)
     }
 
+    // By then the panels have made room for each other.
+    Timer {
+        id: afterwards
+
+        interval: 0
+        onTriggered: root.keepKeyboard()
+    }
+
     Connections {
         target: root.screen
 
         function onStateChanged(): void {
-            // The button that had the keyboard may just have gone.
-            const holder = root.Window.activeFocusItem;
-            if (root.activeFocus && (!holder || !holder.visible || holder === nowhere))
-                root.focusStart();
+            afterwards.start();
         }
     }
 
@@ -177,9 +189,10 @@ FocusScope {
                         font.pixelSize: Theme.caption
                     }
 
-                    SessionPanel {
+                    PhasePanel {
                         Layout.fillWidth: true
-                        visible: root.measures
+                        wanted: root.measures
+                        file: "SessionPanel.qml"
                         screen: root.screen
                         session: session
                     }
@@ -194,11 +207,12 @@ FocusScope {
                         wrapMode: Text.WordWrap
                     }
 
-                    CompletedPanel {
+                    PhasePanel {
                         id: completed
 
                         Layout.fillWidth: true
-                        visible: root.isCompleted
+                        wanted: root.isCompleted
+                        file: "CompletedPanel.qml"
                         screen: root.screen
                         session: session
                     }

@@ -9,14 +9,14 @@ import NorvinFocus.Ui
 Page {
     id: root
 
-    required property TrackingHealthModel health
-    readonly property bool isAllGood: root.health.problemCount === 0
+    required property TrackingHealthModel model
+    readonly property bool isAllGood: root.model.problemCount === 0
 
     heading: qsTrId("health_title")
     introduction: qsTrId("health_subtitle")
 
     onEntered: {
-        root.health.refresh();
+        root.model.refresh();
         again.forceActiveFocus(Qt.OtherFocusReason);
     }
 
@@ -25,7 +25,7 @@ Page {
 
         symbol: "arrow.clockwise"
         text: qsTrId("health_check_again")
-        onClicked: root.health.refresh()
+        onClicked: root.model.refresh()
     }
 
     Card {
@@ -47,7 +47,7 @@ Page {
 
             ThemedText {
                 Layout.fillWidth: true
-                text: root.isAllGood ? qsTrId("health_all_good") : qsTrId("health_problems", root.health.problemCount)
+                text: root.isAllGood ? qsTrId("health_all_good") : qsTrId("health_problems", root.model.problemCount)
                 font.pixelSize: Theme.bodyLarge
                 font.weight: Font.DemiBold
                 wrapMode: Text.WordWrap
@@ -67,7 +67,7 @@ Page {
         activeFocusOnTab: true
         boundsBehavior: Flickable.StopAtBounds
         highlightMoveDuration: 0
-        model: root.health
+        model: root.model
         Accessible.role: Accessible.List
         Accessible.name: qsTrId("health_title")
 

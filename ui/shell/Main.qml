@@ -99,18 +99,14 @@ Window {
 
                 LazyPage {
                     wanted: root.page === 1
-
-                    BlockListsView {
-                        applications: root.applications
-                    }
+                    file: "../blocklists/BlockListsView.qml"
+                    model: root.applications
                 }
 
                 LazyPage {
                     wanted: root.page === 2
-
-                    HealthView {
-                        health: root.health
-                    }
+                    file: "../health/HealthView.qml"
+                    model: root.health
                 }
             }
         }
