@@ -81,27 +81,28 @@ def measure_start(desktop, program, empty_window):
 
 
 def usage_of(pid):
-    """CPU nanoseconds and voluntary context switches of a process so far."""
-    cpu = switches = 0
+    """CPU nanoseconds and voluntary context switches so far of each thread of a process."""
+    usage = {}
     for task in Path(f"/proc/{pid}/task").iterdir():
-        cpu += int((task / "schedstat").read_text().split()[0])
-        for line in (task / "status").read_text().splitlines():
-            if line.startswith("voluntary_ctxt_switches:"):
-                switches += int(line.split()[1])
-    return cpu, switches
+        cpu = int((task / "schedstat").read_text().split()[0])
+        switches = next(int(line.split()[1]) for line in (task / "status").read_text().splitlines()
+                        if line.startswith("voluntary_ctxt_switches:"))
+        usage[task.name] = (cpu, switches)
+    return usage
 
 
 def sample(pid):
     """Per cent of a core, voluntary context switches a second, proportional set size in MB."""
-    time.sleep(3)  # what was done just before settles
+    time.sleep(8)  # what was done just before settles, and threads that were needed for it end
     begin = time.perf_counter()
-    cpu, switches = usage_of(pid)
+    before = usage_of(pid)
     time.sleep(SAMPLE_SECONDS)
-    cpu_after, switches_after = usage_of(pid)
+    after = usage_of(pid)
     seconds = time.perf_counter() - begin
+    cpu, switches = (sum(now[i] - before.get(thread, (0, 0))[i] for thread, now in after.items()) for i in (0, 1))
     rollup = Path(f"/proc/{pid}/smaps_rollup").read_text()
     pss = next(int(line.split()[1]) for line in rollup.splitlines() if line.startswith("Pss:"))
-    return (cpu_after - cpu) / seconds / 1e7, (switches_after - switches) / seconds, pss / 1024
+    return cpu / seconds / 1e7, switches / seconds, pss / 1024
 
 
 def measure_session(app):

@@ -74,7 +74,8 @@ class Application:
             last = self.status()
             return last if condition(last) else None
 
-        return wait_until(met, lambda: f"{what}; the last status is {last}", timeout)
+        # Each look is a process: seldom enough to leave the machine to the other tests.
+        return wait_until(met, lambda: f"{what}; the last status is {last}", timeout, interval=0.1)
 
     def wait_for_activity(self, kind, name):
         return self.wait_for(lambda s: (s["activity"]["kind"], s["activity"]["appName"]) == (kind, name),

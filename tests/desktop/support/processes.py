@@ -6,7 +6,7 @@ import subprocess
 import time
 
 
-def wait_until(condition, what, timeout=15.0):
+def wait_until(condition, what, timeout=15.0, interval=0.02):
     """Returns the first true value of condition(); fails after timeout seconds.
 
     `what` is said in the failure; a function is called for it, so that it can show the last state."""
@@ -17,7 +17,7 @@ def wait_until(condition, what, timeout=15.0):
             return value
         if time.monotonic() >= deadline:
             raise AssertionError(f"not within {timeout:g} s: {what() if callable(what) else what}")
-        time.sleep(0.02)
+        time.sleep(interval)
 
 
 class ProcessGroup:
