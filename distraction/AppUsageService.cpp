@@ -36,7 +36,8 @@ AppUsageService::AppUsageService(Clock& clock, Workspace& workspace, AppBlockerS
     connect(&m_workspace, &Workspace::frontmostApplicationLost, this, &AppUsageService::handleFrontmostLost);
     connect(&m_workspace, &Workspace::willSleep, this, &AppUsageService::closeCurrentSession);
     connect(&m_workspace, &Workspace::didWake, this, &AppUsageService::handleWake);
-    connect(&m_workspace, &Workspace::availabilityChanged, this, &AppUsageService::trackingAvailabilityChanged);
+    connect(&m_workspace, &Workspace::availabilityChanged, this,
+            &AppUsageService::trackingAvailabilityChanged);
     connect(&m_blocker, &AppBlockerService::listsChanged, this, &AppUsageService::handleListsChanged);
 }
 

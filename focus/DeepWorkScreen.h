@@ -37,7 +37,8 @@ class DeepWorkScreen final : public QObject {
     Q_PROPERTY(QString activityDomain READ activityDomain NOTIFY activityChanged)
     /// Whether applications are being followed. False for the rest of a work phase that was paused.
     Q_PROPERTY(bool isTrackingActive READ isTrackingActive NOTIFY activityChanged)
-    /// Localisation key of why the application in front cannot be known here, empty while it can. The key with
+    /// Localisation key of why the application in front cannot be known here, empty while it can. The key
+    /// with
     /// "_remedy" appended says what to do.
     Q_PROPERTY(QString blindReasonKey READ blindReasonKey NOTIFY activityChanged)
     Q_PROPERTY(int legitimateSeconds READ legitimateSeconds NOTIFY metricsChanged)
