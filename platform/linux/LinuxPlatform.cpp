@@ -68,6 +68,7 @@ struct LinuxPlatform::Parts {
     CanberraSounds sounds;
     AtspiTrust accessibilityTrust{sessionBus()};
     std::unique_ptr<Workspace> workspace;
+    std::unique_ptr<xcb_connection_t, void (*)(xcb_connection_t*)> idleConnection{nullptr, &xcb_disconnect};
     std::unique_ptr<IdleTimeSource> idleTime;
     std::unique_ptr<ClockTimer> soundProbe;
 
@@ -77,7 +78,10 @@ struct LinuxPlatform::Parts {
         const DisplayServer display = findDisplay();
         if (display.kind == Display::X11) {
             workspace = std::make_unique<X11Workspace>(display.connection, clock, sleepMonitor, identity);
-            idleTime = std::make_unique<X11IdleTimeSource>(display.connection);
+            // Asked once a second: an answer on Qt's connection would wake its event thread besides the
+            // asker.
+            idleConnection.reset(xcb_connect(nullptr, nullptr));
+            idleTime = std::make_unique<X11IdleTimeSource>(idleConnection.get());
             return;
         }
         const bool wayland = display.kind == Display::Wayland;
