@@ -56,6 +56,7 @@ QList<TrackingHealthModel::Check> platformHealthChecks(LinuxPlatform& platform) 
         {QStringLiteral("health_notifications"),
          [&platform] { return platform.notifications().availability(); }},
         {QStringLiteral("health_sounds"), [&platform] { return platform.sounds().availability(); }},
+        {QStringLiteral("health_preferences"), [&platform] { return platform.preferences().availability(); }},
         {QStringLiteral("health_browser_pages"),
          [] { return Availability::unavailable(QStringLiteral("health_browser_pages_missing")); }},
     };
@@ -150,6 +151,7 @@ void NorvinFocusApp::followPlatform() {
     connect(&m_platform.sleepMonitor(), &SleepMonitor::availabilityChanged, this, refresh);
     connect(&m_platform.notifications(), &UserNotifications::availabilityChanged, this, refresh);
     connect(&m_platform.sounds(), &SystemSounds::availabilityChanged, this, refresh);
+    connect(&m_platform.preferences(), &Preferences::availabilityChanged, this, refresh);
     connect(&m_platform.notifications(), &UserNotifications::activated, this, &NorvinFocusApp::showWindow);
     connect(&m_userInterface, &UserInterface::windowClosedWhileRunning, this, [this] {
         m_platform.notifications().post(qtTrId("window_closed_running_title"),

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Availability.h"
+
 #include <QObject>
 #include <QString>
 #include <QVariant>
@@ -14,6 +16,9 @@ class Preferences : public QObject {
 public:
     using QObject::QObject;
 
+    /// Whether what is set here lasts; a damaged file counts as a failure until a new one is written.
+    [[nodiscard]] virtual Availability availability() const = 0;
+
     /// The stored value; none when nothing is stored under the key. Text files hold text: ask for the type
     /// that is wanted with QVariant's conversions and treat a value that does not convert as absent.
     [[nodiscard]] virtual std::optional<QVariant> value(const QString& key) const = 0;
@@ -27,6 +32,7 @@ public:
 Q_SIGNALS:
     /// A value was stored or forgotten.
     void changed(const QString& key);
+    void availabilityChanged();
 };
 
 } // namespace norvin

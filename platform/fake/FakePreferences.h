@@ -12,6 +12,7 @@ class FakePreferences final : public Preferences {
 public:
     using Preferences::Preferences;
 
+    [[nodiscard]] Availability availability() const override { return Availability::available(); }
     [[nodiscard]] std::optional<QVariant> value(const QString& key) const override {
         const auto it = m_values.constFind(key);
         return it == m_values.constEnd() ? std::nullopt : std::optional(*it);

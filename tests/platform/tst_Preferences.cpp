@@ -117,7 +117,11 @@ private Q_SLOTS:
             QVERIFY(!preferences.value(QStringLiteral("app_language")));
             QCOMPARE(m_log.size(), 1);
             QVERIFY(m_log.first().startsWith(QLatin1String("IniPreferences: ")));
+            QCOMPARE(preferences.availability(),
+                     Availability::unavailable(QStringLiteral("health_preferences_damaged"),
+                                               path() + QStringLiteral(".damaged.2")));
             preferences.setValue(QStringLiteral("app_language"), QStringLiteral("fr"));
+            QVERIFY(preferences.availability().isAvailable());
         }
         QCOMPARE(readFile(path() + QStringLiteral(".damaged.2")), content);
         QCOMPARE(readFile(path() + QStringLiteral(".damaged")), QByteArray("an older one"));
@@ -137,9 +141,14 @@ private Q_SLOTS:
         preferences.setValue(QStringLiteral("tick_sound_type"), QStringLiteral("wood"));
         QCOMPARE(preferences.value(QStringLiteral("app_language"))->toString(), QStringLiteral("en"));
         QCOMPARE(m_log.size(), 1);
+        QCOMPARE(preferences.availability().reason()->reasonKey,
+                 QStringLiteral("health_preferences_unwritable"));
 
         QVERIFY(QFile::remove(blocked));
+        QSignalSpy availabilityChanged(&preferences, &Preferences::availabilityChanged);
         preferences.setValue(QStringLiteral("tick_sound_volume"), 1);
+        QCOMPARE(availabilityChanged.size(), 1);
+        QVERIFY(preferences.availability().isAvailable());
         const QByteArray content = readFile(blocked + QStringLiteral("/preferences.ini"));
         QVERIFY2(content.contains("app_language=en") && content.contains("tick_sound_type=wood"),
                  content.constData());

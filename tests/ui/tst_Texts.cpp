@@ -35,8 +35,7 @@ const QString root = QStringLiteral(NORVIN_SOURCE_DIR);
 /// Keys that are put together, or stored, rather than written out where they are used.
 bool isMadeAtRunTime(const QString& key) {
     return key.startsWith(QLatin1String("category_")) || key.endsWith(QLatin1String("_remedy")) ||
-           key.startsWith(QLatin1String("health_preferences")) || key == QLatin1String("today") ||
-           key == QLatin1String("tomorrow");
+           key == QLatin1String("today") || key == QLatin1String("tomorrow");
 }
 
 } // namespace

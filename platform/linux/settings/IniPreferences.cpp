@@ -36,6 +36,7 @@ IniPreferences::IniPreferences(const QString& path, QObject* parent)
         m_settings->clear();
     } else if (m_settings->status() == QSettings::AccessError) {
         logLine(QStringLiteral("IniPreferences: Cannot read %1").arg(m_path));
+        setAvailability(Availability::unavailable(QStringLiteral("health_preferences_unwritable"), m_path));
     }
 }
 
@@ -53,7 +54,10 @@ void IniPreferences::setDamagedFileAside() {
     QString aside = m_path + QStringLiteral(".damaged");
     for (int number = 2; QFile::exists(aside); ++number)
         aside = QStringLiteral("%1.damaged.%2").arg(m_path).arg(number);
-    if (QFile::rename(m_path, aside))
+    const bool isAside = QFile::rename(m_path, aside);
+    setAvailability(
+        Availability::unavailable(QStringLiteral("health_preferences_damaged"), isAside ? aside : m_path));
+    if (isAside)
         logLine(QStringLiteral("IniPreferences: %1 is damaged; kept as %2, starting with defaults")
                     .arg(m_path, aside));
     else
@@ -93,6 +97,16 @@ void IniPreferences::write() {
     if (failed && !m_writeFailureLogged)
         logLine(QStringLiteral("IniPreferences: Cannot write %1; settings are kept in memory").arg(m_path));
     m_writeFailureLogged = failed;
+    setAvailability(failed
+                        ? Availability::unavailable(QStringLiteral("health_preferences_unwritable"), m_path)
+                        : Availability::available());
+}
+
+void IniPreferences::setAvailability(const Availability& availability) {
+    if (availability == m_availability)
+        return;
+    m_availability = availability;
+    Q_EMIT availabilityChanged();
 }
 
 } // namespace norvin

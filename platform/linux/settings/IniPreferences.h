@@ -20,6 +20,8 @@ public:
     explicit IniPreferences(const QString& path = defaultPath(), QObject* parent = nullptr);
     ~IniPreferences() override;
 
+    /// "health_preferences_damaged" with the place of the old file, or "health_preferences_unwritable".
+    [[nodiscard]] Availability availability() const override { return m_availability; }
     [[nodiscard]] std::optional<QVariant> value(const QString& key) const override;
     void setValue(const QString& key, const QVariant& value) override;
     void remove(const QString& key) override;
@@ -28,9 +30,11 @@ private:
     void open();
     void setDamagedFileAside();
     void write();
+    void setAvailability(const Availability& availability);
 
     QString m_path;
     std::unique_ptr<QSettings> m_settings;
+    Availability m_availability = Availability::available();
     bool m_writeFailureLogged = false;
 };
 
