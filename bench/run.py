@@ -40,7 +40,7 @@ def fill_store(file):
                            ((key, f"Project {i}", first + i) for i, key in enumerate(projects)))
     connection.executemany(
         "INSERT INTO TaskItem VALUES (?, ?, '', ?, 1, NULL, ?, NULL, ?, NULL, NULL)",
-        ((identity(), f"Task {i}", "done" if i % 5 else "todo", first + i, projects[i % 200]) for i in range(20_000)))
+        ((identity(), f"Task {i}", "Done" if i % 5 else "To Do", first + i, projects[i % 200]) for i in range(20_000)))
     connection.executemany(
         "INSERT INTO Session VALUES (?, ?, 25, 1, NULL, ?, 0, 0, 0, 1400, 100)",
         ((identity(), first + i * (YEARS * 365 * DAY // 36_500), chance.uniform(3, 10)) for i in range(36_500)))
