@@ -125,8 +125,8 @@ std::vector<X11Windows::Description> X11Windows::describe(const std::vector<xcb_
         cookies.processId = request(window, m_atoms[WmPid], 1);
         cookies.machine = request(window, XCB_ATOM_WM_CLIENT_MACHINE, longestText);
         if (m_hasClientIds) {
-            const xcb_res_client_id_spec_t spec = {window, XCB_RES_CLIENT_ID_MASK_LOCAL_CLIENT_PID};
-            cookies.clientIds = xcb_res_query_client_ids(m_connection, 1, &spec);
+            const xcb_res_client_id_spec_t client = {window, XCB_RES_CLIENT_ID_MASK_LOCAL_CLIENT_PID};
+            cookies.clientIds = xcb_res_query_client_ids(m_connection, 1, &client);
         }
         pending.push_back(cookies);
     }
