@@ -146,7 +146,7 @@ Parsed parseOptionsOnly(const QStringList& arguments) {
 Parsed parseCommandLine(const QStringList& arguments) {
     if (arguments.isEmpty() || arguments.first().startsWith(u'-'))
         return parseOptionsOnly(arguments);
-    const QString name = arguments.first();
+    const QString& name = arguments.first();
     const auto rule = rules().constFind(name);
     if (rule == rules().cend())
         return fail(QStringLiteral("unknown command '%1'").arg(name));

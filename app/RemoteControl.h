@@ -22,8 +22,8 @@ public:
     [[nodiscard]] ExitCode showWindow();
 
 private:
-    [[nodiscard]] ExitCode start(const command::Start& start);
-    [[nodiscard]] ExitCode status(const command::Status& status);
+    [[nodiscard]] ExitCode start(const command::Start& wanted);
+    [[nodiscard]] ExitCode status(const command::Status& wanted);
     [[nodiscard]] ExitCode follow();
     [[nodiscard]] ExitCode doctor();
     [[nodiscard]] ExitCode changeList(const command::ChangeList& change);

@@ -12,6 +12,6 @@ void logLine(const QString& line);
 
 /// Sends the lines somewhere else (a test's list) until called with an empty function.
 /// Main thread only; the sink is called on the thread that logs.
-void setLogSink(std::function<void(const QString&)> sink);
+void setLogSink(std::function<void(const QString&)> function);
 
 } // namespace norvin

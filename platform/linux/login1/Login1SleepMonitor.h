@@ -26,7 +26,7 @@ private Q_SLOTS:
 
 private:
     void inhibit();
-    void onInhibitReply(QDBusPendingCallWatcher* reply);
+    void onInhibitReply(QDBusPendingCallWatcher* watcher);
     void onServiceLost();
     void setAvailability(const Availability& availability);
 
