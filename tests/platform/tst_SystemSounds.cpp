@@ -93,8 +93,8 @@ private Q_SLOTS:
         timer.restart();
         sounds.reset();
         qInfo("end with a hung server: %lld ms", timer.elapsed());
-        // Its thread hangs on, left behind.
-        QCOMPARE(threadCount(), threads);
+        // Its threads may hang on, left behind, or have come free just now; none is added.
+        QVERIFY(threadCount() <= threads);
     }
 
 private:
