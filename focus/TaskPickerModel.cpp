@@ -4,6 +4,11 @@
 #include "model/ModelContext.h"
 #include "platform/TextSearch.h"
 
+#include <algorithm>
+#include <limits>
+#include <tuple>
+#include <vector>
+
 namespace norvin {
 
 TaskPickerModel::TaskPickerModel(ModelContext& context, PomodoroTimerService& timer, QObject* parent)
@@ -72,27 +77,32 @@ void TaskPickerModel::scheduleRefresh() {
 void TaskPickerModel::refresh() {
     m_refreshScheduled = false;
     const QString wanted = searchKey(m_filterText.trimmed());
-    const auto isOffered = [&](const TaskItem& task) {
-        return !task.isDone() && !task.parentTask() &&
-               (wanted.isEmpty() || searchKey(task.title()).contains(wanted));
-    };
     // What has a date comes first, the earliest before the others; the rest as it stands in the store.
-    const auto referenceDate = [](const TaskItem& task) {
-        return task.plannedDate().isValid() ? task.plannedDate() : task.dueDate();
+    // Instants are compared as numbers: there may be tens of thousands of tasks, and this runs at every key.
+    struct Candidate {
+        qint64 date;
+        qsizetype place;
+        TaskItem* task;
     };
-    const auto before = [&](const TaskItem& a, const TaskItem& b) {
-        const QDateTime dateA = referenceDate(a);
-        const QDateTime dateB = referenceDate(b);
-        return dateA.isValid() && (!dateB.isValid() || dateA < dateB);
-    };
-    QList<TaskItem*> offered;
-    for (TaskItem* task : m_context.fetchTasks(isOffered, before)) {
-        if (m_timer.taskQueue().contains(task))
+    std::vector<Candidate> candidates;
+    qsizetype place = 0;
+    for (TaskItem* task : m_context.tasks()) {
+        ++place;
+        if (task->isDone() || task->parentTask() || m_timer.taskQueue().contains(task) ||
+            (!wanted.isEmpty() && !searchKey(task->title()).contains(wanted)))
             continue;
-        offered.append(task);
-        if (offered.size() == maximumRows)
-            break;
+        const QDateTime& date = task->plannedDate().isValid() ? task->plannedDate() : task->dueDate();
+        candidates.push_back(
+            {date.isValid() ? date.toMSecsSinceEpoch() : std::numeric_limits<qint64>::max(), place, task});
     }
+    const auto shown = std::min<std::ptrdiff_t>(maximumRows, std::ssize(candidates));
+    std::partial_sort(candidates.begin(), candidates.begin() + shown, candidates.end(),
+                      [](const Candidate& a, const Candidate& b) {
+                          return std::tie(a.date, a.place) < std::tie(b.date, b.place);
+                      });
+    QList<TaskItem*> offered;
+    for (std::ptrdiff_t i = 0; i < shown; ++i)
+        offered.append(candidates[static_cast<size_t>(i)].task);
     beginResetModel();
     m_tasks = offered;
     endResetModel();
