@@ -140,9 +140,14 @@ class Desktop:
     def start_window_manager(self):
         self.window_manager = self.processes.start(
             "openbox", ["openbox", "--sm-disable"], self.environment | {"XDG_DATA_DIRS": "/usr/share"})  # its themes
-        wait_until(lambda: "window id #" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK")
-                   and "_NET_ACTIVE_WINDOW" in self.run("xprop", "-root", "_NET_SUPPORTED"),
-                   "the window manager manages the display")
+
+        # It puts its marks on the root window before it listens, and a window that is shown in between stays
+        # unmanaged for good. Only one that does what it is asked is ready.
+        def obeys():
+            self.run("xdotool", "set_num_desktops", "1")
+            return self.run("xprop", "-root", "_NET_NUMBER_OF_DESKTOPS").endswith("= 1\n")
+
+        wait_until(obeys, "the window manager manages the display")
 
     def stop_window_manager(self):
         self.processes.stop(self.window_manager)
