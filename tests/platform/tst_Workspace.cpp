@@ -376,6 +376,13 @@ private:
         // Its themes are found through the variable that hides the machine's desktop entries here.
         m_windowManager = m_rig.start(QStringLiteral("openbox"), {QStringLiteral("--sm-disable")},
                                       {QStringLiteral("XDG_DATA_DIRS=/usr/local/share:/usr/share")});
+        // It marks the root window before it listens, and a window shown in between stays unmanaged for good.
+        // One that does what it is asked is ready.
+        QVERIFY(QTest::qWaitFor([] {
+            DesktopRig::run(QStringLiteral("wmctrl"), {QStringLiteral("-n"), QStringLiteral("1")});
+            const QByteArray desktops = DesktopRig::run(QStringLiteral("wmctrl"), {QStringLiteral("-d")});
+            return desktops.startsWith('0') && !desktops.contains('\n');
+        }));
     }
     QProcess* openTerminal(const QString& title = QStringLiteral("A terminal")) {
         m_programs.push_back(
