@@ -394,10 +394,12 @@ private:
     void openCalculator() { m_programs.push_back(m_rig.start(QStringLiteral("xcalc"))); }
     /// Window managers do not give every new window the keyboard: asks until it has it.
     [[nodiscard]] bool focus(const char* windowClass, const QString& identifier) const {
-        return QTest::qWaitFor([&] {
+        constexpr int patience = 20'000; // milliseconds: on a busy machine a program takes its time to open
+        const auto isInFront = [&] {
             activate(windowClass);
             return frontmost(*m_workspace) == identifier;
-        });
+        };
+        return QTest::qWaitFor(isInFront, patience);
     }
     static void activate(const char* windowClass) {
         DesktopRig::run(QStringLiteral("wmctrl"),
