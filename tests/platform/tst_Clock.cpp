@@ -1,6 +1,7 @@
 #include "platform/fake/FakeClock.h"
 #include "platform/linux/clock/SystemClock.h"
 
+#include <QAbstractEventDispatcher>
 #include <QTest>
 
 #include <functional>
@@ -149,6 +150,28 @@ private Q_SLOTS:
             nestedSawFirings = QTest::qWaitFor([&] { return inner >= before + 3; }, 5000);
         });
         QTRY_VERIFY(nestedSawFirings);
+    }
+
+    void deadlinesCloseTogetherShareAWakeUp() {
+        QFETCH_GLOBAL(bool, real);
+        if (!real)
+            return;
+        SystemClock clock;
+        int turn = 0;
+        const auto counting = connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake,
+                                      this, [&] { ++turn; });
+        std::vector<int> turns;
+        std::vector<std::unique_ptr<ClockTimer>> timers;
+        milliseconds started = {};
+        do { // again if the machine was busy with something else in between
+            started = clock.monotonic();
+            timers.clear();
+            for (const milliseconds delay : {23ms, 20ms, 26ms})
+                timers.push_back(clock.after(delay, [&] { turns.push_back(turn); }));
+        } while (clock.monotonic() > started + 1ms);
+        QTRY_COMPARE(turns.size(), 3U);
+        disconnect(counting);
+        QVERIFY(turns[0] == turns[1] && turns[1] == turns[2]);
     }
 
     void wallClockIsLocalTime() {

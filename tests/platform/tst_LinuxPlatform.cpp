@@ -6,10 +6,7 @@
 #include <QProcess>
 #include <QTest>
 
-#include <sys/resource.h>
-
 using namespace norvin;
-using namespace std::chrono_literals;
 
 namespace {
 
@@ -19,7 +16,7 @@ QString reasonOf(const Availability& availability) {
 
 } // namespace
 
-/// The whole platform on a bare X server, without any bus; and the cost of its timers.
+/// The whole platform on a bare X server, without any bus.
 class LinuxPlatformTest : public QObject {
     Q_OBJECT
 public:
@@ -51,28 +48,6 @@ private Q_SLOTS:
         const LinuxPlatform platform;
         QVERIFY(m_rig.start(QStringLiteral("openbox"), {QStringLiteral("--sm-disable")}));
         QTRY_VERIFY(platform.workspace().availability().isAvailable());
-    }
-
-    void timersOfOneTurnShareTheirWakeUps() {
-        const LinuxPlatform platform;
-        constexpr int rounds = 20;
-        int firings = 0;
-        const auto first = platform.clock().every(50ms, [&] { ++firings; });
-        const auto second = platform.clock().every(50ms, [&] { ++firings; });
-        const auto third = platform.clock().every(50ms, [&] { ++firings; });
-        QEventLoop loop;
-        const auto end = platform.clock().every(50ms, [&] {
-            if (firings >= 3 * rounds)
-                loop.quit();
-        });
-        rusage before = {};
-        rusage after = {};
-        getrusage(RUSAGE_THREAD, &before);
-        loop.exec();
-        getrusage(RUSAGE_THREAD, &after);
-        const long switches = after.ru_nvcsw - before.ru_nvcsw;
-        qInfo("%ld voluntary context switches for %d firings of four timers", switches, firings / 3 * 4);
-        QVERIFY(switches < 2 * rounds);
     }
 
 private:

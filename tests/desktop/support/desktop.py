@@ -141,13 +141,15 @@ class Desktop:
         self.window_manager = self.processes.start(
             "openbox", ["openbox", "--sm-disable"], self.environment | {"XDG_DATA_DIRS": "/usr/share"})  # its themes
 
-        # It puts its marks on the root window before it listens, and a window that is shown in between stays
-        # unmanaged for good. Only one that does what it is asked is ready.
-        def obeys():
-            self.run("xdotool", "set_num_desktops", "1")
-            return self.run("xprop", "-root", "_NET_NUMBER_OF_DESKTOPS").endswith("= 1\n")
+        # It puts its marks on the root window before it listens, one that left has left its marks too, and a window
+        # that is shown before it is ready is never brought to the front. Only one that does what it is asked, twice
+        # and differently, is ready.
+        for count in ("2", "1"):
+            def obeys(wanted=count):
+                self.run("xdotool", "set_num_desktops", wanted)
+                return self.run("xprop", "-root", "_NET_NUMBER_OF_DESKTOPS").endswith(f"= {wanted}\n")
 
-        wait_until(obeys, "the window manager manages the display")
+            wait_until(obeys, "the window manager manages the display")
 
     def stop_window_manager(self):
         self.processes.stop(self.window_manager)
