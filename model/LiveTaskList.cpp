@@ -14,10 +14,7 @@ LiveTaskList::LiveTaskList(ModelContext& context, Predicate accept, Order order,
     , m_accept(std::move(accept))
     , m_order(std::move(order)) {
     load();
-    connect(m_context, &ModelContext::taskInserted, this, [this](TaskItem* task) {
-        if (m_accept(*task))
-            add(task);
-    });
+    connect(m_context, &ModelContext::taskInserted, this, &LiveTaskList::update);
     connect(m_context, &ModelContext::taskChanged, this, &LiveTaskList::update);
     connect(m_context, &ModelContext::taskAboutToBeRemoved, this, &LiveTaskList::removeRow);
     connect(m_context, &QObject::destroyed, this, [this] {
@@ -58,9 +55,10 @@ void LiveTaskList::refresh() {
         if (!m_accept(*task))
             removeRow(task);
     }
-    for (TaskItem* task : m_context->tasks()) {
-        if (!m_members.contains(task) && m_accept(*task))
-            add(task);
+    const Rows all = m_context->tasks();
+    for (TaskItem* task : all) {
+        if (!m_members.contains(task))
+            update(task);
     }
 }
 
@@ -87,7 +85,8 @@ void LiveTaskList::add(TaskItem* task) {
 }
 
 void LiveTaskList::update(TaskItem* task) {
-    const bool accepted = m_accept(*task);
+    // Whoever heard the signal first may have changed the task, which adds it here early, or removed it.
+    const bool accepted = task->context() == m_context && m_accept(*task);
     if (!m_members.contains(task)) {
         if (accepted)
             add(task);

@@ -75,16 +75,24 @@ private Q_SLOTS:
         QCOMPARE(resets.size(), 0);
     }
 
-    void equalTasksComeInStoreOrder() {
-        const LiveTaskList unsorted(context(), isOpen);
-        QCOMPARE(titlesOf(unsorted), (QStringList{"delta", "alpha", "charlie"}));
-        const LiveTaskList list(context(), isOpen, [](const TaskItem& a, const TaskItem& b) {
-            return a.priorityValue() > b.priorityValue();
+    void othersMayActBeforeTheListHears() {
+        connect(&context(), &ModelContext::taskInserted, this, [this](TaskItem* task) {
+            if (task->title() == QLatin1String("unwanted"))
+                context().remove(*task);
+            else
+                task->setTitle(QStringLiteral("renamed"));
         });
-        TaskItem* const alpha = context().tasks()[1];
-        alpha->setPriority(TaskPriority::high);
-        QCOMPARE(titlesOf(list), (QStringList{"alpha", "delta", "charlie"}));
-        alpha->setPriority(TaskPriority::medium);
+        connect(&context(), &ModelContext::taskChanged, this, [this](TaskItem* task) {
+            if (task->title() == QLatin1String("short-lived"))
+                context().remove(*task);
+        });
+        const LiveTaskList list(context(), isOpen);
+        connect(&context(), &ModelContext::taskAboutToBeRemoved, this,
+                [](TaskItem* task) { task->setTaskDescription(QStringLiteral("leaving")); });
+        TaskItem* const task = addTask(context(), QStringLiteral("new"));
+        addTask(context(), QStringLiteral("unwanted"));
+        QCOMPARE(titlesOf(list), (QStringList{"delta", "alpha", "charlie", "renamed"}));
+        task->setTitle(QStringLiteral("short-lived"));
         QCOMPARE(titlesOf(list), (QStringList{"delta", "alpha", "charlie"}));
     }
 
