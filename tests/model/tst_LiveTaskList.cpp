@@ -94,6 +94,8 @@ private Q_SLOTS:
         QCOMPARE(titlesOf(list), (QStringList{"delta", "alpha", "charlie", "renamed"}));
         task->setTitle(QStringLiteral("short-lived"));
         QCOMPARE(titlesOf(list), (QStringList{"delta", "alpha", "charlie"}));
+        context().remove(*list.taskAt(0));
+        QCOMPARE(titlesOf(list), (QStringList{"alpha", "charlie"}));
     }
 
     void anotherQuestionAndAnotherTime() {
