@@ -63,4 +63,22 @@ private:
     QStringList m_lines;
 };
 
+inline const QDateTime morning(QDate(2025, 3, 10), QTime(9, 0), Qt::UTC);
+
+inline TaskItem* addTask(ModelContext& context, const QString& title, Project* project = nullptr,
+                         TaskItem* parent = nullptr) {
+    auto task = std::make_unique<TaskItem>(TaskItem::Init{.title = title, .project = project});
+    task->setParentTask(parent);
+    return context.insert(std::move(task));
+}
+
+/// Without a task where that is null.
+inline Session sessionOf(const TaskItem* task, const QDateTime& start) {
+    Session session;
+    session.startTime = start;
+    if (task != nullptr)
+        session.task = task->id();
+    return session;
+}
+
 } // namespace norvin::test
