@@ -16,7 +16,6 @@ namespace norvin {
 namespace {
 
 const QString pathKey = QStringLiteral("path");
-const QString deviceKey = QStringLiteral("device");
 const QString inodeKey = QStringLiteral("inode");
 const QString sizeKey = QStringLiteral("size");
 
@@ -39,13 +38,11 @@ std::optional<FileBookmark> FileBookmark::fromData(const QByteArray& data) {
         return std::nullopt;
     // 64-bit numbers are texts: JSON numbers carry 53 bits.
     Identity identity;
-    bool deviceOk = false;
     bool inodeOk = false;
     bool sizeOk = false;
-    identity.device = object.value(deviceKey).toString().toULongLong(&deviceOk);
     identity.inode = object.value(inodeKey).toString().toULongLong(&inodeOk);
     identity.size = object.value(sizeKey).toString().toULongLong(&sizeOk);
-    if (deviceOk && inodeOk && sizeOk)
+    if (inodeOk && sizeOk)
         bookmark.m_identity = identity;
     return bookmark;
 }
@@ -53,7 +50,6 @@ std::optional<FileBookmark> FileBookmark::fromData(const QByteArray& data) {
 QByteArray FileBookmark::toData() const {
     QJsonObject object{{pathKey, m_path}};
     if (m_identity) {
-        object.insert(deviceKey, QString::number(m_identity->device));
         object.insert(inodeKey, QString::number(m_identity->inode));
         object.insert(sizeKey, QString::number(m_identity->size));
     }
@@ -85,8 +81,7 @@ std::optional<FileBookmark::Identity> FileBookmark::identityOf(const QByteArray&
     struct stat status {};
     if (::stat(encodedPath.constData(), &status) != 0 || !S_ISREG(status.st_mode))
         return std::nullopt;
-    return Identity{static_cast<quint64>(status.st_dev), static_cast<quint64>(status.st_ino),
-                    static_cast<quint64>(status.st_size)};
+    return Identity{static_cast<quint64>(status.st_ino), static_cast<quint64>(status.st_size)};
 }
 
 } // namespace norvin

@@ -25,8 +25,8 @@ public:
     [[nodiscard]] std::optional<QUrl> resolve() const;
 
 private:
+    /// Without the device, whose number may be another after every start of the machine.
     struct Identity {
-        quint64 device = 0;
         quint64 inode = 0;
         quint64 size = 0;
         bool operator==(const Identity&) const = default;
