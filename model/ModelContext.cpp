@@ -9,6 +9,7 @@
 
 #include <SQLiteCpp/Exception.h>
 #include <SQLiteCpp/Transaction.h>
+#include <sqlite3.h>
 
 #include <algorithm>
 #include <chrono>
@@ -101,6 +102,8 @@ public:
         for (Project* project : removal.projects)
             Q_EMIT q->projectAboutToBeRemoved(project);
 
+        // Before the signals that the release brings: whoever hears them may save or look at the sessions.
+        const bool hadSessions = guarded([&] { return records.forgetSessionsOf(removal.tasks); }, false);
         graph->release(removal);
         for (TaskResource* resource : removal.resources)
             resource->deleteLater();
@@ -111,8 +114,7 @@ public:
         for (Project* project : removal.projects)
             project->deleteLater();
         scheduleSave();
-        const auto forget = [&] { return records.forgetSessionsOf(removal.tasks); };
-        if (guarded(forget, false))
+        if (hadSessions)
             Q_EMIT q->sessionsRemoved();
     }
 
@@ -264,6 +266,13 @@ StoreResult ModelContext::save() {
     if (!hasChanges())
         return {};
     StoreResult failure = d->write();
+    if (failure && failure->code == SQLITE_CONSTRAINT) {
+        // Rows that others refer to were deleted in a shell. What the user sees is what counts, so everything
+        // is written; else no save would succeed any more.
+        d->records.forgetWritten();
+        d->graph->markAllModified();
+        failure = d->write();
+    }
     if (failure) {
         d->records.forgetWritten();
         d->retryTimer.start();

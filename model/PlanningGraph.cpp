@@ -240,6 +240,15 @@ void PlanningGraph::markModified(Entity& entity) {
     }
 }
 
+void PlanningGraph::markAllModified() {
+    std::apply(
+        [this](const auto&... pool) {
+            const auto mark = [this](Entity* entity) { markModified(*entity); };
+            (std::for_each(pool.all.begin(), pool.all.end(), mark), ...);
+        },
+        pools());
+}
+
 bool PlanningGraph::goesAlong(const Entity& entity) {
     return entity.m_context != nullptr && !entity.m_leaving;
 }

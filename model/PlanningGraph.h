@@ -66,6 +66,8 @@ public:
 
     /// Notes that the row of an entity of the graph is out of date.
     void markModified(Entity& entity);
+    /// Notes that no row can be relied upon.
+    void markAllModified();
 
     /// Collects what goes with the entity; the relationships are still whole. An entity that is collected
     /// already gives nothing.

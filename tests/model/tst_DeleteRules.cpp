@@ -150,6 +150,26 @@ private Q_SLOTS:
         QCOMPARE(looseTask->project(), nullptr);
     }
 
+    void whoHearsOfARemovalFindsItComplete() {
+        const StoreFixture store;
+        const auto opened = store.open();
+        ModelContext& context = opened->mainContext();
+        Project* const project = context.insert(std::make_unique<Project>(Project::Init{}));
+        TaskItem* const task = addTask(context, QStringLiteral("task"), project);
+        context.insert(sessionOf(task, morning));
+        QVERIFY(!context.save());
+        context.insert(sessionOf(task, morning.addSecs(60)));
+        bool heard = false;
+        connect(project, &Project::tasksChanged, this, [&] {
+            heard = true;
+            QVERIFY(context.fetchSessions().isEmpty());
+            QVERIFY(!context.save());
+        });
+        context.remove(*task);
+        QVERIFY(heard);
+        QCOMPARE(store.value("SELECT count(*) FROM Session"), QStringLiteral("0"));
+    }
+
     void slotsMayRemoveMoreWhileSomethingIsRemoved() {
         const auto opened = ModelContainer::inMemory();
         ModelContext& context = opened->mainContext();

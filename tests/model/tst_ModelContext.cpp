@@ -173,6 +173,23 @@ private Q_SLOTS:
         QCOMPARE(store.value("SELECT count(*) FROM AppUsageLog"), QStringLiteral("1"));
     }
 
+    void rowsDeletedInAShellComeBackWithWhatRefersToThem() {
+        const StoreFixture store;
+        const auto opened = store.open();
+        ModelContext& context = opened->mainContext();
+        Project* const project = context.insert(std::make_unique<Project>(Project::Init{.name = "p"}));
+        TaskItem* const task = addTask(context, QStringLiteral("old"), project);
+        QVERIFY(!context.save());
+        store.raw().exec("DELETE FROM Project; DELETE FROM TaskItem");
+        addTask(context, QStringLiteral("new"), project);
+        context.insert(sessionOf(task, morning));
+        QVERIFY(!context.save());
+        QCOMPARE(store.value("SELECT (SELECT count(*) FROM Project) || (SELECT count(*) FROM TaskItem) || "
+                             "(SELECT count(*) FROM Session)"),
+                 QStringLiteral("121"));
+        QCOMPARE(store.soundness(), QStringLiteral("ok"));
+    }
+
     void theLogMovesIntoTheFileWhenNothingIsSaved() {
         const StoreFixture store;
         const auto opened = store.open();
