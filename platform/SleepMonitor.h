@@ -15,7 +15,9 @@ public:
     [[nodiscard]] virtual Availability availability() const = 0;
 
 Q_SIGNALS:
+    /// The machine is about to be suspended; delivered before it is.
     void willSleep();
+    /// The machine runs again. Follows every willSleep(), even where the word of it got lost.
     void didWake();
     void availabilityChanged();
 };

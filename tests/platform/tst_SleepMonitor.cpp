@@ -71,8 +71,14 @@ private Q_SLOTS:
 
         QProcess* logind = startLogind();
         QTRY_VERIFY(monitor.availability().isAvailable());
+        // Nobody will tell of the waking any more, and whoever stopped for the sleep waits for it.
+        QSignalSpy didWake(&monitor, &SleepMonitor::didWake);
+        QSignalSpy willSleep(&monitor, &SleepMonitor::willSleep);
+        emitPrepareForSleep(true);
+        QTRY_COMPARE(willSleep.size(), 1);
         m_rig->kill(logind);
         QTRY_VERIFY(!monitor.availability().isAvailable());
+        QCOMPARE(didWake.size(), 1);
         startLogind();
         QTRY_VERIFY(monitor.availability().isAvailable());
         QTRY_COMPARE(inhibitors(), 1);

@@ -8,6 +8,8 @@
 #include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
 
+#include <utility>
+
 namespace norvin {
 
 namespace {
@@ -92,8 +94,10 @@ void Login1SleepMonitor::onPrepareForSleep(bool starting, const QDBusMessage& me
 
 void Login1SleepMonitor::onServiceLost() {
     m_inhibitor = QDBusUnixFileDescriptor();
-    m_isAsleep = false;
     setAvailability(unavailable(service + QStringLiteral(" has left the bus")));
+    // The signal of the waking will not come any more.
+    if (std::exchange(m_isAsleep, false))
+        Q_EMIT didWake();
 }
 
 void Login1SleepMonitor::setAvailability(const Availability& availability) {
