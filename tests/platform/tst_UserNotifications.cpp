@@ -88,6 +88,23 @@ private Q_SLOTS:
         QTRY_VERIFY(!notifications.availability().isAvailable());
     }
 
+    void speaksToTheDaemonThatReplacedAnother() {
+        startDaemon(QStringLiteral("body body-markup"));
+        FreedesktopNotifications notifications(bus("notifications"));
+        notifications.post(QStringLiteral("first"), QString());
+        QTRY_VERIFY(notifications.availability().isAvailable());
+        const QString service = QStringLiteral("org.freedesktop.Notifications");
+        const QString former = bus("test").interface()->serviceOwner(service);
+        QProcess* daemon = startDaemon(QStringLiteral("body"));
+        QTRY_VERIFY(bus("test").interface()->serviceOwner(service) != former);
+        QByteArray log;
+        QVERIFY(QTest::qWaitFor([&] {
+            notifications.post(QStringLiteral("second"), QStringLiteral("1 < 2"));
+            log += daemon->readAllStandardOutput();
+            return log.contains("\"1 < 2\"");
+        }));
+    }
+
     void startsADaemonThatTheBusCanStart() {
         m_rig->writeFile(QStringLiteral("services/notifications.service"),
                          "[D-BUS Service]\nName=org.freedesktop.Notifications\n"

@@ -48,12 +48,16 @@ FreedesktopNotifications::FreedesktopNotifications(const QDBusConnection& sessio
         return;
     }
     auto* watcher = new QDBusServiceWatcher(service, m_bus, QDBusServiceWatcher::WatchForOwnerChange, this);
-    connect(watcher, &QDBusServiceWatcher::serviceRegistered, this, [this] { onOwnerKnown(true); });
-    connect(watcher, &QDBusServiceWatcher::serviceUnregistered, this, [this] {
-        m_capabilities.reset();
-        m_shown.clear();
-        probe();
-    });
+    connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
+            [this](const QString&, const QString&, const QString& newOwner) {
+                // A daemon may also take the name from another one that still runs.
+                m_capabilities.reset();
+                m_shown.clear();
+                if (newOwner.isEmpty())
+                    probe();
+                else
+                    onOwnerKnown(true);
+            });
     // Without the service's name in the rules: looking up its owner would be a call that waits. Identifiers
     // of our own notifications tell which signals concern us.
     m_bus.connect(QString(), path, interface, QStringLiteral("ActionInvoked"), this,
