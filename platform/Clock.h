@@ -39,6 +39,7 @@ public:
                                                             std::function<void()> fire) = 0;
 
     /// Calls `fire` once, when `delay` has passed on the monotonic clock.
+    /// @param delay at once, from the event loop, where it is not above zero
     [[nodiscard]] virtual std::unique_ptr<ClockTimer> after(std::chrono::milliseconds delay,
                                                             std::function<void()> fire) = 0;
 };

@@ -1,5 +1,7 @@
 #include "platform/fake/FakeClock.h"
 
+#include <algorithm>
+
 namespace norvin {
 
 using std::chrono::milliseconds;
@@ -41,7 +43,8 @@ std::unique_ptr<ClockTimer> FakeClock::every(milliseconds interval, std::functio
 
 std::unique_ptr<ClockTimer> FakeClock::after(milliseconds delay, std::function<void()> fire) {
     const quint64 id = m_state->nextId++;
-    m_state->entries.emplace(id, State::Entry{m_monotonic + delay, milliseconds::zero(), std::move(fire)});
+    const milliseconds deadline = m_monotonic + std::max(delay, milliseconds::zero());
+    m_state->entries.emplace(id, State::Entry{deadline, milliseconds::zero(), std::move(fire)});
     return std::make_unique<Timer>(m_state, id);
 }
 

@@ -7,6 +7,7 @@
 
 namespace norvin {
 
+using namespace std::chrono_literals;
 using std::chrono::milliseconds;
 using std::chrono::nanoseconds;
 
@@ -14,6 +15,8 @@ namespace {
 
 // Late by this much at most, so that timers started in one turn of the event loop wake the machine once.
 constexpr milliseconds sharedWakeUp{8};
+// QTimer counts in an int of milliseconds; a later deadline is armed for again on the way.
+constexpr std::chrono::hours longestSleep{24};
 
 nanoseconds monotonicNow() {
     // std::chrono::steady_clock is CLOCK_MONOTONIC on Linux.
@@ -100,7 +103,7 @@ private:
         if (target == m_armedFor && m_timer.isActive())
             return;
         m_armedFor = target;
-        const nanoseconds wait = std::max(target - monotonicNow(), nanoseconds::zero());
+        const nanoseconds wait = std::clamp<nanoseconds>(target - monotonicNow(), 0ns, longestSleep);
         m_timer.start(std::chrono::ceil<milliseconds>(wait));
     }
 
