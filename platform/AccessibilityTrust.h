@@ -13,7 +13,8 @@ public:
     AccessibilityTrust& operator=(const AccessibilityTrust&) = delete;
     virtual ~AccessibilityTrust() = default;
 
-    /// Calls `answer` once, from the event loop, with whether the services are there and switched on.
+    /// Calls `answer` once, from the event loop, with whether the services are there and switched on; no
+    /// answer of theirs counts as no. What it holds on to must live until then, which may take half a minute.
     virtual void query(std::function<void(bool isTrusted)> answer) = 0;
 };
 

@@ -23,10 +23,11 @@ public:
     /// that is wanted with QVariant's conversions and treat a value that does not convert as absent.
     [[nodiscard]] virtual std::optional<QVariant> value(const QString& key) const = 0;
 
-    /// Stores the value at once. A failure to write is logged and kept in memory until the next change.
+    /// Stores the value at once. A failure to write is logged and shows in availability(); the value is
+    /// kept in memory then, and written with the next change that can be.
     virtual void setValue(const QString& key, const QVariant& value) = 0;
 
-    /// Forgets the key.
+    /// Forgets the key, as durably as setValue() stores.
     virtual void remove(const QString& key) = 0;
 
 Q_SIGNALS:

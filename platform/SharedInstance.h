@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <memory>
+#include <utility>
 
 namespace norvin {
 
@@ -12,10 +13,12 @@ namespace norvin {
 template <class Service>
 class SharedInstance final {
 public:
+    /// To be called before the first get(); an instance that is there already stays.
     static void setFactory(std::function<std::unique_ptr<Service>()> factory) {
         slot().factory = std::move(factory);
     }
 
+    /// The instance, made now if this is the first call. Needs a factory.
     [[nodiscard]] static Service& get() {
         Slot& own = slot();
         if (!own.instance) {

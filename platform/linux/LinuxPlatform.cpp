@@ -14,6 +14,7 @@
 #include "platform/linux/settings/IniPreferences.h"
 #include "platform/linux/x11/X11IdleTimeSource.h"
 #include "platform/linux/x11/X11Workspace.h"
+#include "platform/linux/x11/XcbSupport.h"
 
 #include <QGuiApplication>
 
@@ -26,12 +27,11 @@ namespace {
 // The X server that a Wayland compositor runs for old programs sees those alone.
 bool isXwayland(xcb_connection_t* connection) {
     constexpr const char* name = "XWAYLAND";
-    auto* reply = xcb_query_extension_reply(
-        connection, xcb_query_extension(connection, static_cast<uint16_t>(std::strlen(name)), name), nullptr);
-    const bool present = reply && reply->present;
-    std::free(reply);
+    const XcbReply<xcb_query_extension_reply_t> reply(xcb_query_extension_reply(
+        connection, xcb_query_extension(connection, static_cast<uint16_t>(std::strlen(name)), name),
+        nullptr));
     // Servers older than the extension are told by the session.
-    return present || qgetenv("XDG_SESSION_TYPE") == "wayland";
+    return (reply && reply->present) || qgetenv("XDG_SESSION_TYPE") == "wayland";
 }
 
 enum class Display { X11, Wayland, None };

@@ -2,8 +2,6 @@
 
 #include "platform/linux/identity/DesktopEntry.h"
 
-#include <QHash>
-
 #include <memory>
 
 namespace norvin {

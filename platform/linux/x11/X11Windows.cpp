@@ -15,17 +15,9 @@ namespace norvin {
 namespace {
 
 constexpr const char* atomNames[] = {
-    "_NET_ACTIVE_WINDOW",
-    "_NET_CLIENT_LIST",
-    "_NET_SUPPORTING_WM_CHECK",
-    "_NET_WM_PID",
-    "_NET_WM_NAME",
-    "_NET_WM_WINDOW_TYPE",
-    "_NET_WM_WINDOW_TYPE_DESKTOP",
-    "_NET_WM_WINDOW_TYPE_DOCK",
-    "_GTK_APPLICATION_ID",
-    "WM_CHANGE_STATE",
-    "UTF8_STRING",
+    "_NET_ACTIVE_WINDOW",  "_NET_CLIENT_LIST",    "_NET_SUPPORTING_WM_CHECK",    "_NET_WM_PID",
+    "_NET_WM_NAME",        "_NET_WM_WINDOW_TYPE", "_NET_WM_WINDOW_TYPE_DESKTOP", "_NET_WM_WINDOW_TYPE_DOCK",
+    "_GTK_APPLICATION_ID", "WM_CHANGE_STATE",
 };
 
 // In 32-bit units, as the protocol counts.

@@ -71,7 +71,6 @@ private:
         WindowTypeDock,
         GtkApplicationId,
         WmChangeState,
-        Utf8String,
         atomCount,
     };
 

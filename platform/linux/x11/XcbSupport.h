@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QByteArray>
 
 #include <xcb/xcb.h>
 
@@ -10,6 +10,7 @@
 
 namespace norvin {
 
+/// Frees what C allocated.
 struct FreeDeleter {
     void operator()(void* memory) const { std::free(memory); }
 };
