@@ -27,7 +27,8 @@ public:
     }
 
 Q_SIGNALS:
-    /// Some property changed; follows the property's own signal. One assignment gives one of these.
+    /// Some property changed; follows the property's own signal. One assignment gives one of these, and none
+    /// at the other end of a relationship, whose list has a signal of its own.
     void changed();
 
 protected:
@@ -51,6 +52,7 @@ protected:
         if (const qsizetype at = list.lastIndexOf(const_cast<T*>(entity)); at >= 0)
             list.removeAt(at);
     }
+    /// To be called when the entity's place in store order has changed.
     template <class T>
     static void reorder(QList<T*>& list, T* entity) {
         takeOut(list, entity);

@@ -16,10 +16,12 @@ public:
     explicit constexpr EntityId(const QUuid& uuid)
         : m_uuid(uuid) {}
 
+    /// An id that no other entity has.
     [[nodiscard]] static EntityId create() { return EntityId(QUuid::createUuid()); }
 
     [[nodiscard]] constexpr bool isNull() const { return m_uuid.isNull(); }
     [[nodiscard]] constexpr const QUuid& uuid() const { return m_uuid; }
+    /// Lower-case hexadecimal digits with hyphens, without braces.
     [[nodiscard]] QString toString() const { return m_uuid.toString(QUuid::WithoutBraces); }
 
     friend bool operator==(const EntityId&, const EntityId&) = default;

@@ -56,6 +56,7 @@ public:
     void remove(ProjectPhase& phase);
     void remove(TaskItem& task);
     void remove(TaskResource& resource);
+    /// An unknown session is ignored. Where the store cannot be read, that is logged and the session stays.
     void remove(const SessionId& session);
 
     /// All entities of a type in the order of their creation in this store.
@@ -80,6 +81,7 @@ public:
     /// Writes all changes in one transaction.
     /// @return none on success; on failure the changes stay for the next save
     [[nodiscard]] StoreResult save();
+    /// Whether the next save has something to write.
     [[nodiscard]] bool hasChanges() const;
 
 Q_SIGNALS:
@@ -98,6 +100,7 @@ Q_SIGNALS:
     void phaseAboutToBeRemoved(norvin::ProjectPhase* phase);
     void taskAboutToBeRemoved(norvin::TaskItem* task);
     void resourceAboutToBeRemoved(norvin::TaskResource* resource);
+    /// A record was added; it reaches the disk with the next save.
     void sessionInserted(const norvin::Session& session);
     /// Sessions were removed, on their own or with their task.
     void sessionsRemoved();

@@ -15,6 +15,7 @@ class TaskItem;
 
 using ProjectId = EntityId<Project>;
 
+/// A project with its phases and tasks.
 class Project final : public Entity {
     Q_OBJECT
     Q_PROPERTY(QString name READ name WRITE setName NOTIFY nameChanged)
@@ -23,6 +24,7 @@ class Project final : public Entity {
     Q_PROPERTY(QString colorHex READ colorHex WRITE setColorHex NOTIFY colorHexChanged)
     Q_PROPERTY(QString emoji READ emoji WRITE setEmoji NOTIFY emojiChanged)
 public:
+    /// Values of a new project.
     struct Init {
         ProjectId id = ProjectId::create();
         QString name = {};
@@ -42,11 +44,12 @@ public:
     /// Hexadecimal colour text ("#7c3aed").
     [[nodiscard]] const QString& colorHex() const { return m_colorHex; }
     void setColorHex(const QString& colorHex);
+    /// One emoji, shown as the project's icon; empty for none.
     [[nodiscard]] const QString& emoji() const { return m_emoji; }
     void setEmoji(const QString& emoji);
     [[nodiscard]] const QDateTime& createdAt() const { return m_createdAt; }
 
-    /// In the order of creation, subtasks included.
+    /// In the order of creation, subtasks included; the same order in phases().
     [[nodiscard]] const QList<TaskItem*>& tasks() const { return m_tasks; }
     [[nodiscard]] const QList<ProjectPhase*>& phases() const { return m_phases; }
     /// The phases by ascending orderIndex.

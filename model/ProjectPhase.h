@@ -21,6 +21,7 @@ class ProjectPhase final : public Entity {
     Q_PROPERTY(QString name READ name WRITE setName NOTIFY nameChanged)
     Q_PROPERTY(int orderIndex READ orderIndex WRITE setOrderIndex NOTIFY orderIndexChanged)
 public:
+    /// Values of a new phase.
     struct Init {
         ProjectPhaseId id = ProjectPhaseId::create();
         QString name = {};
@@ -34,13 +35,14 @@ public:
     [[nodiscard]] ProjectPhaseId id() const { return m_id; }
     [[nodiscard]] const QString& name() const { return m_name; }
     void setName(const QString& name);
-    /// Position of the column within its project, ascending.
+    /// Position of the column within its project, ascending; any number, and not necessarily the only one.
     [[nodiscard]] int orderIndex() const { return m_orderIndex; }
     void setOrderIndex(int orderIndex);
     [[nodiscard]] const QDateTime& createdAt() const { return m_createdAt; }
     /// Null when there is none.
     [[nodiscard]] Project* project() const { return m_project; }
     void setProject(Project* project);
+    /// In the order of creation.
     [[nodiscard]] const QList<TaskItem*>& tasks() const { return m_tasks; }
 
 Q_SIGNALS:

@@ -91,9 +91,11 @@ public:
 
     /// Done subtasks ÷ subtasks, 0 to 1; 0 without subtasks.
     [[nodiscard]] double subtasksProgress() const;
+    /// Of the direct subtasks, those that are done.
     [[nodiscard]] int completedSubtasksCount() const;
-    /// Not done, and the day of the date is over at `now`.
+    /// Not done, and the day of the due date is over at `now`, on the calendar in which `now` is told.
     [[nodiscard]] bool isOverdue(const QDateTime& now) const;
+    /// The same of the planned date.
     [[nodiscard]] bool isPlannedLate(const QDateTime& now) const;
     /// None without a date; the localisation key "today" or "tomorrow" for those days, else a short date in
     /// the format of `locale`.

@@ -21,6 +21,7 @@ using TaskResourceId = EntityId<TaskResource>;
 class TaskResource final : public Entity {
     Q_OBJECT
 public:
+    /// Values of a new attachment, which belongs to no task yet.
     struct Init {
         TaskResourceId id = TaskResourceId::create();
         QString name = {};
@@ -35,6 +36,7 @@ public:
     [[nodiscard]] TaskResourceId id() const { return m_id; }
     [[nodiscard]] const QString& name() const { return m_name; }
     void setName(const QString& name);
+    /// What kind of file it is, as whoever attached it said ("image/png"); may be empty.
     [[nodiscard]] const QString& fileType() const { return m_fileType; }
     /// A bookmark of the file: its address and what is needed to find it again after it moved within its
     /// folder. Empty when there is none.
@@ -44,8 +46,10 @@ public:
     [[nodiscard]] TaskItem* task() const { return m_task; }
     void setTask(TaskItem* task);
 
-    /// Where the file is now; none without data or when the file is found no more.
+    /// Where the file is now; none without data or when the file is found no more. Looks at the disk.
     [[nodiscard]] std::optional<QUrl> resolvedURL() const;
+    /// Whether the type, or else the extension of the file (of the name, where there is no file), is that of
+    /// an image.
     [[nodiscard]] bool isImage() const;
 
 Q_SIGNALS:

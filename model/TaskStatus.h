@@ -6,8 +6,10 @@
 
 namespace norvin {
 
+/// How far a task has come.
 enum class TaskStatus { todo, inProgress, done };
 
+/// How much a task matters; the values are those of the store.
 enum class TaskPriority : int { low = 0, medium = 1, high = 2 };
 
 /// Stored text of a status: "To Do", "In Progress", "Done".
