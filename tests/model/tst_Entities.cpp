@@ -204,35 +204,18 @@ private Q_SLOTS:
         QVERIFY(!TaskResource({.fileURL = QUrl::fromLocalFile("/nowhere/at all")}).resolvedURL());
     }
 
-    void imagesAreKnownByTypeOrExtension_data() {
-        QTest::addColumn<QString>("fileType");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<bool>("isImage");
-        QTest::newRow("type") << "public.IMAGE"
-                              << "a"
-                              << "" << true;
-        QTest::newRow("extension of the file") << "data"
-                                               << "Photo"
-                                               << "/nowhere/holiday.JPEG" << true;
-        QTest::newRow("the file, not the name") << "data"
-                                                << "a.png"
-                                                << "/nowhere/a.txt" << false;
-        QTest::newRow("name without a file") << ""
-                                             << "a.webp"
-                                             << "" << true;
-        QTest::newRow("neither") << "pdf"
-                                 << "a.pdf"
-                                 << "" << false;
-    }
     void imagesAreKnownByTypeOrExtension() {
-        QFETCH(QString, fileType);
-        QFETCH(QString, name);
-        QFETCH(QString, path);
-        TaskResource::Init init{.name = name, .fileType = fileType};
-        if (!path.isEmpty())
-            init.fileURL = QUrl::fromLocalFile(path);
-        QTEST(TaskResource(init).isImage(), "isImage");
+        const auto isImage = [](const char* fileType, const char* name, const char* path = nullptr) {
+            TaskResource::Init init{.name = name, .fileType = fileType};
+            if (path != nullptr)
+                init.fileURL = QUrl::fromLocalFile(path);
+            return TaskResource(init).isImage();
+        };
+        QVERIFY(isImage("public.IMAGE", "a"));
+        QVERIFY(isImage("data", "Photo", "/nowhere/holiday.JPEG"));
+        QVERIFY(isImage("", "a.webp"));
+        QVERIFY(!isImage("data", "a.png", "/nowhere/a.txt"));
+        QVERIFY(!isImage("pdf", "a.pdf"));
     }
 };
 
