@@ -3,6 +3,7 @@
 #include <QHash>
 
 #include <algorithm>
+#include <utility>
 
 namespace norvin {
 
@@ -62,8 +63,14 @@ void FakeWorkspace::setRunningApplications(std::vector<RunningApplication> appli
 void FakeWorkspace::setAvailability(const Availability& availability) {
     if (m_availability == availability)
         return;
-    m_availability = availability;
+    const bool wasAvailable = std::exchange(m_availability, availability).isAvailable();
     Q_EMIT availabilityChanged();
+    if (!m_frontmost || wasAvailable == availability.isAvailable())
+        return;
+    if (wasAvailable)
+        Q_EMIT frontmostApplicationLost();
+    else
+        Q_EMIT applicationActivated(*m_frontmost);
 }
 
 } // namespace norvin

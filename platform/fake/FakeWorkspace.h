@@ -33,7 +33,8 @@ public:
     /// Empties the front and emits frontmostApplicationLost() if it was not empty.
     void clearFrontmost();
     void setRunningApplications(std::vector<RunningApplication> applications);
-    /// Emits availabilityChanged() on a change.
+    /// Emits availabilityChanged() on a change and, as a desktop does whose window manager ends or starts,
+    /// frontmostApplicationLost() or applicationActivated() where an application is in front.
     void setAvailability(const Availability& availability);
     void emitWillSleep() { Q_EMIT willSleep(); }
     void emitDidWake() { Q_EMIT didWake(); }
