@@ -29,12 +29,6 @@ QByteArray readFile(const QString& path) {
 class PreferencesTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void initTestCase_data() {
-        QTest::addColumn<bool>("real");
-        QTest::newRow("FakePreferences") << false;
-        QTest::newRow("IniPreferences") << true;
-    }
-
     void init() {
         m_directory = std::make_unique<QTemporaryDir>();
         m_log.clear();
@@ -43,8 +37,16 @@ private Q_SLOTS:
 
     void cleanup() { setLogSink({}); }
 
+    void storesForgetsAndAnnounces_data() {
+        QTest::addColumn<bool>("real");
+        QTest::newRow("FakePreferences") << false;
+        QTest::newRow("IniPreferences") << true;
+    }
     void storesForgetsAndAnnounces() {
-        const auto preferences = makePreferences();
+        QFETCH(bool, real);
+        const std::unique_ptr<Preferences> preferences =
+            real ? std::unique_ptr<Preferences>(std::make_unique<IniPreferences>(path()))
+                 : std::make_unique<FakePreferences>();
         QSignalSpy changed(preferences.get(), &Preferences::changed);
         QVERIFY(!preferences->value(QStringLiteral("tick_sound_type")));
 
@@ -63,7 +65,7 @@ private Q_SLOTS:
                  QStringLiteral("été, \"Zwölf\" = ;%\n"));
         QCOMPARE(preferences->value(QStringLiteral("tick_sound_volume"))->toDouble(), 0.25);
         QCOMPARE(preferences->value(QStringLiteral("tick_sound_enabled"))->toBool(), false);
-        if (onlyReal()) {
+        if (real) {
             QVERIFY(readFile(path()).contains("\ntick_sound_volume=0.25\n"));
             QVERIFY(!readFile(path()).contains("inactivity_threshold_minutes"));
         }
@@ -80,14 +82,11 @@ private Q_SLOTS:
         QFETCH(QStringList, list);
         const QString json = QStringLiteral("{\"org.mozilla.firefox\":[\"example.org\",\"a,b\"]}");
         {
-            const auto preferences = makePreferences();
-            preferences->setValue(QStringLiteral("NorvinBlockedApps"), list);
-            preferences->setValue(QStringLiteral("NorvinBrowserBlockedSites"), json);
-            QCOMPARE(preferences->value(QStringLiteral("NorvinBlockedApps"))->toStringList(), list);
-            QCOMPARE(preferences->value(QStringLiteral("NorvinBrowserBlockedSites"))->toString(), json);
+            IniPreferences preferences(path());
+            preferences.setValue(QStringLiteral("NorvinBlockedApps"), list);
+            preferences.setValue(QStringLiteral("NorvinBrowserBlockedSites"), json);
+            QCOMPARE(preferences.value(QStringLiteral("NorvinBlockedApps"))->toStringList(), list);
         }
-        if (!onlyReal())
-            return;
         const IniPreferences reopened(path());
         QVERIFY(reopened.value(QStringLiteral("NorvinBlockedApps")).has_value());
         QCOMPARE(reopened.value(QStringLiteral("NorvinBlockedApps"))->toStringList(), list);
@@ -100,8 +99,6 @@ private Q_SLOTS:
         QTest::newRow("text without a key") << QByteArray("app_language=en\nthis is no setting\n");
     }
     void setsADamagedFileAside() {
-        if (!onlyReal())
-            return;
         QFETCH(QByteArray, content);
         writeFile(path() + QStringLiteral(".damaged"), "an older one");
         writeFile(path(), content);
@@ -124,8 +121,6 @@ private Q_SLOTS:
     }
 
     void keepsValuesInMemoryWhileItCannotWrite() {
-        if (!onlyReal())
-            return;
         // A file where the directory should be: nobody can write below it, not even root.
         const QString blocked = m_directory->filePath(QStringLiteral("blocked"));
         writeFile(blocked, "in the way");
@@ -149,17 +144,8 @@ private Q_SLOTS:
     }
 
 private:
-    [[nodiscard]] static bool onlyReal() {
-        QFETCH_GLOBAL(bool, real);
-        return real;
-    }
     [[nodiscard]] QString path() const {
         return m_directory->filePath(QStringLiteral("norvin-focus/preferences.ini"));
-    }
-    [[nodiscard]] std::unique_ptr<Preferences> makePreferences() const {
-        if (onlyReal())
-            return std::make_unique<IniPreferences>(path());
-        return std::make_unique<FakePreferences>();
     }
 
     std::unique_ptr<QTemporaryDir> m_directory;
