@@ -10,9 +10,9 @@ namespace norvin {
 
 class ModelContext;
 
-/// Base of the planning entities: tells its context, if it has one, that it wants saving. Main thread only.
-/// An entity in a context is owned by it; one that was never inserted belongs to whoever made it. Destroying
-/// an entity takes it out of the relationships of all others.
+/// Base of the planning entities: tells its context, if it has one, that it wants saving. Only for the thread
+/// of its container. An entity in a context is owned by it; one that was never inserted belongs to whoever
+/// made it. Destroying an entity takes it out of the relationships of all others.
 class Entity : public QObject {
     Q_OBJECT
 public:

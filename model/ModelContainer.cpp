@@ -76,6 +76,10 @@ ModelContainer::openOrRecreate(const QString& storeFile, std::chrono::millisecon
         new ModelContainer(storeFile, std::get<std::unique_ptr<ModelContext>>(std::move(opened))));
 }
 
+void ModelContainer::moveToThread(QThread* thread) {
+    m_mainContext->moveToThread(thread);
+}
+
 std::unique_ptr<ModelContainer> ModelContainer::inMemory() {
     OpenResult opened = openContext(StoreConnection::inMemory());
     if (const auto* error = std::get_if<StoreError>(&opened))

@@ -9,9 +9,11 @@
 #include <memory>
 #include <variant>
 
+class QThread;
+
 namespace norvin {
 
-/// An open store. Main thread only.
+/// An open store. It and everything in it belong to the thread that opened it, and may be used there only.
 class ModelContainer final {
 public:
     /// Opens the store file, making it where there is none. A file that cannot be opened (damaged, of another
@@ -30,6 +32,9 @@ public:
     [[nodiscard]] static QString defaultStoreFile();
 
     ~ModelContainer();
+    /// Gives the store and everything in it to another thread. Called on the one it belongs to, before
+    /// anything was changed.
+    void moveToThread(QThread* thread);
     [[nodiscard]] ModelContext& mainContext() { return *m_mainContext; }
     [[nodiscard]] const QString& storeFile() const { return m_storeFile; }
 

@@ -37,6 +37,9 @@ public:
         , connection(std::move(openConnection))
         , graph(std::move(loadedGraph))
         , records(*connection) {
+        // Children, so that they change threads with the context.
+        idleTimer.setParent(q);
+        retryTimer.setParent(q);
         idleTimer.setSingleShot(true);
         idleTimer.setInterval(idleTime);
         QObject::connect(&idleTimer, &QTimer::timeout, q, [this] { connection->checkpoint(); });

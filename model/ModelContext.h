@@ -31,7 +31,7 @@ struct RecordQuery {
 /// The working set of the store: every planning entity once, as an object, and the records as values. Changes
 /// reach the disk with save(), which the context calls itself at the end of the event-loop turn in which
 /// something changed. A save that fails keeps everything and is tried again with the next one.
-/// Main thread only.
+/// Only for the thread of its container, the main thread in the program.
 class ModelContext final : public QObject {
     Q_OBJECT
 public:

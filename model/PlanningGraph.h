@@ -37,7 +37,7 @@ struct Removal {
     std::vector<Project*> projects;
 };
 
-/// The planning entities of a context and their relationships. Main thread only.
+/// The planning entities of a context and their relationships. Only for the thread of its container.
 class PlanningGraph final {
 public:
     PlanningGraph() = default;

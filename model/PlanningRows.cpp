@@ -1,9 +1,11 @@
 #include "model/PlanningGraph.h"
+#include "model/RowCursor.h"
 #include "model/StoreConnection.h"
 #include "platform/Log.h"
 
 #include <SQLiteCpp/Exception.h>
 
+#include <algorithm>
 #include <tuple>
 #include <utility>
 #include <vector>
@@ -14,8 +16,8 @@ namespace {
 
 // A reference to an entity that is not in the store reads as none.
 template <class T>
-T* find(const EntityPool<T>& pool, const SQLite::Statement& statement, int index) {
-    return statement.isColumnNull(index) ? nullptr : pool.byId.value(row::uuid(statement, index));
+T* find(const EntityPool<T>& pool, const RowCursor& rows, int column) {
+    return rows.isNull(column) ? nullptr : pool.byId.value(rows.uuid(column));
 }
 
 // An entity outside the context has no row to refer to; when it is inserted, those that refer to it are
@@ -155,63 +157,78 @@ void PlanningGraph::addLoaded(EntityPool<T>& pool, T* entity) {
 }
 
 void PlanningGraph::loadProjects(StoreConnection& connection) {
-    const CachedStatement rows = connection.statement(
+    RowCursor rows(
+        connection.database().getHandle(),
         "SELECT id, name, projectDescription, colorHex, emoji, createdAt FROM Project ORDER BY rowid");
-    while (rows->executeStep()) {
-        addLoaded(m_projects, new Project({.id = ProjectId(row::uuid(*rows, 0)),
-                                           .name = row::text(*rows, 1),
-                                           .projectDescription = row::text(*rows, 2),
-                                           .colorHex = row::text(*rows, 3),
-                                           .emoji = row::text(*rows, 4),
-                                           .createdAt = row::instant(*rows, 5)}));
+    while (rows.next()) {
+        addLoaded(m_projects, new Project({.id = ProjectId(rows.uuid(0)),
+                                           .name = rows.text(1),
+                                           .projectDescription = rows.text(2),
+                                           .colorHex = rows.text(3),
+                                           .emoji = rows.text(4),
+                                           .createdAt = rows.instant(5).dateTime()}));
     }
 }
 
 void PlanningGraph::loadPhases(StoreConnection& connection) {
-    const CachedStatement rows =
-        connection.statement("SELECT id, name, orderIndex, createdAt, project FROM ProjectPhase "
-                             "ORDER BY rowid");
-    while (rows->executeStep()) {
-        auto* phase = new ProjectPhase({.id = ProjectPhaseId(row::uuid(*rows, 0)),
-                                        .name = row::text(*rows, 1),
-                                        .orderIndex = rows->getColumn(2).getInt(),
+    RowCursor rows(connection.database().getHandle(),
+                   "SELECT id, name, orderIndex, createdAt, project FROM ProjectPhase "
+                   "ORDER BY rowid");
+    while (rows.next()) {
+        auto* phase = new ProjectPhase({.id = ProjectPhaseId(rows.uuid(0)),
+                                        .name = rows.text(1),
+                                        .orderIndex = rows.number(2),
                                         .project = nullptr,
-                                        .createdAt = row::instant(*rows, 3)});
+                                        .createdAt = rows.instant(3).dateTime()});
         addLoaded(m_phases, phase);
-        phase->m_project = find(m_projects, *rows, 4);
+        phase->m_project = find(m_projects, rows, 4);
         if (phase->m_project != nullptr)
             phase->m_project->m_phases.append(phase);
     }
 }
 
 void PlanningGraph::loadTasks(StoreConnection& connection) {
-    const CachedStatement rows = connection.statement(
+    RowCursor rows(
+        connection.database().getHandle(),
         "SELECT id, title, taskDescription, statusValue, priorityValue, dueDate, createdAt, plannedDate, "
         "project, phase, parentTask FROM TaskItem ORDER BY rowid");
+    // No more than there are, and where many were deleted no less than makes sense.
+    constexpr int most = 100'000;
+    RowCursor newest(connection.database().getHandle(), "SELECT max(rowid) FROM TaskItem");
+    const int expected = newest.next() ? std::clamp(newest.number(0), 0, most) : 0;
+    m_tasks.all.reserve(static_cast<size_t>(expected));
+    m_tasks.byId.reserve(expected);
+
     std::vector<std::pair<TaskItem*, QUuid>> parents;
-    while (rows->executeStep()) {
-        auto* task = new TaskItem({.id = TaskId(row::uuid(*rows, 0)),
-                                   .title = row::text(*rows, 1),
-                                   .taskDescription = row::text(*rows, 2),
+    // Most tasks of a grown store are done; they share the text.
+    const QString done = rawValue(TaskStatus::done);
+    while (rows.next()) {
+        auto* task = new TaskItem({.id = TaskId(rows.uuid(0)),
+                                   .title = rows.text(1),
+                                   .taskDescription = rows.text(2),
                                    .status = TaskStatus::todo,
                                    .priority = TaskPriority::medium,
-                                   .dueDate = row::instant(*rows, 5),
-                                   .plannedDate = row::instant(*rows, 7),
-                                   .createdAt = row::instant(*rows, 6),
+                                   .dueDate = {},
+                                   .plannedDate = {},
+                                   .createdAt = {},
                                    .project = nullptr,
                                    .phase = nullptr});
         addLoaded(m_tasks, task);
         // Texts and numbers that mean nothing to us stay as they are.
-        task->m_statusValue = row::text(*rows, 3);
-        task->m_priorityValue = rows->getColumn(4).getInt();
-        task->m_project = find(m_projects, *rows, 8);
+        if (QString status = rows.text(3); status != task->m_statusValue)
+            task->m_statusValue = status == done ? done : std::move(status);
+        task->m_priorityValue = rows.number(4);
+        task->m_dueDate = rows.instant(5);
+        task->m_createdAt = rows.instant(6);
+        task->m_plannedDate = rows.instant(7);
+        task->m_project = find(m_projects, rows, 8);
         if (task->m_project != nullptr)
             task->m_project->m_tasks.append(task);
-        task->m_phase = find(m_phases, *rows, 9);
+        task->m_phase = find(m_phases, rows, 9);
         if (task->m_phase != nullptr)
             task->m_phase->m_tasks.append(task);
-        if (!rows->isColumnNull(10))
-            parents.emplace_back(task, row::uuid(*rows, 10));
+        if (!rows.isNull(10))
+            parents.emplace_back(task, rows.uuid(10));
     }
     // A task may be older than its parent.
     for (const auto& [task, parent] : parents)
@@ -246,17 +263,18 @@ void PlanningGraph::linkSubtasks() {
 }
 
 void PlanningGraph::loadResources(StoreConnection& connection) {
-    const CachedStatement rows = connection.statement(
+    RowCursor rows(
+        connection.database().getHandle(),
         "SELECT id, name, fileType, fileURLData, createdAt, task FROM TaskResource ORDER BY rowid");
-    while (rows->executeStep()) {
-        auto* resource = new TaskResource({.id = TaskResourceId(row::uuid(*rows, 0)),
-                                           .name = row::text(*rows, 1),
-                                           .fileType = row::text(*rows, 2),
+    while (rows.next()) {
+        auto* resource = new TaskResource({.id = TaskResourceId(rows.uuid(0)),
+                                           .name = rows.text(1),
+                                           .fileType = rows.text(2),
                                            .fileURL = {},
-                                           .createdAt = row::instant(*rows, 4)});
+                                           .createdAt = rows.instant(4).dateTime()});
         addLoaded(m_resources, resource);
-        resource->m_fileURLData = row::bytes(*rows, 3);
-        resource->m_task = find(m_tasks, *rows, 5);
+        resource->m_fileURLData = rows.bytes(3);
+        resource->m_task = find(m_tasks, rows, 5);
         if (resource->m_task != nullptr)
             resource->m_task->m_resources.append(resource);
     }

@@ -15,8 +15,8 @@ namespace norvin {
 
 class StoreConnection;
 
-/// The records of a store: those in the file, and those on their way into it. Main thread only. Everything
-/// that reads or writes the file throws SQLite::Exception.
+/// The records of a store: those in the file, and those on their way into it. Only for the thread of its
+/// container. Everything that reads or writes the file throws SQLite::Exception.
 class RecordStore final {
 public:
     explicit RecordStore(StoreConnection& connection)

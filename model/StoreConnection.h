@@ -52,7 +52,7 @@ private:
     SQLite::Statement& m_statement;
 };
 
-/// An open, valid store file. Main thread only.
+/// An open, valid store file. Only for the thread of its container.
 class StoreConnection final {
 public:
     /// Opens the file and makes it a store if it is empty or missing. A lock is waited for, `lockWait` in

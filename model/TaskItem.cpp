@@ -151,17 +151,19 @@ void TaskItem::setPriority(TaskPriority priority) {
 }
 
 void TaskItem::setDueDate(const QDateTime& date) {
-    if (date == m_dueDate)
+    const Instant instant(date);
+    if (instant == m_dueDate)
         return;
-    m_dueDate = date;
+    m_dueDate = instant;
     Q_EMIT dueDateChanged();
     touch();
 }
 
 void TaskItem::setPlannedDate(const QDateTime& date) {
-    if (date == m_plannedDate)
+    const Instant instant(date);
+    if (instant == m_plannedDate)
         return;
-    m_plannedDate = date;
+    m_plannedDate = instant;
     Q_EMIT plannedDateChanged();
     touch();
 }
@@ -238,19 +240,19 @@ int TaskItem::completedSubtasksCount() const {
 }
 
 bool TaskItem::isOverdue(const QDateTime& now) const {
-    return !isDone() && dayIsOver(m_dueDate, now);
+    return !isDone() && dayIsOver(dueDate(), now);
 }
 
 bool TaskItem::isPlannedLate(const QDateTime& now) const {
-    return !isDone() && dayIsOver(m_plannedDate, now);
+    return !isDone() && dayIsOver(plannedDate(), now);
 }
 
 std::optional<QString> TaskItem::formattedDueDate(const QDateTime& now, const QLocale& locale) const {
-    return formattedDay(m_dueDate, now, locale);
+    return formattedDay(dueDate(), now, locale);
 }
 
 std::optional<QString> TaskItem::formattedPlannedDate(const QDateTime& now, const QLocale& locale) const {
-    return formattedDay(m_plannedDate, now, locale);
+    return formattedDay(plannedDate(), now, locale);
 }
 
 } // namespace norvin

@@ -2,6 +2,7 @@
 
 #include "model/Entity.h"
 #include "model/EntityId.h"
+#include "model/Instant.h"
 #include "model/TaskStatus.h"
 
 #include <QDateTime>
@@ -67,12 +68,12 @@ public:
     [[nodiscard]] std::optional<TaskPriority> priority() const;
     void setPriority(TaskPriority priority);
 
-    /// Invalid when there is none, here and in plannedDate().
-    [[nodiscard]] const QDateTime& dueDate() const { return m_dueDate; }
+    /// In local time; invalid when there is none. The same for plannedDate().
+    [[nodiscard]] QDateTime dueDate() const { return m_dueDate.dateTime(); }
     void setDueDate(const QDateTime& date);
-    [[nodiscard]] const QDateTime& plannedDate() const { return m_plannedDate; }
+    [[nodiscard]] QDateTime plannedDate() const { return m_plannedDate.dateTime(); }
     void setPlannedDate(const QDateTime& date);
-    [[nodiscard]] const QDateTime& createdAt() const { return m_createdAt; }
+    [[nodiscard]] QDateTime createdAt() const { return m_createdAt.dateTime(); }
 
     /// Null when there is none; the same for phase() and parentTask().
     [[nodiscard]] Project* project() const { return m_project; }
@@ -132,9 +133,9 @@ private:
     QString m_taskDescription;
     QString m_statusValue;
     int m_priorityValue;
-    QDateTime m_dueDate;
-    QDateTime m_plannedDate;
-    QDateTime m_createdAt;
+    Instant m_dueDate;
+    Instant m_plannedDate;
+    Instant m_createdAt;
     Project* m_project = nullptr;
     ProjectPhase* m_phase = nullptr;
     TaskItem* m_parentTask = nullptr;
