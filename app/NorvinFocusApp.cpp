@@ -5,6 +5,7 @@
 #include "focus/MotionService.h"
 #include "platform/linux/LinuxPlatform.h"
 #include "platform/linux/SessionBus.h"
+#include "ui/InterfaceEngine.h"
 
 #include <QCoreApplication>
 
@@ -82,7 +83,8 @@ NorvinFocusApp::SharedServices::~SharedServices() {
     SharedInstance<AppBlockerService>::reset();
 }
 
-NorvinFocusApp::NorvinFocusApp(LinuxPlatform& platform, std::unique_ptr<ModelContainer> container)
+NorvinFocusApp::NorvinFocusApp(LinuxPlatform& platform, std::unique_ptr<ModelContainer> container,
+                               std::unique_ptr<InterfaceEngine> engine)
     : m_platform(platform)
     , m_appDelegate(platform.accessibilityTrust())
     , m_sharedModelContainer(std::move(container))
@@ -100,7 +102,7 @@ NorvinFocusApp::NorvinFocusApp(LinuxPlatform& platform, std::unique_ptr<ModelCon
                                              [this] { return m_busAvailability; }}
                << TrackingHealthModel::Check{QStringLiteral("health_store"),
                                              [this] { return m_storeAvailability; }})
-    , m_userInterface(m_deepWorkScreen, m_applications, m_health, m_localization)
+    , m_userInterface(std::move(engine), m_deepWorkScreen, m_applications, m_health, m_localization)
     , m_busService(sessionBus(), m_deepWorkScreen, AppBlockerService::shared(), m_health) {
     followStore();
     followPlatform();

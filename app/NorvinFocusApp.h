@@ -18,6 +18,7 @@
 
 namespace norvin {
 
+class InterfaceEngine;
 class LinuxPlatform;
 
 /// The application: owns the store and the services, and puts them together. The only place, with main(),
@@ -27,7 +28,8 @@ class NorvinFocusApp final : public QObject {
 public:
     /// @param platform must outlive the application
     /// @param container the open store
-    NorvinFocusApp(LinuxPlatform& platform, std::unique_ptr<ModelContainer> container);
+    NorvinFocusApp(LinuxPlatform& platform, std::unique_ptr<ModelContainer> container,
+                   std::unique_ptr<InterfaceEngine> engine);
     ~NorvinFocusApp() override;
 
     /// Builds the window and the bus face. @return false where the window cannot be built; the reason is

@@ -43,6 +43,8 @@ UnixSignals::UnixSignals(QObject* parent)
     });
     for (const int signal : handledSignals)
         std::signal(signal, wake);
+    // Whoever read our output may end before us, and a session goes on without its log.
+    std::signal(SIGPIPE, SIG_IGN);
 }
 
 UnixSignals::~UnixSignals() {

@@ -5,7 +5,8 @@
 
 namespace norvin {
 
-/// Turns SIGTERM, SIGINT and SIGHUP into a Qt signal, so that the program ends the same way as by its menu.
+/// Turns SIGTERM, SIGINT and SIGHUP into a Qt signal, so that the program ends the same way as by its menu,
+/// and has the program outlive whoever reads its output.
 /// One instance at a time. Main thread only.
 class UnixSignals final : public QObject {
     Q_OBJECT

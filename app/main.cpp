@@ -7,14 +7,16 @@
 #include "platform/linux/LinuxPlatform.h"
 #include "platform/linux/SessionBus.h"
 #include "platform/linux/display/DisplayProbe.h"
+#include "ui/InterfaceEngine.h"
 
-#include <QElapsedTimer>
 #include <QGuiApplication>
+#include <QThread>
 #include <QTimer>
 #include <QTranslator>
 
 #include <chrono>
 #include <cstdio>
+#include <future>
 
 using namespace norvin;
 
@@ -36,6 +38,18 @@ int stopFatally(const StoreError& error) {
                          "reset — %1\n")
               .arg(error.description));
     return toInt(ExitCode::storeFailure);
+}
+
+using OpenedStore = std::variant<std::unique_ptr<ModelContainer>, StoreError>;
+
+// Reads the store on another core while the window is compiled; what it gives belongs to the calling thread.
+std::future<OpenedStore> openStoreMeanwhile(const QString& storeFile) {
+    return std::async(std::launch::async, [storeFile, owner = QThread::currentThread()] {
+        OpenedStore opened = ModelContainer::openOrRecreate(storeFile);
+        if (const auto* container = std::get_if<std::unique_ptr<ModelContainer>>(&opened))
+            (*container)->moveToThread(owner);
+        return opened;
+    });
 }
 
 // The terminal speaks English whatever the window speaks, so that scripts and manuals can rely on it.
@@ -107,15 +121,18 @@ int runWindow(const command::OpenWindow& options, int& argc, char** argv) {
         if (RemoteControl remote(sessionBus()); remote.isInstanceRunning())
             return toInt(remote.showWindow());
     }
+    std::future<OpenedStore> opening = openStoreMeanwhile(storeFile);
+    auto interface = std::make_unique<InterfaceEngine>();
+    LinuxPlatform platform;
+    interface->finishCompiling();
 
-    auto opened = ModelContainer::openOrRecreate(storeFile);
+    OpenedStore opened = opening.get();
     if (const auto* error = std::get_if<StoreError>(&opened))
         return stopFatally(*error);
-
     UnixSignals unixSignals;
     QObject::connect(&unixSignals, &UnixSignals::terminationRequested, &application, &QCoreApplication::quit);
-    LinuxPlatform platform;
-    NorvinFocusApp app(platform, std::move(std::get<std::unique_ptr<ModelContainer>>(opened)));
+    NorvinFocusApp app(platform, std::move(std::get<std::unique_ptr<ModelContainer>>(opened)),
+                       std::move(interface));
     if (!app.launch())
         return toInt(ExitCode::unreachable);
     if (options.measureFirstFrame) {

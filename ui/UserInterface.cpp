@@ -3,39 +3,44 @@
 #include "distraction/ApplicationListModel.h"
 #include "distraction/TrackingHealthModel.h"
 #include "focus/DeepWorkScreen.h"
-#include "platform/Log.h"
-#include "ui/ForeignTypes.h"
-#include "ui/ImageProviders.h"
+#include "ui/InterfaceEngine.h"
 #include "ui/Localization.h"
 #include "ui/MotionPreference.h"
 
 #include <QCoreApplication>
+#include <QCursor>
 #include <QEvent>
+#include <QFont>
 #include <QGuiApplication>
 #include <QIcon>
-#include <QQmlComponent>
-#include <QQmlEngine>
 #include <QQuickWindow>
 #include <QStyleHints>
-#include <QUrl>
-
-// The module is linked in, not loaded from a plugin, so its types are registered by hand.
-extern void qml_register_types_NorvinFocus_Ui();
 
 namespace norvin {
 
-UserInterface::UserInterface(DeepWorkScreen& deepWork, ApplicationListModel& applications,
-                             TrackingHealthModel& health, Localization& localization, QObject* parent)
+namespace {
+
+// How much of the window is there, see Main.qml.
+constexpr const char* stageProperty = "stage";
+// As Theme.body.
+constexpr int bodyPixelSize = 14;
+
+} // namespace
+
+UserInterface::UserInterface(std::unique_ptr<InterfaceEngine> engine, DeepWorkScreen& deepWork,
+                             ApplicationListModel& applications, TrackingHealthModel& health,
+                             Localization& localization, QObject* parent)
     : QObject(parent)
     , m_deepWork(deepWork)
     , m_applications(applications)
     , m_health(health)
     , m_localization(localization)
-    , m_motion(std::make_unique<MotionPreference>()) {
+    , m_motion(std::make_unique<MotionPreference>())
+    , m_engine(std::move(engine)) {
+    m_engine->setSingletons(localization, *m_motion);
     connect(&localization, &Localization::languageChanged, this, [this] {
         m_health.retranslate();
-        if (m_engine)
-            m_engine->retranslate();
+        m_engine->retranslate();
     });
 }
 
@@ -44,28 +49,19 @@ UserInterface::~UserInterface() = default;
 bool UserInterface::load() {
     // A blinking cursor would wake the program twice a second for as long as a field has the keyboard.
     QGuiApplication::styleHints()->setCursorFlashTime(0);
-    qml_register_types_NorvinFocus_Ui();
-    m_engine = std::make_unique<QQmlEngine>();
-    m_engine->addImportPath(QStringLiteral("qrc:/"));
-    m_engine->setProperty(qml::LocalizationType::engineProperty, QVariant::fromValue(&m_localization));
-    m_engine->setProperty(qml::MotionPreferenceType::engineProperty, QVariant::fromValue(m_motion.get()));
-    m_engine->addImageProvider(QStringLiteral("appicon"), new AppIconProvider);
-    m_engine->addImageProvider(QStringLiteral("symbol"), new SymbolProvider);
-
-    QQmlComponent component(m_engine.get(), QUrl(QStringLiteral("qrc:/NorvinFocus/Ui/shell/Main.qml")));
-    std::unique_ptr<QObject> root;
-    if (component.isReady())
-        root.reset(component.createWithInitialProperties({
-            {QStringLiteral("deepWork"), QVariant::fromValue(&m_deepWork)},
-            {QStringLiteral("applications"), QVariant::fromValue(&m_applications)},
-            {QStringLiteral("health"), QVariant::fromValue(&m_health)},
-            {QStringLiteral("storeProblem"), m_storeProblem},
-        }));
+    // Controls measure the application's font even where they show another: one less to load.
+    QFont font = QGuiApplication::font();
+    font.setPixelSize(bodyPixelSize);
+    QGuiApplication::setFont(font);
+    std::unique_ptr<QObject> root = m_engine->createWindow({
+        {QStringLiteral("deepWork"), QVariant::fromValue(&m_deepWork)},
+        {QStringLiteral("applications"), QVariant::fromValue(&m_applications)},
+        {QStringLiteral("health"), QVariant::fromValue(&m_health)},
+        {QStringLiteral("storeProblem"), m_storeProblem},
+    });
     m_window.reset(qobject_cast<QQuickWindow*>(root.get()));
-    if (!m_window) {
-        logLine(QStringLiteral("UserInterface: The window cannot be built: %1").arg(component.errorString()));
+    if (!m_window)
         return false;
-    }
     static_cast<void>(root.release()); // the same object as m_window
     m_window->setIcon(QIcon(QStringLiteral(":/icons/com.norvin.Focus.svg")));
     m_window->installEventFilter(this);
@@ -77,6 +73,7 @@ bool UserInterface::load() {
             // Asked only now, so that a slow bus cannot hold up the first picture.
             m_motion->askDesktop();
             Q_EMIT firstFrameShown();
+            m_window->setProperty(stageProperty, 2);
         },
         static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
     return true;
@@ -91,6 +88,12 @@ void UserInterface::showWindow() {
     m_window->show();
     m_window->raise();
     m_window->requestActivate();
+    if (m_window->property(stageProperty).toInt() == 0) {
+        // Any question to the window system sends off what it was told before, so that it gets the window
+        // ready while the content is made.
+        static_cast<void>(QCursor::pos());
+        m_window->setProperty(stageProperty, 1);
+    }
 }
 
 void UserInterface::setStoreProblem(const QString& text) {

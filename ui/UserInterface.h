@@ -5,13 +5,13 @@
 
 #include <memory>
 
-class QQmlEngine;
 class QQuickWindow;
 
 namespace norvin {
 
 class ApplicationListModel;
 class DeepWorkScreen;
+class InterfaceEngine;
 class Localization;
 class MotionPreference;
 class TrackingHealthModel;
@@ -26,9 +26,10 @@ class UserInterface final : public QObject {
     /// What is wrong with the store, shown as a banner for as long as it is not empty.
     Q_PROPERTY(QString storeProblem READ storeProblem WRITE setStoreProblem NOTIFY storeProblemChanged)
 public:
-    /// Everything given must outlive this.
-    UserInterface(DeepWorkScreen& deepWork, ApplicationListModel& applications, TrackingHealthModel& health,
-                  Localization& localization, QObject* parent = nullptr);
+    /// Everything given by reference must outlive this.
+    UserInterface(std::unique_ptr<InterfaceEngine> engine, DeepWorkScreen& deepWork,
+                  ApplicationListModel& applications, TrackingHealthModel& health, Localization& localization,
+                  QObject* parent = nullptr);
     ~UserInterface() override;
 
     /// Builds the window, hidden. @return whether it is there; a failure is logged
@@ -64,7 +65,7 @@ private:
     TrackingHealthModel& m_health;
     Localization& m_localization;
     std::unique_ptr<MotionPreference> m_motion;
-    std::unique_ptr<QQmlEngine> m_engine;
+    std::unique_ptr<InterfaceEngine> m_engine;
     std::unique_ptr<QQuickWindow> m_window;
     QString m_storeProblem;
     bool m_isQuitting = false;

@@ -4,6 +4,7 @@
 #include "distraction/TrackingHealthModel.h"
 #include "focus/DeepWorkScreen.h"
 #include "tests/support/FocusRig.h"
+#include "ui/InterfaceEngine.h"
 #include "ui/Localization.h"
 #include "ui/UserInterface.h"
 
@@ -22,7 +23,8 @@ struct UiRig {
         for (const char* name : {"Archive Manager", "Calculator", "Editor", "Game", "Terminal"})
             install(QString::fromLatin1(name));
         health.refresh();
-        userInterface = std::make_unique<UserInterface>(deepWork, applications, health, *localization);
+        userInterface = std::make_unique<UserInterface>(std::make_unique<InterfaceEngine>(), deepWork,
+                                                        applications, health, *localization);
         loaded = userInterface->load();
     }
 
@@ -31,10 +33,11 @@ struct UiRig {
         focus.catalog.install({.bundleIdentifier = id, .name = name, .iconName = {}, .declaredCategory = {}});
     }
 
-    /// Shows the window and waits until it is there and has the keyboard.
+    /// Shows the window and waits until all of it is there and it has the keyboard.
     void show() {
         userInterface->showWindow();
         QVERIFY(QTest::qWaitForWindowActive(window()));
+        QTRY_COMPARE(window()->property("stage").toInt(), 2);
     }
     [[nodiscard]] QQuickWindow* window() const { return userInterface->window(); }
     [[nodiscard]] QQuickItem* item(const char* name) const {

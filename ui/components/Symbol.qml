@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Window
 import NorvinFocus.Ui
 
 /// One of the program's own symbols, by name, in one colour.

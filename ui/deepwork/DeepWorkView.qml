@@ -12,6 +12,9 @@ FocusScope {
     required property DeepWorkScreen screen
     /// Whether anybody can see the screen.
     required property bool live
+    /// Whether the tasks are wanted already: they are left out of the first picture, which is there sooner so.
+    required property bool furnished
+    readonly property KeyboardScope tasks: tasksLoader.item as KeyboardScope
     readonly property bool isIdle: root.screen.state === "idle"
     readonly property bool isCompleted: root.screen.state === "completed"
     readonly property bool measures: !root.isIdle && !root.isCompleted && root.screen.phase === "work"
@@ -20,8 +23,8 @@ FocusScope {
     function focusStart(): void {
         if (completed.item)
             (completed.item as Item).forceActiveFocus(Qt.TabFocusReason);
-        else if (root.isIdle && tasks.isEmpty)
-            tasks.focusField();
+        else if (root.isIdle && root.tasks?.wantsKeyboard)
+            root.tasks.keyboardGiven();
         else
             controls.focusPrimary();
     }
@@ -56,6 +59,10 @@ FocusScope {
             return root.isIdle ? qsTrId("active_task_none_idle") : "";
         return root.isIdle ? qsTrId("active_task_next").arg(root.screen.activeTaskTitle) : root.screen.activeTaskTitle;
     }
+
+    onFurnishedChanged: tasksLoader.setSource("TaskPanel.qml", {
+        screen: root.screen
+    })
 
     Keys.onSpacePressed: {
         if (!root.isCompleted)
@@ -104,7 +111,10 @@ FocusScope {
             id: page
 
             readonly property int margin: Theme.gap8
-            readonly property int ringSize: Math.round(Math.min(Math.max(360, page.height * 0.38), Math.max(150, page.height - 2 * page.margin - heading.implicitHeight - lower.implicitHeight - 2 * column.spacing)))
+            readonly property int room: page.height - 2 * page.margin - heading.implicitHeight - lower.implicitHeight - 2 * column.spacing
+            // Before the window has a height, the size that it will most likely get: a font of another one would be
+            // loaded for nothing.
+            readonly property int ringSize: page.height > 0 ? Math.round(Math.min(Math.max(360, page.height * 0.38), Math.max(150, page.room))) : 360
 
             Layout.fillWidth: true
             Layout.fillHeight: true
@@ -229,12 +239,17 @@ FocusScope {
             }
         }
 
-        TaskPanel {
-            id: tasks
-
+        Rectangle {
             Layout.preferredWidth: 344
             Layout.fillHeight: true
-            screen: root.screen
+            color: Theme.sidebar
+
+            Loader {
+                id: tasksLoader
+
+                anchors.fill: parent
+                onLoaded: root.focusStart()
+            }
         }
     }
 }

@@ -5,17 +5,14 @@ import QtQuick.Layouts
 import NorvinFocus.Ui
 
 /// The tasks of the session: the field that adds them and the queue.
-Rectangle {
+KeyboardScope {
     id: root
 
     required property DeepWorkScreen screen
     readonly property bool isEmpty: queue.count === 0
 
-    function focusField(): void {
-        field.forceActiveFocus(Qt.OtherFocusReason);
-    }
-
-    color: Theme.sidebar
+    wantsKeyboard: root.isEmpty
+    onKeyboardGiven: field.forceActiveFocus(Qt.OtherFocusReason)
 
     ColumnLayout {
         anchors.fill: parent

@@ -1,8 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Layouts
-import QtQuick.Window
 import NorvinFocus.Ui
 
 /// The main window.
@@ -13,6 +11,9 @@ Window {
     required property ApplicationListModel applications
     required property TrackingHealthModel health
     property string storeProblem: ""
+    /// What is there: 0 the bare window, 1 what the first picture shows, 2 everything.
+    property int stage: 0
+    readonly property Shell shell: content.item as Shell
     property int page: 0
     readonly property bool live: root.visible && root.visibility !== Window.Minimized && root.visibility !== Window.Hidden
     readonly property bool isPhaseUnderWay: root.deepWork.state === "running" || root.deepWork.state === "paused"
@@ -22,7 +23,7 @@ Window {
     function showPage(number: int): void {
         root.page = number;
         if (number === 0)
-            deepWorkView.focusStart();
+            root.shell?.focusStart();
     }
 
     function askToQuit(): void {
@@ -38,8 +39,6 @@ Window {
     minimumHeight: 820
     title: "Norvin Focus"
     color: Theme.background
-
-    Component.onCompleted: deepWorkView.focusStart()
 
     Shortcut {
         sequences: ["Ctrl+1"]
@@ -62,53 +61,23 @@ Window {
         onActivated: root.askToQuit()
     }
 
-    RowLayout {
+    Deferred {
+        id: content
+
+        active: root.stage > 0
         anchors.fill: parent
-        spacing: 0
 
-        Sidebar {
-            Layout.preferredWidth: 228
-            Layout.fillHeight: true
+        Shell {
+            height: content.height
+            focus: true
+            deepWork: root.deepWork
+            applications: root.applications
+            health: root.health
+            storeProblem: root.storeProblem
             page: root.page
-            problemCount: root.health.problemCount
+            live: root.live
+            furnished: root.stage > 1
             onPageChosen: number => root.showPage(number)
-        }
-
-        ColumnLayout {
-            spacing: 0
-
-            Banner {
-                objectName: "storeBanner"
-                Layout.fillWidth: true
-                Layout.margins: Theme.gap4
-                Layout.bottomMargin: 0
-                visible: root.storeProblem.length > 0
-                text: qsTrId("store_problem_banner").arg(root.storeProblem)
-            }
-
-            StackLayout {
-                currentIndex: root.page
-
-                DeepWorkView {
-                    id: deepWorkView
-
-                    focus: true
-                    screen: root.deepWork
-                    live: root.live && root.page === 0
-                }
-
-                LazyPage {
-                    wanted: root.page === 1
-                    file: "../blocklists/BlockListsView.qml"
-                    model: root.applications
-                }
-
-                LazyPage {
-                    wanted: root.page === 2
-                    file: "../health/HealthView.qml"
-                    model: root.health
-                }
-            }
         }
     }
 

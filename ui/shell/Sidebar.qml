@@ -10,6 +10,8 @@ Rectangle {
 
     required property int page
     required property int problemCount
+    /// Whether what the first picture does without is wanted.
+    required property bool furnished
 
     signal pageChosen(int number)
 
@@ -62,7 +64,7 @@ Rectangle {
             text: qsTrId("sidebar_health")
             keys: "Ctrl+3"
             isCurrent: root.page === 2
-            badge: root.problemCount
+            badge: root.furnished ? root.problemCount : 0
             badgeName: root.problemCount > 0 ? qsTrId("health_problems", root.problemCount) : ""
             onClicked: root.pageChosen(2)
         }
@@ -71,14 +73,25 @@ Rectangle {
             Layout.fillHeight: true
         }
 
-        SegmentedChoice {
-            objectName: "languageChoice"
+        Deferred {
+            Layout.fillWidth: true
             Layout.leftMargin: Theme.gap1
-            name: qsTrId("language_label")
-            values: Localization.languages
-            labels: Localization.languageNames
-            value: Localization.language
-            onChosen: value => Localization.language = value
+            active: root.furnished
+
+            Item {
+                implicitHeight: language.implicitHeight
+
+                SegmentedChoice {
+                    id: language
+
+                    objectName: "languageChoice"
+                    name: qsTrId("language_label")
+                    values: Localization.languages
+                    labels: Localization.languageNames
+                    value: Localization.language
+                    onChosen: value => Localization.language = value
+                }
+            }
         }
     }
 }

@@ -1,0 +1,59 @@
+#include "ui/InterfaceEngine.h"
+
+#include "platform/Log.h"
+#include "ui/ForeignTypes.h"
+#include "ui/ImageProviders.h"
+
+#include <QFontDatabase>
+#include <QQmlComponent>
+#include <QThreadPool>
+#include <QUrl>
+
+// The module is linked in, not loaded from a plugin, so its types are registered by hand.
+extern void qml_register_types_NorvinFocus_Ui();
+
+namespace norvin {
+
+InterfaceEngine::InterfaceEngine() {
+    // The first text that is laid out waits for the list of the machine's fonts, which is long in the making.
+    QThreadPool::globalInstance()->start([] { static_cast<void>(QFontDatabase::families()); });
+    qml_register_types_NorvinFocus_Ui();
+    m_engine.addImportPath(QStringLiteral("qrc:/"));
+    m_engine.addImageProvider(QStringLiteral("appicon"), new AppIconProvider);
+    m_engine.addImageProvider(QStringLiteral("symbol"), new SymbolProvider);
+    compileMeanwhile("shell/Main.qml");
+}
+
+InterfaceEngine::~InterfaceEngine() = default;
+
+void InterfaceEngine::setSingletons(Localization& localization, MotionPreference& motion) {
+    m_engine.setProperty(qml::LocalizationType::engineProperty, QVariant::fromValue(&localization));
+    m_engine.setProperty(qml::MotionPreferenceType::engineProperty, QVariant::fromValue(&motion));
+}
+
+void InterfaceEngine::compileMeanwhile(const char* file) {
+    m_compiling = std::make_unique<QQmlComponent>(
+        &m_engine, QUrl(QStringLiteral("qrc:/NorvinFocus/Ui/") + QLatin1String(file)),
+        QQmlComponent::Asynchronous);
+}
+
+void InterfaceEngine::finishCompiling() {
+    if (m_window)
+        return;
+    // Another component of the same file, wanted at once, waits for what the first one began.
+    m_window = std::make_unique<QQmlComponent>(&m_engine, m_compiling->url());
+    compileMeanwhile("deepwork/TaskPanel.qml");
+}
+
+std::unique_ptr<QObject> InterfaceEngine::createWindow(const QVariantMap& properties) {
+    finishCompiling();
+    std::unique_ptr<QObject> object;
+    if (m_window->isReady())
+        object.reset(m_window->createWithInitialProperties(properties));
+    if (!object)
+        logLine(
+            QStringLiteral("InterfaceEngine: The window cannot be built: %1").arg(m_window->errorString()));
+    return object;
+}
+
+} // namespace norvin

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QtQml/QQmlEngine>
+
+#include <memory>
+
+class QQmlComponent;
+
+namespace norvin {
+
+class Localization;
+class MotionPreference;
+
+/// Compiles the window's QML, which takes longer than anything else at the start: it begins when this is
+/// made, on a thread of its own, so that whatever the window is to show can be put together meanwhile. Needs
+/// a QGuiApplication. Main thread only.
+class InterfaceEngine final {
+public:
+    InterfaceEngine();
+    InterfaceEngine(const InterfaceEngine&) = delete;
+    InterfaceEngine& operator=(const InterfaceEngine&) = delete;
+    ~InterfaceEngine();
+
+    /// What the QML singletons of these names are. Both must outlive the engine.
+    void setSingletons(Localization& localization, MotionPreference& motion);
+    /// Waits until the main window is compiled, and lets what follows its first picture be compiled next.
+    void finishCompiling();
+    /// Makes the main window with these properties, hidden.
+    /// @return null where it cannot be made; the reason is logged
+    [[nodiscard]] std::unique_ptr<QObject> createWindow(const QVariantMap& properties);
+    /// Evaluates all texts anew, after the language changed.
+    void retranslate() { m_engine.retranslate(); }
+
+private:
+    void compileMeanwhile(const char* file);
+
+    QQmlEngine m_engine;
+    std::unique_ptr<QQmlComponent> m_compiling;
+    std::unique_ptr<QQmlComponent> m_window;
+};
+
+} // namespace norvin

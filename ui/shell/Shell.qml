@@ -1,0 +1,81 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import NorvinFocus.Ui
+
+/// What fills the main window: the way between the pages, and the page.
+FocusScope {
+    id: root
+
+    required property DeepWorkScreen deepWork
+    required property ApplicationListModel applications
+    required property TrackingHealthModel health
+    /// Empty while the store is well.
+    required property string storeProblem
+    required property int page
+    /// Whether anybody can see the window.
+    required property bool live
+    /// Whether what the first picture does without is wanted.
+    required property bool furnished
+
+    signal pageChosen(int number)
+
+    function focusStart(): void {
+        deepWorkView.focusStart();
+    }
+
+    Component.onCompleted: root.focusStart()
+
+    RowLayout {
+        anchors.fill: parent
+        spacing: 0
+
+        Sidebar {
+            Layout.preferredWidth: 228
+            Layout.fillHeight: true
+            page: root.page
+            problemCount: root.health.problemCount
+            furnished: root.furnished
+            onPageChosen: number => root.pageChosen(number)
+        }
+
+        ColumnLayout {
+            spacing: 0
+
+            Banner {
+                objectName: "storeBanner"
+                Layout.fillWidth: true
+                Layout.margins: Theme.gap4
+                Layout.bottomMargin: 0
+                visible: root.storeProblem.length > 0
+                text: qsTrId("store_problem_banner").arg(root.storeProblem)
+            }
+
+            StackLayout {
+                currentIndex: root.page
+
+                DeepWorkView {
+                    id: deepWorkView
+
+                    focus: true
+                    screen: root.deepWork
+                    live: root.live && root.page === 0
+                    furnished: root.furnished
+                }
+
+                LazyPage {
+                    wanted: root.page === 1
+                    file: "../blocklists/BlockListsView.qml"
+                    model: root.applications
+                }
+
+                LazyPage {
+                    wanted: root.page === 2
+                    file: "../health/HealthView.qml"
+                    model: root.health
+                }
+            }
+        }
+    }
+}
