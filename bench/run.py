@@ -69,15 +69,15 @@ def first_frame(command, environment):
     raise SystemExit(f"{command} showed no frame")
 
 
-def measure_start(desktop, program, empty_window):
-    own, empty = [], []
+def measure_start(desktop, program, minimal_window):
+    own, minimal = [], []
     for pair in range(START_PAIRS + 1):
         a = first_frame([program, "--measure-first-frame"], desktop.environment)
-        b = first_frame([empty_window], desktop.environment)
+        b = first_frame([minimal_window], desktop.environment)
         if pair > 0:  # the first pair warms the caches
             own.append(a)
-            empty.append(b)
-    return statistics.median(own), statistics.median(empty)
+            minimal.append(b)
+    return statistics.median(own), statistics.median(minimal)
 
 
 def usage_of(pid):
@@ -149,8 +149,8 @@ def main():
         for name in ("empty store", "ten years"):
             if name == "ten years":
                 fill_store(app.store_file)
-            own, empty = measure_start(desktop, program, str(build / "bin" / "bench_empty_window"))
-            rows.append((f"start to first frame / that of an empty Qt Quick window, {name}", f"{own / empty:.2f}",
+            own, minimal = measure_start(desktop, program, str(build / "bin" / "bench_minimal_window"))
+            rows.append((f"start to first frame / that of a minimal Qt Quick window, {name}", f"{own / minimal:.2f}",
                          f"{own * 1000:.0f} / {empty * 1000:.0f} ms", "2"))
         budgets = {"idle": ("–", "0.1", "60"), "open": ("0.2", "6", "60"), "hidden": ("0.05", "2", "60"),
                    "idle, hidden": ("–", "0.1", "60")}
