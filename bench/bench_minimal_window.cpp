@@ -1,5 +1,5 @@
-// Shows a Qt Quick window with nothing in it but a time, as little as any timer shows, says when its first frame is
-// on the screen, and ends.
+// Shows a Qt Quick window with nothing in it but a time, as little as any timer shows, says when its first
+// frame is on the screen, and ends.
 
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>

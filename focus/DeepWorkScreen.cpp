@@ -41,6 +41,7 @@ DeepWorkScreen::DeepWorkScreen(PomodoroTimerService& timer, AppUsageService& usa
     using Timer = PomodoroTimerService;
     connect(&m_timer, &Timer::stateChanged, this, [this] {
         refreshMetrics();
+        Q_EMIT countersChanged();
         Q_EMIT stateChanged();
         Q_EMIT timeChanged();
         Q_EMIT activeTaskChanged();
@@ -52,7 +53,10 @@ DeepWorkScreen::DeepWorkScreen(PomodoroTimerService& timer, AppUsageService& usa
         Q_EMIT selectedDurationChanged();
         Q_EMIT timeChanged();
     });
-    connect(&m_timer, &Timer::countersChanged, this, &DeepWorkScreen::refreshMetrics);
+    connect(&m_timer, &Timer::countersChanged, this, [this] {
+        refreshMetrics();
+        Q_EMIT countersChanged();
+    });
     connect(&m_timer, &Timer::activeTaskChanged, this, &DeepWorkScreen::activeTaskChanged);
     connect(&m_timer, &Timer::taskQueueChanged, this, &DeepWorkScreen::activeTaskChanged);
     connect(&m_timer, &Timer::accumulatedInactivitySecondsChanged, this, &DeepWorkScreen::inactivityChanged);

@@ -49,17 +49,17 @@ class DeepWorkScreen final : public QObject {
     Q_PROPERTY(double score READ score NOTIFY metricsChanged)
     Q_PROPERTY(double scoreRatio READ scoreRatio NOTIFY metricsChanged)
     Q_PROPERTY(double scoreRatioPoints READ scoreRatioPoints NOTIFY metricsChanged)
-    Q_PROPERTY(double scoreInterruptionPenalty READ scoreInterruptionPenalty NOTIFY metricsChanged)
-    Q_PROPERTY(double scoreBlockedAttemptsPenalty READ scoreBlockedAttemptsPenalty NOTIFY metricsChanged)
+    Q_PROPERTY(double scoreInterruptionPenalty READ scoreInterruptionPenalty NOTIFY countersChanged)
+    Q_PROPERTY(double scoreBlockedAttemptsPenalty READ scoreBlockedAttemptsPenalty NOTIFY countersChanged)
     Q_PROPERTY(
-        double scoreBlockedSiteAttemptsPenalty READ scoreBlockedSiteAttemptsPenalty NOTIFY metricsChanged)
-    Q_PROPERTY(double scoreCompletedTasksBonus READ scoreCompletedTasksBonus NOTIFY metricsChanged)
-    Q_PROPERTY(double scoreCompletedSubtasksBonus READ scoreCompletedSubtasksBonus NOTIFY metricsChanged)
-    Q_PROPERTY(int interruptionCount READ interruptionCount NOTIFY metricsChanged)
-    Q_PROPERTY(int blockedAttemptsCount READ blockedAttemptsCount NOTIFY metricsChanged)
-    Q_PROPERTY(int blockedSiteAttemptsCount READ blockedSiteAttemptsCount NOTIFY metricsChanged)
-    Q_PROPERTY(int completedTasksCount READ completedTasksCount NOTIFY metricsChanged)
-    Q_PROPERTY(int completedSubtasksCount READ completedSubtasksCount NOTIFY metricsChanged)
+        double scoreBlockedSiteAttemptsPenalty READ scoreBlockedSiteAttemptsPenalty NOTIFY countersChanged)
+    Q_PROPERTY(double scoreCompletedTasksBonus READ scoreCompletedTasksBonus NOTIFY countersChanged)
+    Q_PROPERTY(double scoreCompletedSubtasksBonus READ scoreCompletedSubtasksBonus NOTIFY countersChanged)
+    Q_PROPERTY(int interruptionCount READ interruptionCount NOTIFY countersChanged)
+    Q_PROPERTY(int blockedAttemptsCount READ blockedAttemptsCount NOTIFY countersChanged)
+    Q_PROPERTY(int blockedSiteAttemptsCount READ blockedSiteAttemptsCount NOTIFY countersChanged)
+    Q_PROPERTY(int completedTasksCount READ completedTasksCount NOTIFY countersChanged)
+    Q_PROPERTY(int completedSubtasksCount READ completedSubtasksCount NOTIFY countersChanged)
 
     /// Whether keyboard and pointer have been untouched for too long.
     Q_PROPERTY(bool isInactive READ isInactive NOTIFY inactivityChanged)
@@ -163,7 +163,10 @@ Q_SIGNALS:
     void timeChanged();
     void selectedDurationChanged();
     void activityChanged();
+    /// What may change with every second.
     void metricsChanged();
+    /// What changes only when something happens.
+    void countersChanged();
     void inactivityChanged();
     void activeTaskChanged();
 

@@ -2,13 +2,18 @@
 
 #include <QColor>
 #include <QQmlEngine>
-#include <QQuickPaintedItem>
+#include <QQuickItem>
+
+#include <vector>
+
+class QPainter;
 
 namespace norvin {
 
 /// A ring, part of it in a colour. Painted here because a Shape of Qt Quick takes two frames for each change,
-/// and this changes every second. (Not final: QML derives from what it makes.)
-class RingItem : public QQuickPaintedItem {
+/// and this changes every second; in tiles, because what lies in front of what changed is drawn anew too, and
+/// that is the large digits inside the ring. (Not final: QML derives from what it makes.)
+class RingItem : public QQuickItem {
     Q_OBJECT
     QML_NAMED_ELEMENT(Ring)
     /// Share of the ring that is in the colour, 0 to 1, from the top anticlockwise.
@@ -20,26 +25,40 @@ class RingItem : public QQuickPaintedItem {
 public:
     explicit RingItem(QQuickItem* parent = nullptr);
 
-    void setShare(double share) { change(m_share, share); }
+    void setShare(double share);
     void setColor(const QColor& color) { change(m_color, color); }
     void setTrackColor(const QColor& color) { change(m_trackColor, color); }
     void setThickness(double thickness) { change(m_thickness, thickness); }
 
-    void paint(QPainter* painter) override;
+    /// Paints what of the ring lies in an area, in the coordinates of this item; more may be painted around
+    /// it.
+    void paint(QPainter& painter, const QRectF& area) const;
 
 Q_SIGNALS:
     void changed();
 
+protected:
+    void geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) override;
+
 private:
+    class Tile;
+
     template <typename T>
     void change(T& member, const T& value) {
         if (member == value)
             return;
         member = value;
-        update();
+        updateTiles(boundingRect());
         Q_EMIT changed();
     }
+    void layOutTiles();
+    void updateTiles(const QRectF& area);
+    /// Where the ring runs, along its middle.
+    [[nodiscard]] QRectF circle() const;
+    /// Everything that the end of the coloured part covers at a share.
+    [[nodiscard]] QRectF endOf(double share) const;
 
+    std::vector<Tile*> m_tiles;
     double m_share = 0;
     double m_thickness = 8;
     QColor m_color;
