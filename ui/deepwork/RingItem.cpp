@@ -74,8 +74,9 @@ void RingItem::layOutTiles() {
     const double side = std::ceil(std::max(width(), height()) / tilesASide / tileUnit) * tileUnit;
     int place = 0;
     for (Tile* tile : m_tiles) {
-        const QRectF cell(place % tilesASide * side, place / tilesASide * side, side, side);
-        const QRectF part = cell & boundingRect();
+        const int row = place / tilesASide;
+        const int column = place % tilesASide;
+        const QRectF part = QRectF(column * side, row * side, side, side) & boundingRect();
         tile->setPosition(part.topLeft());
         tile->setSize(part.size());
         ++place;
