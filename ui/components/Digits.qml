@@ -11,9 +11,6 @@ Item {
     property int pixelSize: Theme.headline
     property int weight: Font.DemiBold
     property color color: Theme.text
-    /// Glyphs this large are drawn from their outlines each time, and fitting those to the pixels takes long and
-    /// changes nothing that can be seen.
-    readonly property int hinting: root.pixelSize < 48 ? Font.PreferDefaultHinting : Font.PreferNoHinting
     readonly property real cellWidth: Math.ceil(metrics.advanceWidth)
 
     implicitWidth: row.implicitWidth
@@ -27,7 +24,6 @@ Item {
         text: "0"
         font.pixelSize: root.pixelSize
         font.weight: root.weight
-        font.hintingPreference: root.hinting
     }
 
     Row {
@@ -49,7 +45,6 @@ Item {
                 color: root.color
                 font.pixelSize: root.pixelSize
                 font.weight: root.weight
-                font.hintingPreference: root.hinting
                 Accessible.ignored: true
             }
         }

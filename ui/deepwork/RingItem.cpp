@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
-#include <utility>
 
 namespace norvin {
 
@@ -57,10 +56,16 @@ RingItem::RingItem(QQuickItem* parent)
 void RingItem::setShare(double share) {
     if (share == m_share)
         return;
-    const double before = std::exchange(m_share, share);
-    // The arc between two ends this close lies within the rectangle of both.
-    constexpr double close = 0.01;
-    updateTiles(std::abs(share - before) < close ? endOf(before) | endOf(share) : boundingRect());
+    m_share = share;
+    const double moved = std::abs(share - m_paintedShare);
+    // A step of less than a pixel would be painted for nobody, except the one that closes or empties the
+    // ring.
+    if (moved * turn * circle().width() / 2 >= 1 || share <= 0 || share >= 1) {
+        // The arc between two ends this close lies within the rectangle of both.
+        constexpr double close = 0.01;
+        updateTiles(moved < close ? endOf(m_paintedShare) | endOf(share) : boundingRect());
+        m_paintedShare = share;
+    }
     Q_EMIT changed();
 }
 
@@ -139,7 +144,7 @@ void RingItem::paint(QPainter& painter, const QRectF& area) const {
     painter.setPen(QPen(m_trackColor, m_thickness, Qt::SolidLine, Qt::FlatCap));
     drawArc(painter, ring, from, to);
     painter.setPen(QPen(m_color, m_thickness, Qt::SolidLine, Qt::RoundCap));
-    const double length = turn * std::clamp(m_share, 0.0, 1.0);
+    const double length = turn * std::clamp(m_paintedShare, 0.0, 1.0);
     for (const double shift : {-turn, 0.0, turn})
         drawArc(painter, ring, std::max(from, shift), std::min(to, shift + length));
 }

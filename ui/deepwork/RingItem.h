@@ -60,6 +60,8 @@ private:
 
     std::vector<Tile*> m_tiles;
     double m_share = 0;
+    /// The share that the tiles show; less than a pixel away from the other.
+    double m_paintedShare = 0;
     double m_thickness = 8;
     QColor m_color;
     QColor m_trackColor;
