@@ -215,8 +215,11 @@ void PlanningGraph::loadTasks(StoreConnection& connection) {
                                    .phase = nullptr});
         addLoaded(m_tasks, task);
         // Texts and numbers that mean nothing to us stay as they are.
-        if (QString status = rows.text(3); status != task->m_statusValue)
-            task->m_statusValue = status == done ? done : std::move(status);
+        const QString status = rows.text(3);
+        if (status == done)
+            task->m_statusValue = done;
+        else if (status != task->m_statusValue)
+            task->m_statusValue = status;
         task->m_priorityValue = rows.number(4);
         task->m_dueDate = rows.instant(5);
         task->m_createdAt = rows.instant(6);
