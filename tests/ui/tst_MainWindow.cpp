@@ -30,6 +30,7 @@ private Q_SLOTS:
     void quittingDuringASessionIsConfirmed();
     void theApplicationCanQuitDuringASession();
     void aHiddenWindowTakesNoNotice();
+    void aNumberThatGrowsStaysInItsPlace();
     void theLanguageChangesEverything();
     void aProblemOfTheStoreIsShown();
 
@@ -285,6 +286,17 @@ void MainWindowTest::aHiddenWindowTakesNoNotice() {
     QCOMPARE(redrawn.count(), 0);
     rig->show();
     QTRY_COMPARE(countdown->property("timeText").toString(), QStringLiteral("24:52"));
+}
+
+void MainWindowTest::aNumberThatGrowsStaysInItsPlace() {
+    rig->deepWork.setSelectedDuration(100); // "100:00", then "99:57"
+    rig->deepWork.start();
+    const auto corner = [this] { return rig->window()->grabWindow().copy(0, 0, 60, 24); };
+    const QImage before = corner();
+    rig->focus.pass(std::chrono::seconds(3));
+    QCOMPARE(corner(), before);
+    rig->deepWork.stop();
+    QCOMPARE(corner(), before);
 }
 
 void MainWindowTest::theLanguageChangesEverything() {
