@@ -47,6 +47,14 @@
         <source></source>
         <translation>Activity is no longer measured</translation>
     </message>
+    <message id="alert_non_legitimate_site">
+        <source></source>
+        <translation>This site is not part of your session</translation>
+    </message>
+    <message id="alert_stay_focused">
+        <source></source>
+        <translation>Stay focused</translation>
+    </message>
     <message id="another_work_button">
         <source></source>
         <translation>Another work phase</translation>

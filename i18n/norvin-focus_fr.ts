@@ -47,6 +47,14 @@
         <source></source>
         <translation>L’activité n’est plus mesurée</translation>
     </message>
+    <message id="alert_non_legitimate_site">
+        <source></source>
+        <translation>Ce site ne fait pas partie de votre session</translation>
+    </message>
+    <message id="alert_stay_focused">
+        <source></source>
+        <translation>Gardez le cap</translation>
+    </message>
     <message id="another_work_button">
         <source></source>
         <translation>Nouvelle phase</translation>
