@@ -54,6 +54,7 @@ QList<TrackingHealthModel::Check> platformHealthChecks(LinuxPlatform& platform) 
         {QStringLiteral("health_hiding"), [&platform] { return platform.workspace().availability(); }},
         {QStringLiteral("health_idle_time"), [&platform] { return platform.idleTime().availability(); }},
         {QStringLiteral("health_sleep"), [&platform] { return platform.sleepMonitor().availability(); }},
+        {QStringLiteral("health_browser_alert"), [&platform] { return platform.overlays().availability(); }},
         {QStringLiteral("health_notifications"),
          [&platform] { return platform.notifications().availability(); }},
         {QStringLiteral("health_sounds"), [&platform] { return platform.sounds().availability(); }},

@@ -213,6 +213,10 @@
         <source></source>
         <translation>Everything works.</translation>
     </message>
+    <message id="health_browser_alert">
+        <source></source>
+        <translation>Alert over blocked sites</translation>
+    </message>
     <message id="health_browser_pages">
         <source></source>
         <translation>Telling the pages in browsers apart</translation>
@@ -385,6 +389,14 @@
         <translation>This Wayland desktop does not say how long keyboard and pointer have been still.</translation>
     </message>
     <message id="health_wayland_idle_remedy">
+        <source></source>
+        <translation>Choose the X11 (Xorg) variant of your desktop on the login screen.</translation>
+    </message>
+    <message id="health_wayland_overlay">
+        <source></source>
+        <translation>This Wayland desktop lets no window lie over all others, so a notification takes the alert’s place.</translation>
+    </message>
+    <message id="health_wayland_overlay_remedy">
         <source></source>
         <translation>Choose the X11 (Xorg) variant of your desktop on the login screen.</translation>
     </message>

@@ -213,6 +213,10 @@
         <source></source>
         <translation>Tout fonctionne.</translation>
     </message>
+    <message id="health_browser_alert">
+        <source></source>
+        <translation>Alerte devant les sites bloqués</translation>
+    </message>
     <message id="health_browser_pages">
         <source></source>
         <translation>Distinguer les pages dans les navigateurs</translation>
@@ -385,6 +389,14 @@
         <translation>Ce bureau Wayland n’indique pas depuis quand le clavier et le pointeur sont immobiles.</translation>
     </message>
     <message id="health_wayland_idle_remedy">
+        <source></source>
+        <translation>Choisissez la variante X11 (Xorg) de votre bureau sur l’écran de connexion.</translation>
+    </message>
+    <message id="health_wayland_overlay">
+        <source></source>
+        <translation>Ce bureau Wayland ne laisse aucune fenêtre se placer devant toutes les autres. Une notification remplace donc l’alerte.</translation>
+    </message>
+    <message id="health_wayland_overlay_remedy">
         <source></source>
         <translation>Choisissez la variante X11 (Xorg) de votre bureau sur l’écran de connexion.</translation>
     </message>

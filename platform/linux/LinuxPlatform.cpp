@@ -1,6 +1,7 @@
 #include "platform/linux/LinuxPlatform.h"
 
 #include "platform/linux/NullIdleTimeSource.h"
+#include "platform/linux/NullOverlaySupport.h"
 #include "platform/linux/NullWorkspace.h"
 #include "platform/linux/SessionBus.h"
 #include "platform/linux/atspi/AtspiTrust.h"
@@ -13,6 +14,7 @@
 #include "platform/linux/login1/Login1SleepMonitor.h"
 #include "platform/linux/settings/IniPreferences.h"
 #include "platform/linux/x11/X11IdleTimeSource.h"
+#include "platform/linux/x11/X11OverlaySupport.h"
 #include "platform/linux/x11/X11Workspace.h"
 #include "platform/linux/x11/XcbSupport.h"
 
@@ -70,6 +72,7 @@ struct LinuxPlatform::Parts {
     std::unique_ptr<Workspace> workspace;
     std::unique_ptr<xcb_connection_t, void (*)(xcb_connection_t*)> idleConnection{nullptr, &xcb_disconnect};
     std::unique_ptr<IdleTimeSource> idleTime;
+    std::unique_ptr<OverlaySupport> overlays;
     std::unique_ptr<ClockTimer> soundProbe;
 
     Parts() {
@@ -82,6 +85,7 @@ struct LinuxPlatform::Parts {
             // asker.
             idleConnection.reset(xcb_connect(nullptr, nullptr));
             idleTime = std::make_unique<X11IdleTimeSource>(idleConnection.get());
+            overlays = std::make_unique<X11OverlaySupport>(display.connection);
             return;
         }
         const bool wayland = display.kind == Display::Wayland;
@@ -92,6 +96,9 @@ struct LinuxPlatform::Parts {
             sleepMonitor);
         idleTime = std::make_unique<NullIdleTimeSource>(Availability::unavailable(
             wayland ? QStringLiteral("health_wayland_idle") : QStringLiteral("health_no_display"),
+            QGuiApplication::platformName()));
+        overlays = std::make_unique<NullOverlaySupport>(Availability::unavailable(
+            wayland ? QStringLiteral("health_wayland_overlay") : QStringLiteral("health_no_display"),
             QGuiApplication::platformName()));
     }
 };
@@ -127,6 +134,10 @@ Workspace& LinuxPlatform::workspace() const {
 
 IdleTimeSource& LinuxPlatform::idleTime() const {
     return *m_parts->idleTime;
+}
+
+OverlaySupport& LinuxPlatform::overlays() const {
+    return *m_parts->overlays;
 }
 
 UserNotifications& LinuxPlatform::notifications() const {

@@ -4,6 +4,7 @@
 #include "platform/ApplicationCatalog.h"
 #include "platform/Clock.h"
 #include "platform/IdleTimeSource.h"
+#include "platform/OverlaySupport.h"
 #include "platform/Preferences.h"
 #include "platform/SleepMonitor.h"
 #include "platform/SystemSounds.h"
@@ -21,6 +22,7 @@ namespace norvin {
 /// |---|---|
 /// | Workspace | X11 window manager; else none, with "health_wayland_workspace" or "health_no_display" |
 /// | IdleTimeSource | X server; else none, with "health_wayland_idle" or "health_no_display" |
+/// | OverlaySupport | X server; else none, with "health_wayland_overlay" or "health_no_display" |
 class LinuxPlatform final {
 public:
     LinuxPlatform();
@@ -35,6 +37,7 @@ public:
     [[nodiscard]] SleepMonitor& sleepMonitor() const;
     [[nodiscard]] Workspace& workspace() const;
     [[nodiscard]] IdleTimeSource& idleTime() const;
+    [[nodiscard]] OverlaySupport& overlays() const;
     [[nodiscard]] UserNotifications& notifications() const;
     [[nodiscard]] SystemSounds& sounds() const;
 
