@@ -1,0 +1,91 @@
+#pragma once
+
+#include "platform/AudioOutput.h"
+#include "platform/linux/pulse/PulseEventLoop.h"
+
+#include <deque>
+#include <memory>
+#include <optional>
+
+struct pa_context;
+struct pa_operation;
+struct pa_stream;
+
+namespace norvin {
+
+class Clock;
+
+/// A stream to PulseAudio, or to PipeWire in its place, over libpulse's asynchronous interface. Connects when
+/// there is something to play, never starts a server, and holds its stream while it has nothing to play, so
+/// that the output can rest. A server that is gone is tried again, at most every few seconds, by what is
+/// queued next; one that does not answer is waited for, and what was to be played meanwhile is dropped.
+///
+/// Unavailable with "health_no_sound_server", with "health_sound_server_silent" where there is a server that
+/// does not answer, or with "health_no_sound_device" where it has no output, until a connection succeeds.
+class PulseAudioOutput final : public AudioOutput {
+    Q_OBJECT
+public:
+    /// @param clock must outlive this
+    /// @param sampleRate frames a second
+    PulseAudioOutput(Clock& clock, int sampleRate, QObject* parent = nullptr);
+    ~PulseAudioOutput() override;
+
+    [[nodiscard]] Availability availability() const override { return m_availability; }
+    [[nodiscard]] int sampleRate() const override { return m_sampleRate; }
+    void queue(std::vector<float> samples) override;
+
+    /// Whether a server answers, found out in the background without a stream.
+    void probe();
+
+private:
+    using Time = std::chrono::milliseconds; // of the clock's monotonic()
+
+    // What the server was asked last and has not answered yet; at rest disconnected, or held between sounds.
+    enum class State { disconnected, connecting, held, releasing, playing, holding };
+
+    struct Waiting {
+        std::vector<float> samples;
+        Time latestStart;
+    };
+    struct Disconnect {
+        void operator()(pa_context* context) const;
+        void operator()(pa_stream* stream) const;
+    };
+
+    static void streamAnswered(pa_stream* stream, int success, void* userdata);
+
+    void connectToServer();
+    void contextChanged();
+    void openStream();
+    void streamChanged();
+    void advance();
+    void write();
+    void setHeld(bool held);
+    void drain();
+    void ask(pa_operation* operation);
+    void answered();
+    void noticeSilence();
+    void fail(int error);
+    void setAvailability(const Availability& availability);
+
+    Clock& m_clock;
+    int m_sampleRate;
+    PulseEventLoop m_loop;
+    std::unique_ptr<pa_context, Disconnect> m_context;
+    std::unique_ptr<pa_stream, Disconnect> m_stream;
+    State m_state = State::disconnected;
+    bool m_isProbing = false;
+    std::deque<Waiting> m_waiting;
+    // When all that was written will have been heard, if the server does its work.
+    Time m_soundEnd{0};
+    // Whether the server was asked to say when that is so, and whether something was written since.
+    bool m_isDraining = false;
+    bool m_hasUndrained = false;
+    // When the server should have answered what it was asked last.
+    Time m_answerDue{0};
+    Time m_retryAt{0};
+    Time m_backOff{0};
+    Availability m_availability = Availability::available();
+};
+
+} // namespace norvin
