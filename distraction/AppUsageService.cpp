@@ -1,7 +1,9 @@
 #include "distraction/AppUsageService.h"
 
 #include "distraction/AppBlockerService.h"
+#include "distraction/BrowserAlertService.h"
 #include "distraction/KnownBrowsers.h"
+#include "distraction/ScriptableBrowser.h"
 #include "distraction/UsageCategory.h"
 #include "model/ModelContext.h"
 #include "platform/ApplicationCatalog.h"
@@ -11,6 +13,8 @@
 namespace norvin {
 
 namespace {
+
+constexpr std::chrono::milliseconds pollInterval{1000};
 
 bool isOwn(const RunningApplication& app) {
     return app.bundleIdentifier == QLatin1String(ownBundleIdentifier);
@@ -27,11 +31,13 @@ QString nameOrUnknown(const RunningApplication& app) {
 } // namespace
 
 AppUsageService::AppUsageService(Clock& clock, Workspace& workspace, AppBlockerService& blocker,
-                                 QObject* parent)
+                                 const BrowserDomainProbe& probe, BrowserAlertService& alert, QObject* parent)
     : QObject(parent)
     , m_clock(clock)
     , m_workspace(workspace)
-    , m_blocker(blocker) {
+    , m_blocker(blocker)
+    , m_probe(probe)
+    , m_alert(alert) {
     connect(&m_workspace, &Workspace::applicationActivated, this, &AppUsageService::handleSwitch);
     connect(&m_workspace, &Workspace::frontmostApplicationLost, this, &AppUsageService::handleFrontmostLost);
     connect(&m_workspace, &Workspace::willSleep, this, &AppUsageService::closeCurrentSession);
@@ -47,6 +53,7 @@ void AppUsageService::startTracking() {
     logLine(QStringLiteral("AppUsageService: Starting tracking for Deep Work session"));
     // What is still open belongs to the session before.
     closeBrowserDomainSession();
+    stopBrowserURLPolling();
     closeCurrentSession();
     forgetIntervals();
     m_sessionLegitimateTime = 0;
@@ -64,6 +71,8 @@ void AppUsageService::stopTracking() {
     logLine(QStringLiteral("AppUsageService: Stopping tracking"));
     closeBrowserDomainSession();
     closeCurrentSession();
+    stopBrowserURLPolling();
+    endEnforcement();
     forgetIntervals();
     if (m_isTrackingActive) {
         m_isTrackingActive = false;
@@ -143,13 +152,16 @@ void AppUsageService::handleSwitch(const RunningApplication& app) {
     if (m_currentApp)
         logLine(
             QStringLiteral("Switched from %1 to %2").arg(nameOrUnknown(*m_currentApp), nameOrUnknown(app)));
+    endEnforcement();
+    // The browser's last domain first: closing the application takes off what its domains have counted.
     closeBrowserDomainSession();
+    stopBrowserURLPolling();
     closeCurrentSession();
     forgetIntervals();
     m_currentApp = app;
     m_startTime = currentMoment();
     if (isWhitelistedBrowser(app))
-        startBrowserInterval(app);
+        startBrowserURLPolling(app);
     else
         updateActivityStatus(app, std::nullopt);
 }
@@ -157,7 +169,9 @@ void AppUsageService::handleSwitch(const RunningApplication& app) {
 void AppUsageService::handleFrontmostLost() {
     if (!m_isTrackingActive)
         return;
+    endEnforcement();
     closeBrowserDomainSession();
+    stopBrowserURLPolling();
     closeCurrentSession();
     forgetIntervals();
     setActivityStatus({});
@@ -168,17 +182,104 @@ void AppUsageService::handleWake() {
         handleSwitch(*front);
 }
 
-// An interval counts by the lists at its closing, so only what is shown changes here.
+// An interval counts by the lists at its closing, so only what is shown changes here, and whether the browser
+// in front is looked into.
 void AppUsageService::handleListsChanged() {
+    if (m_isTrackingActive && m_currentApp) {
+        const RunningApplication app = *m_currentApp;
+        const bool isPolled = m_browserURLPollTimer != nullptr;
+        if (isWhitelistedBrowser(app) && !isPolled) {
+            closeBrowserDomainSession();
+            startBrowserURLPolling(app);
+        } else if (!isWhitelistedBrowser(app) && isPolled) {
+            stopBrowserURLPolling();
+            endEnforcement();
+            m_currentBrowserDomain.reset();
+            m_browserDomainStartTime.reset();
+        }
+    }
+    // The first evaluation may have hidden the browser.
     if (m_currentApp)
         updateActivityStatus(*m_currentApp, m_currentBrowserDomain);
     Q_EMIT metricsChanged();
 }
 
-void AppUsageService::startBrowserInterval(const RunningApplication& browser) {
+void AppUsageService::startBrowserURLPolling(const RunningApplication& browser) {
+    logLine(QStringLiteral("AppUsageService: [Browser] polling started for %1 (scriptable: %2)")
+                .arg(browser.bundleIdentifier, scriptableBrowser(browser.bundleIdentifier)
+                                                   ? QStringLiteral("true")
+                                                   : QStringLiteral("false")));
+    m_browserURLPollMoment = currentMoment();
     m_currentBrowserDomain.reset();
-    m_browserDomainStartTime = currentMoment();
-    updateActivityStatus(browser, std::nullopt);
+    m_browserDomainStartTime = m_browserURLPollMoment;
+    // Before the first evaluation, which may hide the browser and end the polling with that.
+    m_browserURLPollTimer = m_clock.every(pollInterval, [this] { pollBrowser(); });
+    evaluateBrowserState(browser, true, m_browserURLPollMoment);
+}
+
+// A poll comes a few milliseconds after it is due, now more, now less. Intervals that begin when it was due
+// are whole seconds long, and lose none when their length is cut to whole seconds.
+void AppUsageService::pollBrowser() {
+    m_browserURLPollMoment = {m_browserURLPollMoment.monotonic + pollInterval, m_clock.now()};
+    if (m_currentApp)
+        evaluateBrowserState(RunningApplication(*m_currentApp), false, m_browserURLPollMoment);
+}
+
+void AppUsageService::stopBrowserURLPolling() {
+    m_browserURLPollTimer.reset();
+}
+
+void AppUsageService::evaluateBrowserState(const RunningApplication& browser, bool isInitial,
+                                           const Moment& moment) {
+    using Kind = BrowserURLReadResult::Kind;
+    const BrowserURLReadResult read = m_probe.readBrowserDomain(browser);
+    if (read.isAccessibilityGranted)
+        setAccessibilityGranted(*read.isAccessibilityGranted);
+    if (read.kind != Kind::unreadable)
+        setAutomationGranted(read.kind != Kind::automationDenied);
+
+    const std::optional<QString> domain =
+        read.kind == Kind::domain ? std::optional<QString>(read.domain) : std::nullopt;
+    if (isInitial || domain != m_currentBrowserDomain) {
+        if (!isInitial)
+            closeBrowserDomainSession();
+        startBrowserInterval(browser, domain, moment);
+    }
+    if (domain && m_blocker.shouldBlockSite(browser.bundleIdentifier, *domain))
+        enforce(browser, *domain);
+    else
+        endEnforcement();
+}
+
+void AppUsageService::startBrowserInterval(const RunningApplication& browser,
+                                           const std::optional<QString>& domain, const Moment& start) {
+    m_currentBrowserDomain = domain;
+    m_browserDomainStartTime = start;
+    updateActivityStatus(browser, domain);
+}
+
+void AppUsageService::enforce(const RunningApplication& browser, const QString& domain) {
+    if (m_lastEnforcedDomain != domain) {
+        m_lastEnforcedDomain = domain;
+        Q_EMIT blockedSiteAttempt(domain);
+    }
+    m_alert.show(domain);
+    if (closeTab(browser, domain))
+        return;
+    m_workspace.hide(browser);
+    m_workspace.activateOwnApplication();
+}
+
+bool AppUsageService::closeTab(const RunningApplication& browser, const QString& domain) {
+    const BrowserDomainProbe::CloseResult result = m_probe.closeActiveTab(browser.bundleIdentifier);
+    if (result.isAutomationDenied)
+        setAutomationGranted(false);
+    return result.isClosed || m_probe.closeUnscriptedTab(browser, domain);
+}
+
+void AppUsageService::endEnforcement() {
+    m_lastEnforcedDomain.reset();
+    m_alert.dismiss();
 }
 
 void AppUsageService::closeBrowserDomainSession() {
@@ -257,6 +358,20 @@ void AppUsageService::updateActivityStatus(const RunningApplication& app,
         const bool legitimate = verdictForApplication(app) == Verdict::legitimate;
         setActivityStatus({legitimate ? Kind::legitimate : Kind::distracted, name, std::nullopt});
     }
+}
+
+void AppUsageService::setAutomationGranted(bool isGranted) {
+    if (isGranted == m_isAutomationGranted)
+        return;
+    m_isAutomationGranted = isGranted;
+    Q_EMIT permissionsChanged();
+}
+
+void AppUsageService::setAccessibilityGranted(bool isGranted) {
+    if (isGranted == m_isAccessibilityGranted)
+        return;
+    m_isAccessibilityGranted = isGranted;
+    Q_EMIT permissionsChanged();
 }
 
 void AppUsageService::setActivityStatus(CurrentActivityStatus status) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "distraction/BrowserDomainProbe.h"
 #include "distraction/CurrentActivityStatus.h"
 #include "platform/SharedInstance.h"
 #include "platform/Workspace.h"
@@ -9,12 +10,15 @@
 #include <QString>
 
 #include <chrono>
+#include <memory>
 #include <optional>
 
 namespace norvin {
 
 class AppBlockerService;
+class BrowserAlertService;
 class Clock;
+class ClockTimer;
 class ModelContext;
 
 /// Seconds of a focus session.
@@ -28,6 +32,10 @@ struct FocusMetrics {
 /// Follows the frontmost application while a focus session runs, counts its seconds as legitimate or
 /// distracted, and records one AppUsageSession per interval of at least a second. Main thread only.
 ///
+/// While a whitelisted browser is in front, it is asked once a second for the domain of the page in front.
+/// Its seconds are counted domain by domain, and a blocked site costs the user its tab; where the tab cannot
+/// be closed, the browser is hidden.
+///
 /// A second is counted once: closing an interval forgets its start, a session takes nothing over from before
 /// its start, and the time that the machine sleeps belongs to nobody.
 class AppUsageService final : public QObject {
@@ -35,9 +43,11 @@ class AppUsageService final : public QObject {
     Q_PROPERTY(int sessionLegitimateTime READ sessionLegitimateTime NOTIFY metricsChanged)
     Q_PROPERTY(int sessionDistractedTime READ sessionDistractedTime NOTIFY metricsChanged)
     Q_PROPERTY(bool isTrackingActive READ isTrackingActive NOTIFY isTrackingActiveChanged)
+    Q_PROPERTY(bool isAutomationGranted READ isAutomationGranted NOTIFY permissionsChanged)
+    Q_PROPERTY(bool isAccessibilityGranted READ isAccessibilityGranted NOTIFY permissionsChanged)
 public:
     AppUsageService(Clock& clock, Workspace& workspace, AppBlockerService& blocker,
-                    QObject* parent = nullptr);
+                    const BrowserDomainProbe& probe, BrowserAlertService& alert, QObject* parent = nullptr);
     ~AppUsageService() override;
 
     /// The process-wide instance, for start-up and the registration of the window's types.
@@ -61,6 +71,11 @@ public:
     [[nodiscard]] bool isTrackingActive() const { return m_isTrackingActive; }
     /// The application whose interval is open; none when there is none.
     [[nodiscard]] const std::optional<RunningApplication>& currentApp() const { return m_currentApp; }
+    /// Whether browsers with scripts let this program ask them, as far as the last one asked has shown; true
+    /// until one has refused.
+    [[nodiscard]] bool isAutomationGranted() const { return m_isAutomationGranted; }
+    /// The same for browsers that are read through their accessible interface.
+    [[nodiscard]] bool isAccessibilityGranted() const { return m_isAccessibilityGranted; }
 
     /// Whether the application in front can be known on this desktop.
     [[nodiscard]] Availability trackingAvailability() const { return m_workspace.availability(); }
@@ -74,6 +89,7 @@ Q_SIGNALS:
     void metricsChanged();
     void currentActivityStatusChanged();
     void isTrackingActiveChanged();
+    void permissionsChanged();
     void trackingAvailabilityChanged();
 
 private:
@@ -96,9 +112,19 @@ private:
     void handleFrontmostLost();
     void handleWake();
     void handleListsChanged();
-    void startBrowserInterval(const RunningApplication& browser);
+    void startBrowserURLPolling(const RunningApplication& browser);
+    void pollBrowser();
+    void stopBrowserURLPolling();
+    void evaluateBrowserState(const RunningApplication& browser, bool isInitial, const Moment& moment);
+    void startBrowserInterval(const RunningApplication& browser, const std::optional<QString>& domain,
+                              const Moment& start);
+    void enforce(const RunningApplication& browser, const QString& domain);
+    [[nodiscard]] bool closeTab(const RunningApplication& browser, const QString& domain);
+    void endEnforcement();
     void closeBrowserDomainSession();
     void closeCurrentSession();
+    void setAutomationGranted(bool isGranted);
+    void setAccessibilityGranted(bool isGranted);
     void count(Verdict verdict, int seconds);
     void updateActivityStatus(const RunningApplication& app, const std::optional<QString>& domain);
     void setActivityStatus(CurrentActivityStatus status);
@@ -106,16 +132,25 @@ private:
     Clock& m_clock;
     Workspace& m_workspace;
     AppBlockerService& m_blocker;
+    BrowserDomainProbe m_probe;
+    BrowserAlertService& m_alert;
     ModelContext* m_modelContext = nullptr;
     std::optional<RunningApplication> m_currentApp;
     std::optional<Moment> m_startTime;
     std::optional<QString> m_currentBrowserDomain;
     std::optional<Moment> m_browserDomainStartTime;
+    std::unique_ptr<ClockTimer> m_browserURLPollTimer;
+    /// When the current poll is due, or was last.
+    Moment m_browserURLPollMoment;
     int m_secondsCountedByDomain = 0; // of the open application interval
     int m_sessionLegitimateTime = 0;
     int m_sessionDistractedTime = 0;
+    /// The blocked domain most recently reported; none while no blocked page is in front.
+    std::optional<QString> m_lastEnforcedDomain;
     CurrentActivityStatus m_currentActivityStatus;
     bool m_isTrackingActive = false;
+    bool m_isAutomationGranted = true;
+    bool m_isAccessibilityGranted = true;
 };
 
 } // namespace norvin

@@ -50,6 +50,18 @@ std::unique_ptr<ClockTimer> FakeClock::after(milliseconds delay, std::function<v
 
 void FakeClock::advance(milliseconds duration) {
     const milliseconds end = m_monotonic + duration;
+    fireDue(end);
+    m_now = m_now.addMSecs((end - m_monotonic).count());
+    m_monotonic = end;
+}
+
+void FakeClock::stall(milliseconds duration) {
+    m_now = m_now.addMSecs(duration.count());
+    m_monotonic += duration;
+    fireDue(m_monotonic);
+}
+
+void FakeClock::fireDue(milliseconds end) {
     while (true) {
         auto next = m_state->entries.end();
         for (auto it = m_state->entries.begin(); it != m_state->entries.end(); ++it) {
@@ -58,7 +70,8 @@ void FakeClock::advance(milliseconds duration) {
         }
         if (next == m_state->entries.end() || next->second.deadline > end)
             break;
-        const milliseconds step = next->second.deadline - m_monotonic;
+        // Deadlines that passed in a stall are met late.
+        const milliseconds step = std::max(next->second.deadline - m_monotonic, milliseconds::zero());
         m_monotonic += step;
         m_now = m_now.addMSecs(step.count());
         const std::function<void()> fire = next->second.fire;
@@ -68,8 +81,6 @@ void FakeClock::advance(milliseconds duration) {
             next->second.deadline += next->second.interval;
         fire();
     }
-    m_now = m_now.addMSecs((end - m_monotonic).count());
-    m_monotonic = end;
 }
 
 void FakeClock::suspend(milliseconds duration) {

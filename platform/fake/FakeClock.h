@@ -25,6 +25,8 @@ public:
 
     /// Lets time pass while the machine is awake: both clocks move and timers fire.
     void advance(std::chrono::milliseconds duration);
+    /// Keeps the main thread busy for that long: the timers that fall due in it fire at its end, all of them.
+    void stall(std::chrono::milliseconds duration);
     /// Lets the machine sleep: only the wall clock moves.
     void suspend(std::chrono::milliseconds duration);
     /// The user or the network sets the wall clock.
@@ -35,6 +37,8 @@ public:
 private:
     class Timer;
     struct State;
+    void fireDue(std::chrono::milliseconds end);
+
     std::shared_ptr<State> m_state;
     std::chrono::milliseconds m_monotonic{1'000'000};
     QDateTime m_now;

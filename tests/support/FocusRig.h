@@ -2,12 +2,16 @@
 
 #include "distraction/AppBlockerService.h"
 #include "distraction/AppUsageService.h"
+#include "distraction/BrowserAlertService.h"
 #include "focus/MotionService.h"
 #include "focus/PomodoroTimerService.h"
 #include "model/ModelContainer.h"
 #include "platform/ApplicationCatalog.h"
 #include "platform/Log.h"
+#include "platform/fake/FakeAccessibility.h"
+#include "platform/fake/FakeAlertOverlay.h"
 #include "platform/fake/FakeApplicationCatalog.h"
+#include "platform/fake/FakeBrowserScripting.h"
 #include "platform/fake/FakeClock.h"
 #include "platform/fake/FakeIdleTimeSource.h"
 #include "platform/fake/FakePreferences.h"
@@ -73,7 +77,11 @@ struct FocusRig {
     std::unique_ptr<ModelContainer> container = ModelContainer::inMemory();
     SoundService soundService{sounds};
     AppBlockerService blocker{preferences, workspace, sounds};
-    AppUsageService usage{clock, workspace, blocker};
+    FakeBrowserScripting scripting;
+    FakeAccessibility accessibility;
+    FakeAlertOverlay overlay;
+    BrowserAlertService alert{overlay, notifications};
+    AppUsageService usage{clock, workspace, blocker, BrowserDomainProbe(scripting, accessibility), alert};
     MotionService motion{clock, idle, preferences};
     PomodoroTimerService timer{
         PomodoroCollaborators{clock, blocker, usage, motion, soundService, notifications, catalog}};
@@ -90,6 +98,8 @@ struct FocusRig {
                                        QStringLiteral("public.app-category.games"));
     const RunningApplication browser =
         FakeWorkspace::makeApplication(QStringLiteral("org.mozilla.firefox"), QStringLiteral("Firefox"));
+    const RunningApplication scriptedBrowser =
+        FakeWorkspace::makeApplication(QStringLiteral("com.vivaldi.Vivaldi"), QStringLiteral("Vivaldi"));
 };
 
 } // namespace norvin
