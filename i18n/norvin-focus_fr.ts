@@ -146,6 +146,30 @@
         <source></source>
         <translation>Système</translation>
     </message>
+    <message id="coach_distraction_1">
+        <source></source>
+        <translation>%1 peut attendre. D’abord un petit pas dans votre tâche.</translation>
+    </message>
+    <message id="coach_distraction_2">
+        <source></source>
+        <translation>Ouvrir %1, c’était un réflexe ? Respirez un instant, puis reprenez.</translation>
+    </message>
+    <message id="coach_distraction_3">
+        <source></source>
+        <translation>%1 sera encore là plus tard. Pour l’instant, votre tâche d’abord.</translation>
+    </message>
+    <message id="coach_interrupt_abandoned">
+        <source></source>
+        <translation>Arrêt avant la fin, et ce n’est pas grave. Recommencez quand vous voulez.</translation>
+    </message>
+    <message id="coach_interrupt_inactivity">
+        <source></source>
+        <translation>Rien ne bouge depuis un moment. Reprenez quand vous voulez.</translation>
+    </message>
+    <message id="coach_interrupt_pause">
+        <source></source>
+        <translation>C’est en pause. Soufflez un peu, puis reprenez là où vous en étiez.</translation>
+    </message>
     <message id="completed_break_title">
         <source></source>
         <translation>Pause terminée</translation>
