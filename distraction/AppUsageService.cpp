@@ -3,12 +3,12 @@
 #include "distraction/AppBlockerService.h"
 #include "distraction/BrowserAlertService.h"
 #include "distraction/KnownBrowsers.h"
-#include "distraction/ScriptableBrowser.h"
 #include "distraction/UsageCategory.h"
 #include "model/ModelContext.h"
 #include "platform/ApplicationCatalog.h"
 #include "platform/Clock.h"
 #include "platform/Log.h"
+#include "platform/ScriptableBrowser.h"
 
 namespace norvin {
 

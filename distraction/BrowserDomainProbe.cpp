@@ -1,10 +1,10 @@
 #include "distraction/BrowserDomainProbe.h"
 
 #include "distraction/PageAddress.h"
-#include "distraction/ScriptableBrowser.h"
 #include "platform/AccessibilityElement.h"
 #include "platform/BrowserScripting.h"
 #include "platform/Log.h"
+#include "platform/ScriptableBrowser.h"
 
 #include <array>
 

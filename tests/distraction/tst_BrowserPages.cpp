@@ -1,4 +1,4 @@
-#include "distraction/ScriptableBrowser.h"
+#include "platform/ScriptableBrowser.h"
 #include "tests/support/FocusRig.h"
 
 #include <QRandomGenerator>

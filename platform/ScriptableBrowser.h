@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 
 #include <optional>
@@ -19,6 +20,9 @@ struct ScriptableBrowser {
     /// Script that closes the tab in front.
     [[nodiscard]] QString closeScript() const;
 };
+
+/// All of them, in a fixed order.
+[[nodiscard]] const QList<ScriptableBrowser>& scriptableBrowsers();
 
 /// The entry of exactly that bundle identifier; none for browsers that have no scripts.
 [[nodiscard]] std::optional<ScriptableBrowser> scriptableBrowser(const QString& bundleIdentifier);
