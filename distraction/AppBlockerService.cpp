@@ -111,7 +111,7 @@ void AppBlockerService::stopBlocking() {
 void AppBlockerService::checkAndBlock(const RunningApplication& app) {
     if (!m_isBlockingActive || app.bundleIdentifier.isEmpty() ||
         app.bundleIdentifier == QLatin1String(ownBundleIdentifier) ||
-        !m_blockedAppBundleIDs.contains(app.bundleIdentifier))
+        !m_lists.blockedAppBundleIDs.contains(app.bundleIdentifier))
         return;
     // Not before the activation has run its course with everybody who listens to it. Blocking may have been
     // switched off by then.
@@ -131,19 +131,19 @@ void AppBlockerService::checkAndBlock(const RunningApplication& app) {
 }
 
 bool AppBlockerService::addAppToBlocklist(const QString& bundleID) {
-    return changeApps(m_blockedAppBundleIDs, bundleID, true);
+    return changeApps(m_lists.blockedAppBundleIDs, bundleID, true);
 }
 
 bool AppBlockerService::addAppToWhitelist(const QString& bundleID) {
-    return changeApps(m_whitelistedAppBundleIDs, bundleID, true);
+    return changeApps(m_lists.whitelistedAppBundleIDs, bundleID, true);
 }
 
 bool AppBlockerService::removeAppFromBlocklist(const QString& bundleID) {
-    return changeApps(m_blockedAppBundleIDs, bundleID, false);
+    return changeApps(m_lists.blockedAppBundleIDs, bundleID, false);
 }
 
 bool AppBlockerService::removeAppFromWhitelist(const QString& bundleID) {
-    return changeApps(m_whitelistedAppBundleIDs, bundleID, false);
+    return changeApps(m_lists.whitelistedAppBundleIDs, bundleID, false);
 }
 
 bool AppBlockerService::changeApps(QSet<QString>& apps, const QString& bundleID, bool add) {
@@ -160,22 +160,22 @@ bool AppBlockerService::changeApps(QSet<QString>& apps, const QString& bundleID,
 
 AppBlockerService::SiteChange AppBlockerService::addSiteToWhitelist(const QString& browserBundleID,
                                                                     const QString& site) {
-    return changeSites(m_browserWhitelistedSites, browserBundleID, site, true);
+    return changeSites(m_lists.browserWhitelistedSites, browserBundleID, site, true);
 }
 
 AppBlockerService::SiteChange AppBlockerService::addSiteToBlocklist(const QString& browserBundleID,
                                                                     const QString& site) {
-    return changeSites(m_browserBlockedSites, browserBundleID, site, true);
+    return changeSites(m_lists.browserBlockedSites, browserBundleID, site, true);
 }
 
 AppBlockerService::SiteChange AppBlockerService::removeSiteFromWhitelist(const QString& browserBundleID,
                                                                          const QString& site) {
-    return changeSites(m_browserWhitelistedSites, browserBundleID, site, false);
+    return changeSites(m_lists.browserWhitelistedSites, browserBundleID, site, false);
 }
 
 AppBlockerService::SiteChange AppBlockerService::removeSiteFromBlocklist(const QString& browserBundleID,
                                                                          const QString& site) {
-    return changeSites(m_browserBlockedSites, browserBundleID, site, false);
+    return changeSites(m_lists.browserBlockedSites, browserBundleID, site, false);
 }
 
 AppBlockerService::SiteChange AppBlockerService::changeSites(SiteLists& lists, const QString& browserBundleID,
@@ -201,47 +201,55 @@ AppBlockerService::SiteChange AppBlockerService::changeSites(SiteLists& lists, c
 }
 
 QSet<QString> AppBlockerService::getWhitelistedSites(const QString& browserBundleID) const {
-    return m_browserWhitelistedSites.value(browserBundleID);
+    return m_lists.browserWhitelistedSites.value(browserBundleID);
 }
 
 QSet<QString> AppBlockerService::getBlockedSites(const QString& browserBundleID) const {
-    return m_browserBlockedSites.value(browserBundleID);
+    return m_lists.browserBlockedSites.value(browserBundleID);
 }
 
 bool AppBlockerService::hasSiteConfiguration(const QString& browserBundleID) const {
     return !getWhitelistedSites(browserBundleID).isEmpty() || !getBlockedSites(browserBundleID).isEmpty();
 }
 
+SiteVerdict AppBlockerService::siteVerdict(const QString& browserBundleID, const QString& domain) const {
+    return judgeSite(domain, getWhitelistedSites(browserBundleID), getBlockedSites(browserBundleID));
+}
+
 bool AppBlockerService::isSiteLegitimate(const QString& browserBundleID, const QString& domain) const {
-    const QString site = normalizedDomain(domain);
-    const QSet<QString> whitelisted = getWhitelistedSites(browserBundleID);
-    if (!whitelisted.isEmpty())
-        return matchesDomain(site, whitelisted);
-    return !matchesDomain(site, getBlockedSites(browserBundleID));
+    return siteVerdict(browserBundleID, domain).isLegitimate();
 }
 
 bool AppBlockerService::shouldBlockSite(const QString& browserBundleID, const QString& domain) const {
-    return matchesDomain(normalizedDomain(domain), getBlockedSites(browserBundleID));
+    return siteVerdict(browserBundleID, domain).isBlocked();
+}
+
+bool AppBlockerService::replaceLists(const BlockLists& lists) {
+    if (lists == m_lists)
+        return false;
+    m_lists = lists;
+    saveToDefaults();
+    return true;
 }
 
 void AppBlockerService::loadFromDefaults() {
-    m_blockedAppBundleIDs = storedApps(m_preferences, blockedAppsKey);
-    m_whitelistedAppBundleIDs = storedApps(m_preferences, whitelistedAppsKey);
-    m_browserWhitelistedSites = storedSites(m_preferences, whitelistedSitesKey);
-    m_browserBlockedSites = storedSites(m_preferences, blockedSitesKey);
+    m_lists.blockedAppBundleIDs = storedApps(m_preferences, blockedAppsKey);
+    m_lists.whitelistedAppBundleIDs = storedApps(m_preferences, whitelistedAppsKey);
+    m_lists.browserWhitelistedSites = storedSites(m_preferences, whitelistedSitesKey);
+    m_lists.browserBlockedSites = storedSites(m_preferences, blockedSitesKey);
 }
 
 void AppBlockerService::saveToDefaults() {
-    m_preferences.setValue(blockedAppsKey, toJsonText(m_blockedAppBundleIDs));
-    m_preferences.setValue(whitelistedAppsKey, toJsonText(m_whitelistedAppBundleIDs));
-    m_preferences.setValue(whitelistedSitesKey, toJsonText(m_browserWhitelistedSites));
-    m_preferences.setValue(blockedSitesKey, toJsonText(m_browserBlockedSites));
+    m_preferences.setValue(blockedAppsKey, toJsonText(m_lists.blockedAppBundleIDs));
+    m_preferences.setValue(whitelistedAppsKey, toJsonText(m_lists.whitelistedAppBundleIDs));
+    m_preferences.setValue(whitelistedSitesKey, toJsonText(m_lists.browserWhitelistedSites));
+    m_preferences.setValue(blockedSitesKey, toJsonText(m_lists.browserBlockedSites));
     logLine(QStringLiteral("AppBlockerService: Saved to UserDefaults (blocked: %1, whitelisted: %2, browsers "
                            "with whitelisted sites: %3, with blocked sites: %4)")
-                .arg(m_blockedAppBundleIDs.size())
-                .arg(m_whitelistedAppBundleIDs.size())
-                .arg(m_browserWhitelistedSites.size())
-                .arg(m_browserBlockedSites.size()));
+                .arg(m_lists.blockedAppBundleIDs.size())
+                .arg(m_lists.whitelistedAppBundleIDs.size())
+                .arg(m_lists.browserWhitelistedSites.size())
+                .arg(m_lists.browserBlockedSites.size()));
     Q_EMIT listsChanged();
 }
 

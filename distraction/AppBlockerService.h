@@ -1,9 +1,10 @@
 #pragma once
 
+#include "distraction/BlockLists.h"
+#include "distraction/SiteVerdict.h"
 #include "platform/SharedInstance.h"
 #include "platform/Workspace.h"
 
-#include <QMap>
 #include <QMetaObject>
 #include <QObject>
 #include <QSet>
@@ -22,7 +23,7 @@ class SystemSounds;
 class AppBlockerService final : public QObject {
     Q_OBJECT
 public:
-    using SiteLists = QMap<QString, QSet<QString>>;
+    using SiteLists = norvin::SiteLists;
 
     AppBlockerService(Preferences& preferences, Workspace& workspace, SystemSounds& sounds,
                       QObject* parent = nullptr);
@@ -31,11 +32,14 @@ public:
     /// The process-wide instance, for start-up and the registration of the window's types.
     [[nodiscard]] static AppBlockerService& shared() { return SharedInstance<AppBlockerService>::get(); }
 
-    [[nodiscard]] const QSet<QString>& blockedAppBundleIDs() const { return m_blockedAppBundleIDs; }
-    [[nodiscard]] const QSet<QString>& whitelistedAppBundleIDs() const { return m_whitelistedAppBundleIDs; }
+    [[nodiscard]] const QSet<QString>& blockedAppBundleIDs() const { return m_lists.blockedAppBundleIDs; }
+    [[nodiscard]] const QSet<QString>& whitelistedAppBundleIDs() const {
+        return m_lists.whitelistedAppBundleIDs;
+    }
     /// Patterns by the browser's bundle identifier; the same for the blocked ones.
-    [[nodiscard]] const SiteLists& browserWhitelistedSites() const { return m_browserWhitelistedSites; }
-    [[nodiscard]] const SiteLists& browserBlockedSites() const { return m_browserBlockedSites; }
+    [[nodiscard]] const SiteLists& browserWhitelistedSites() const { return m_lists.browserWhitelistedSites; }
+    [[nodiscard]] const SiteLists& browserBlockedSites() const { return m_lists.browserBlockedSites; }
+    [[nodiscard]] const BlockLists& lists() const { return m_lists; }
     [[nodiscard]] bool isBlockingActive() const { return m_isBlockingActive; }
 
     /// Hides the frontmost application if it is blocked, and every blocked one that comes to the front from
@@ -58,11 +62,18 @@ public:
     SiteChange removeSiteFromWhitelist(const QString& browserBundleID, const QString& site);
     SiteChange removeSiteFromBlocklist(const QString& browserBundleID, const QString& site);
 
+    /// Replaces all four lists in one step. The patterns are taken as they are: see normalizedSitePattern().
+    /// @return false when these are the lists already
+    bool replaceLists(const BlockLists& lists);
+
     [[nodiscard]] QSet<QString> getWhitelistedSites(const QString& browserBundleID) const;
     [[nodiscard]] QSet<QString> getBlockedSites(const QString& browserBundleID) const;
     /// Whether the browser has any site in either list.
     [[nodiscard]] bool hasSiteConfiguration(const QString& browserBundleID) const;
 
+    /// The rules of the browser's lists for a domain, and which of them decides. Whether the browser itself
+    /// is on a list is another matter.
+    [[nodiscard]] SiteVerdict siteVerdict(const QString& browserBundleID, const QString& domain) const;
     [[nodiscard]] bool isSiteLegitimate(const QString& browserBundleID, const QString& domain) const;
     [[nodiscard]] bool shouldBlockSite(const QString& browserBundleID, const QString& domain) const;
 
@@ -81,10 +92,7 @@ private:
     Preferences& m_preferences;
     Workspace& m_workspace;
     SystemSounds& m_sounds;
-    QSet<QString> m_blockedAppBundleIDs;
-    QSet<QString> m_whitelistedAppBundleIDs;
-    SiteLists m_browserWhitelistedSites;
-    SiteLists m_browserBlockedSites;
+    BlockLists m_lists;
     bool m_isBlockingActive = false;
     QMetaObject::Connection m_workspaceSubscription;
 };

@@ -25,11 +25,7 @@ ApplicationListModel::ApplicationListModel(const ApplicationCatalog& catalog, Wo
     , m_catalog(catalog)
     , m_workspace(workspace)
     , m_blocker(blocker) {
-    connect(&m_blocker, &AppBlockerService::listsChanged, this, [this] {
-        if (!m_rows.isEmpty())
-            Q_EMIT dataChanged(index(0), index(count() - 1), {ListRole});
-        Q_EMIT listsChanged();
-    });
+    connect(&m_blocker, &AppBlockerService::listsChanged, this, &ApplicationListModel::handleListsChanged);
 }
 
 ApplicationListModel::~ApplicationListModel() = default;
@@ -103,6 +99,8 @@ void ApplicationListModel::refresh() {
         if (entry.application.bundleIdentifier.isEmpty())
             entry.application.bundleIdentifier = listed;
     }
+    m_known = QSet<QString>(entries.keyBegin(), entries.keyEnd());
+    m_known.insert(QLatin1String(ownBundleIdentifier));
     entries.remove(QLatin1String(ownBundleIdentifier));
     for (Entry& entry : entries) {
         if (entry.application.name.isEmpty())
@@ -121,14 +119,25 @@ void ApplicationListModel::refresh() {
 }
 
 void ApplicationListModel::setList(const QString& bundleID, const QString& list) {
-    if (list != blockedList)
-        m_blocker.removeAppFromBlocklist(bundleID);
-    if (list != whitelistedList)
-        m_blocker.removeAppFromWhitelist(bundleID);
+    BlockLists lists = m_blocker.lists();
+    lists.blockedAppBundleIDs.remove(bundleID);
+    lists.whitelistedAppBundleIDs.remove(bundleID);
     if (list == blockedList)
-        m_blocker.addAppToBlocklist(bundleID);
+        lists.blockedAppBundleIDs.insert(bundleID);
     else if (list == whitelistedList)
-        m_blocker.addAppToWhitelist(bundleID);
+        lists.whitelistedAppBundleIDs.insert(bundleID);
+    m_blocker.replaceLists(lists);
+}
+
+void ApplicationListModel::handleListsChanged() {
+    // An application that is not here can be listed by an import or by a command.
+    const auto isShown = [this](const QString& bundleID) { return m_known.contains(bundleID); };
+    const QSet<QString> listed = m_blocker.blockedAppBundleIDs() + m_blocker.whitelistedAppBundleIDs();
+    if (!m_known.isEmpty() && !std::all_of(listed.cbegin(), listed.cend(), isShown))
+        refresh();
+    else if (!m_rows.isEmpty())
+        Q_EMIT dataChanged(index(0), index(count() - 1), {ListRole});
+    Q_EMIT listsChanged();
 }
 
 QString ApplicationListModel::listOf(const QString& bundleID) const {

@@ -4,6 +4,7 @@
 
 #include <QAbstractListModel>
 #include <QList>
+#include <QSet>
 #include <QString>
 
 namespace norvin {
@@ -60,11 +61,13 @@ private:
     };
     [[nodiscard]] QString listOf(const QString& bundleID) const;
     void applyFilter();
+    void handleListsChanged();
 
     const ApplicationCatalog& m_catalog;
     Workspace& m_workspace;
     AppBlockerService& m_blocker;
     QList<Entry> m_all;
+    QSet<QString> m_known;   // identifiers of m_all, and the own one, which is not shown
     QList<qsizetype> m_rows; // indices into m_all
     QString m_filterText;
 };

@@ -20,8 +20,12 @@ QString withoutScheme(const QString& text) {
     return at < 0 ? text : text.mid(at + 3);
 }
 
+bool isLetterOrDigit(QChar c) {
+    return (c >= u'a' && c <= u'z') || (c >= u'0' && c <= u'9');
+}
+
 bool isHostCharacter(QChar c) {
-    return (c >= u'a' && c <= u'z') || (c >= u'0' && c <= u'9') || c == u'-' || c == u'.' || c == u'_';
+    return isLetterOrDigit(c) || c == u'-' || c == u'.' || c == u'_';
 }
 
 } // namespace
@@ -52,6 +56,8 @@ std::optional<QString> normalizedSitePattern(const QString& text) {
         if (host.isEmpty() || !std::all_of(host.cbegin(), host.cend(), isHostCharacter))
             return std::nullopt;
     }
+    if (host.contains(QLatin1String("..")) || std::none_of(host.cbegin(), host.cend(), isLetterOrDigit))
+        return std::nullopt;
     return host;
 }
 
@@ -63,15 +69,48 @@ QString normalizedDomain(const QString& domain) {
     return result;
 }
 
+QString matchingPattern(const QString& domain, const QSet<QString>& patterns) {
+    // Whatever matches is the domain itself or one of its endings behind a dot, so these are looked up
+    // instead of trying every pattern.
+    const QString star = QStringLiteral("*.");
+    for (qsizetype start = 0; start < domain.size();) {
+        const QString ending = domain.mid(start);
+        if (patterns.contains(ending))
+            return ending;
+        if (patterns.contains(star + ending))
+            return star + ending;
+        const qsizetype dot = domain.indexOf(u'.', start);
+        if (dot < 0)
+            break;
+        start = dot + 1;
+    }
+    return {};
+}
+
 bool matchesDomain(const QString& domain, const QSet<QString>& patterns) {
-    return std::any_of(patterns.cbegin(), patterns.cend(), [&domain](const QString& listed) {
-        const QStringView pattern =
-            listed.startsWith(QLatin1String("*.")) ? QStringView(listed).mid(2) : QStringView(listed);
-        if (pattern.isEmpty() || !domain.endsWith(pattern))
-            return false;
-        const qsizetype rest = domain.size() - pattern.size();
-        return rest == 0 || domain.at(rest - 1) == u'.';
-    });
+    return !matchingPattern(domain, patterns).isEmpty();
+}
+
+PastedSites pastedSites(const QString& text) {
+    static const QRegularExpression separators(QStringLiteral("[\\s,;]+"));
+    PastedSites result;
+    QSet<QString> seen;
+    const QStringList pieces = text.split(separators, Qt::SkipEmptyParts);
+    for (const QString& piece : pieces) {
+        const std::optional<QString> pattern = normalizedSitePattern(piece);
+        const bool isWord = pieces.size() > 1 && !piece.contains(u'.') && !piece.contains(u':');
+        if (!pattern || isWord)
+            result.refused.append(piece);
+        else if (!seen.contains(*pattern)) {
+            seen.insert(*pattern);
+            result.patterns.append(*pattern);
+        }
+    }
+    return result;
+}
+
+QString displayedSite(const QString& pattern) {
+    return QUrl::fromAce(pattern.toLatin1());
 }
 
 } // namespace norvin

@@ -448,6 +448,62 @@
         <source></source>
         <translation>Blocked</translation>
     </message>
+    <message id="list_file_empty_name">
+        <source></source>
+        <translation>An identifier in “%1” is empty.</translation>
+    </message>
+    <message id="list_file_line">
+        <source></source>
+        <translation>Line %1: %2</translation>
+    </message>
+    <message id="list_file_missing_key">
+        <source></source>
+        <translation>“%1” is missing.</translation>
+    </message>
+    <message id="list_file_no_lists">
+        <source></source>
+        <translation>This is not a file of block lists.</translation>
+    </message>
+    <message id="list_file_not_a_list">
+        <source></source>
+        <translation>“%1” has to be a list, in square brackets.</translation>
+    </message>
+    <message id="list_file_not_a_site">
+        <source></source>
+        <translation>“%1” is not a site.</translation>
+    </message>
+    <message id="list_file_not_a_text">
+        <source></source>
+        <translation>The entries of “%1” have to be texts, in quotation marks.</translation>
+    </message>
+    <message id="list_file_not_an_object">
+        <source></source>
+        <translation>“%1” has to be an object, in braces.</translation>
+    </message>
+    <message id="list_file_not_json">
+        <source></source>
+        <translation>This is not valid JSON (%1).</translation>
+    </message>
+    <message id="list_file_repeated_key">
+        <source></source>
+        <translation>“%1” is there twice.</translation>
+    </message>
+    <message id="list_file_too_large">
+        <source></source>
+        <translation>The file is too large for block lists.</translation>
+    </message>
+    <message id="list_file_unknown_key">
+        <source></source>
+        <translation>“%1” is not known here.</translation>
+    </message>
+    <message id="list_file_unreadable">
+        <source></source>
+        <translation>The file cannot be read: %1</translation>
+    </message>
+    <message id="list_file_wrong_version">
+        <source></source>
+        <translation>Version “%1” of the file is not known here; perhaps a newer Norvin Focus wrote it.</translation>
+    </message>
     <message id="list_none">
         <source></source>
         <translation>None</translation>
@@ -459,6 +515,63 @@
     <message id="next_step_label">
         <source></source>
         <translation>What comes next?</translation>
+    </message>
+    <message id="notice_browser_whitelisted">
+        <source></source>
+        <translation>%1 is on the whitelist of applications now.</translation>
+    </message>
+    <message id="notice_export_failed">
+        <source></source>
+        <translation>The lists could not be saved: %1</translation>
+    </message>
+    <message id="notice_exported">
+        <source></source>
+        <translation>The lists were saved as %1.</translation>
+    </message>
+    <message id="notice_imported">
+        <source></source>
+        <translation>The lists of %1 were imported.</translation>
+    </message>
+    <message id="notice_imported_nothing">
+        <source></source>
+        <translation>%1 holds nothing that the lists do not have.</translation>
+    </message>
+    <message id="notice_site_added">
+        <source></source>
+        <translation>%1 was added.</translation>
+    </message>
+    <message id="notice_site_moved">
+        <source></source>
+        <translation>%1 was moved to the other list.</translation>
+    </message>
+    <message id="notice_site_removed">
+        <source></source>
+        <translation>%1 was removed.</translation>
+    </message>
+    <message id="notice_sites_added" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n site was added.</numerusform>
+            <numerusform>%n sites were added.</numerusform>
+        </translation>
+    </message>
+    <message id="notice_sites_copied" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n entry of %1 was copied.</numerusform>
+            <numerusform>%n entries of %1 were copied.</numerusform>
+        </translation>
+    </message>
+    <message id="notice_suggestions_added" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n suggestion was added.</numerusform>
+            <numerusform>%n suggestions were added.</numerusform>
+        </translation>
+    </message>
+    <message id="notice_taken_back">
+        <source></source>
+        <translation>Taken back.</translation>
     </message>
     <message id="notif_break_complete_body">
         <source></source>
@@ -663,6 +776,14 @@
         <source></source>
         <translation>Pages</translation>
     </message>
+    <message id="site_entry_listed_already">
+        <source></source>
+        <translation>Listed already: %1</translation>
+    </message>
+    <message id="site_entry_refused">
+        <source></source>
+        <translation>Not a site: %1</translation>
+    </message>
     <message id="sites_command_line_note">
         <source></source>
         <translation>Sites are blocked from the command line for now: norvin-focus block --site</translation>
@@ -694,6 +815,14 @@
     <message id="subtasks_done">
         <source></source>
         <translation>%1/%2 subtasks</translation>
+    </message>
+    <message id="suggestions_browsers">
+        <source></source>
+        <translation>Browsers</translation>
+    </message>
+    <message id="suggestions_sites">
+        <source></source>
+        <translation>Sites: %1</translation>
     </message>
     <message id="summary_attempts">
         <source></source>
@@ -769,6 +898,42 @@
     <message id="tomorrow">
         <source></source>
         <translation>Tomorrow</translation>
+    </message>
+    <message id="verdict_blocked">
+        <source></source>
+        <translation>Matches “%1” on the blocked list. The tab is closed.</translation>
+    </message>
+    <message id="verdict_blocked_and_whitelisted">
+        <source></source>
+        <translation>Matches “%1” on the blocked list: the tab is closed. Until then its time is legitimate, since “%2” is on the whitelist.</translation>
+    </message>
+    <message id="verdict_browser_blocked">
+        <source></source>
+        <translation>%1 itself is blocked: it is hidden before any page counts.</translation>
+    </message>
+    <message id="verdict_browser_not_whitelisted">
+        <source></source>
+        <translation>%1 is not on the whitelist of applications: all its time is distracted, whatever the page.</translation>
+    </message>
+    <message id="verdict_no_lists">
+        <source></source>
+        <translation>Both lists are empty: every site counts as legitimate.</translation>
+    </message>
+    <message id="verdict_not_blocked">
+        <source></source>
+        <translation>Nothing on the blocked list matches, and there is no whitelist.</translation>
+    </message>
+    <message id="verdict_not_whitelisted">
+        <source></source>
+        <translation>This browser has a whitelist, and nothing on it matches.</translation>
+    </message>
+    <message id="verdict_unreadable">
+        <source></source>
+        <translation>No site can be made out in this text.</translation>
+    </message>
+    <message id="verdict_whitelisted">
+        <source></source>
+        <translation>Matches “%1” on the whitelist.</translation>
     </message>
     <message id="whitelisted_count" numerus="yes">
         <source></source>

@@ -448,6 +448,62 @@
         <source></source>
         <translation>Bloquée</translation>
     </message>
+    <message id="list_file_empty_name">
+        <source></source>
+        <translation>Un identifiant de « %1 » est vide.</translation>
+    </message>
+    <message id="list_file_line">
+        <source></source>
+        <translation>Ligne %1 : %2</translation>
+    </message>
+    <message id="list_file_missing_key">
+        <source></source>
+        <translation>« %1 » manque.</translation>
+    </message>
+    <message id="list_file_no_lists">
+        <source></source>
+        <translation>Ce n’est pas un fichier de listes de blocage.</translation>
+    </message>
+    <message id="list_file_not_a_list">
+        <source></source>
+        <translation>« %1 » doit être une liste, entre crochets.</translation>
+    </message>
+    <message id="list_file_not_a_site">
+        <source></source>
+        <translation>« %1 » n’est pas un site.</translation>
+    </message>
+    <message id="list_file_not_a_text">
+        <source></source>
+        <translation>Les éléments de « %1 » doivent être des textes, entre guillemets.</translation>
+    </message>
+    <message id="list_file_not_an_object">
+        <source></source>
+        <translation>« %1 » doit être un objet, entre accolades.</translation>
+    </message>
+    <message id="list_file_not_json">
+        <source></source>
+        <translation>Ce n’est pas du JSON valable (%1).</translation>
+    </message>
+    <message id="list_file_repeated_key">
+        <source></source>
+        <translation>« %1 » s’y trouve deux fois.</translation>
+    </message>
+    <message id="list_file_too_large">
+        <source></source>
+        <translation>Le fichier est trop gros pour des listes de blocage.</translation>
+    </message>
+    <message id="list_file_unknown_key">
+        <source></source>
+        <translation>« %1 » n’est pas connu ici.</translation>
+    </message>
+    <message id="list_file_unreadable">
+        <source></source>
+        <translation>Le fichier ne peut pas être lu : %1</translation>
+    </message>
+    <message id="list_file_wrong_version">
+        <source></source>
+        <translation>La version « %1 » du fichier n’est pas connue ici ; un Norvin Focus plus récent l’a peut-être écrit.</translation>
+    </message>
     <message id="list_none">
         <source></source>
         <translation>Aucune</translation>
@@ -459,6 +515,63 @@
     <message id="next_step_label">
         <source></source>
         <translation>Et maintenant ?</translation>
+    </message>
+    <message id="notice_browser_whitelisted">
+        <source></source>
+        <translation>%1 est maintenant sur la liste blanche des applications.</translation>
+    </message>
+    <message id="notice_export_failed">
+        <source></source>
+        <translation>Les listes n’ont pas pu être enregistrées : %1</translation>
+    </message>
+    <message id="notice_exported">
+        <source></source>
+        <translation>Les listes ont été enregistrées sous %1.</translation>
+    </message>
+    <message id="notice_imported">
+        <source></source>
+        <translation>Les listes de %1 ont été importées.</translation>
+    </message>
+    <message id="notice_imported_nothing">
+        <source></source>
+        <translation>%1 ne contient rien que les listes n’aient déjà.</translation>
+    </message>
+    <message id="notice_site_added">
+        <source></source>
+        <translation>%1 a été ajouté.</translation>
+    </message>
+    <message id="notice_site_moved">
+        <source></source>
+        <translation>%1 a été déplacé sur l’autre liste.</translation>
+    </message>
+    <message id="notice_site_removed">
+        <source></source>
+        <translation>%1 a été retiré.</translation>
+    </message>
+    <message id="notice_sites_added" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n site a été ajouté.</numerusform>
+            <numerusform>%n sites ont été ajoutés.</numerusform>
+        </translation>
+    </message>
+    <message id="notice_sites_copied" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n élément de %1 a été copié.</numerusform>
+            <numerusform>%n éléments de %1 ont été copiés.</numerusform>
+        </translation>
+    </message>
+    <message id="notice_suggestions_added" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n suggestion a été ajoutée.</numerusform>
+            <numerusform>%n suggestions ont été ajoutées.</numerusform>
+        </translation>
+    </message>
+    <message id="notice_taken_back">
+        <source></source>
+        <translation>C’est annulé.</translation>
     </message>
     <message id="notif_break_complete_body">
         <source></source>
@@ -663,6 +776,14 @@
         <source></source>
         <translation>Pages</translation>
     </message>
+    <message id="site_entry_listed_already">
+        <source></source>
+        <translation>Déjà sur la liste : %1</translation>
+    </message>
+    <message id="site_entry_refused">
+        <source></source>
+        <translation>Ce n’est pas un site : %1</translation>
+    </message>
     <message id="sites_command_line_note">
         <source></source>
         <translation>Pour l’instant, les sites se bloquent en ligne de commande : norvin-focus block --site</translation>
@@ -694,6 +815,14 @@
     <message id="subtasks_done">
         <source></source>
         <translation>%1/%2 sous-tâches</translation>
+    </message>
+    <message id="suggestions_browsers">
+        <source></source>
+        <translation>Navigateurs</translation>
+    </message>
+    <message id="suggestions_sites">
+        <source></source>
+        <translation>Sites : %1</translation>
     </message>
     <message id="summary_attempts">
         <source></source>
@@ -769,6 +898,42 @@
     <message id="tomorrow">
         <source></source>
         <translation>Demain</translation>
+    </message>
+    <message id="verdict_blocked">
+        <source></source>
+        <translation>Correspond à « %1 » sur la liste des sites bloqués. L’onglet est fermé.</translation>
+    </message>
+    <message id="verdict_blocked_and_whitelisted">
+        <source></source>
+        <translation>Correspond à « %1 » sur la liste des sites bloqués : l’onglet est fermé. D’ici là, son temps est légitime, car « %2 » est sur la liste blanche.</translation>
+    </message>
+    <message id="verdict_browser_blocked">
+        <source></source>
+        <translation>%1 est lui-même bloqué : il est masqué avant qu’une page ne compte.</translation>
+    </message>
+    <message id="verdict_browser_not_whitelisted">
+        <source></source>
+        <translation>%1 n’est pas sur la liste blanche des applications : tout son temps est distrait, quelle que soit la page.</translation>
+    </message>
+    <message id="verdict_no_lists">
+        <source></source>
+        <translation>Les deux listes sont vides : tout site compte comme légitime.</translation>
+    </message>
+    <message id="verdict_not_blocked">
+        <source></source>
+        <translation>Rien ne correspond sur la liste des sites bloqués, et il n’y a pas de liste blanche.</translation>
+    </message>
+    <message id="verdict_not_whitelisted">
+        <source></source>
+        <translation>Ce navigateur a une liste blanche, et rien n’y correspond.</translation>
+    </message>
+    <message id="verdict_unreadable">
+        <source></source>
+        <translation>Aucun site n’est reconnaissable dans ce texte.</translation>
+    </message>
+    <message id="verdict_whitelisted">
+        <source></source>
+        <translation>Correspond à « %1 » sur la liste blanche.</translation>
     </message>
     <message id="whitelisted_count" numerus="yes">
         <source></source>

@@ -3,6 +3,9 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <algorithm>
+#include <random>
+
 using namespace norvin;
 
 class tst_AppBlockerService final : public QObject {
@@ -13,6 +16,8 @@ private Q_SLOTS:
     void stoppingCallsOffABlockThatIsUnderWay();
     void ownApplicationIsNeverHidden();
     void siteRules();
+    void theVerdictNamesItsRule();
+    void theVerdictIsTheRuleForEveryDomain();
     void sitesAreNormalisedAndRefused();
     void listsSurviveARestart();
     void damagedListsReadAsEmpty();
@@ -121,6 +126,74 @@ void tst_AppBlockerService::siteRules() {
     QVERIFY(!legitimate("other.org"));
     QVERIFY(!legitimate("news.example.org"));
     QVERIFY(blocker.isSiteLegitimate(chrome, QStringLiteral("other.org")));
+}
+
+void tst_AppBlockerService::theVerdictNamesItsRule() {
+    using Rule = SiteVerdict::Rule;
+    const QSet<QString> none;
+    const QSet<QString> example{QStringLiteral("example.org")};
+    const QSet<QString> news{QStringLiteral("news.example.org")};
+    const QString address = QStringLiteral("https://www.news.example.org/page");
+    const auto expect = [](const SiteVerdict& verdict, Rule rule, const QSet<QString>& whitelist,
+                           const QSet<QString>& blocking) {
+        QCOMPARE(verdict.rule, rule);
+        QCOMPARE(verdict.whitelistPattern, whitelist.isEmpty() ? QString() : *whitelist.cbegin());
+        QCOMPARE(verdict.blockingPattern, blocking.isEmpty() ? QString() : *blocking.cbegin());
+    };
+    const QString other = QStringLiteral("other.org");
+    expect(judgeSite(address, none, none), Rule::noLists, none, none);
+    expect(judgeSite(address, example, none), Rule::whitelisted, example, none);
+    expect(judgeSite(other, example, none), Rule::notWhitelisted, none, none);
+    expect(judgeSite(address, none, example), Rule::blocked, none, example);
+    expect(judgeSite(other, none, example), Rule::notBlocked, none, none);
+    // Counting goes by the whitelist, closing tabs by the blocked list.
+    expect(judgeSite(address, news, example), Rule::whitelisted, news, example);
+    QVERIFY(judgeSite(address, news, example).isLegitimate() &&
+            judgeSite(address, news, example).isBlocked());
+    expect(judgeSite(QStringLiteral("example.org"), news, example), Rule::notWhitelisted, none, example);
+}
+
+// The rules once more, as plainly as they can be put.
+void tst_AppBlockerService::theVerdictIsTheRuleForEveryDomain() {
+    FocusRig rig;
+    const QString firefox = QStringLiteral("org.mozilla.firefox");
+    const auto matches = [](const QString& domain, const QSet<QString>& patterns) {
+        return std::any_of(patterns.cbegin(), patterns.cend(), [&domain](QString pattern) {
+            if (pattern.startsWith(QLatin1String("*.")))
+                pattern.remove(0, 2);
+            return domain == pattern || domain.endsWith(u'.' + pattern);
+        });
+    };
+    std::mt19937 random(20240517);
+    const auto name = [&random] {
+        QStringList labels;
+        for (auto count = 1 + random() % 3; count > 0; --count)
+            labels.append(QString(QLatin1String("ab")).left(1 + static_cast<int>(random() % 2)));
+        return labels.join(u'.');
+    };
+    const auto list = [&] {
+        QSet<QString> patterns;
+        for (auto count = random() % 4; count > 0; --count)
+            patterns.insert((random() % 4 == 0 ? QStringLiteral("*.") : QString()) + name());
+        return patterns;
+    };
+    int blocked = 0;
+    int distracted = 0;
+    for (int round = 0; round < 3000; ++round) {
+        const QSet<QString> w = list();
+        const QSet<QString> b = list();
+        rig.blocker.replaceLists({.blockedAppBundleIDs = {},
+                                  .whitelistedAppBundleIDs = {},
+                                  .browserWhitelistedSites = {{firefox, w}},
+                                  .browserBlockedSites = {{firefox, b}}});
+        const QString domain = name();
+        const bool isLegitimate = w.isEmpty() ? !matches(domain, b) : matches(domain, w);
+        QCOMPARE(rig.blocker.isSiteLegitimate(firefox, domain), isLegitimate);
+        QCOMPARE(rig.blocker.shouldBlockSite(firefox, domain), matches(domain, b));
+        blocked += matches(domain, b) ? 1 : 0;
+        distracted += isLegitimate ? 0 : 1;
+    }
+    QVERIFY(blocked > 300 && distracted > 300 && blocked < 2700 && distracted < 2700);
 }
 
 void tst_AppBlockerService::sitesAreNormalisedAndRefused() {

@@ -12,6 +12,7 @@ private Q_SLOTS:
     void joinsInstalledRunningAndListed();
     void searchIgnoresCaseAndAccents();
     void anApplicationIsOnOneListAtMost();
+    void whatIsListedElsewhereAppears();
 };
 
 namespace {
@@ -71,6 +72,16 @@ void tst_ApplicationListModel::anApplicationIsOnOneListAtMost() {
     QCOMPARE(model.index(0).data(ApplicationListModel::ListRole).toString(), QStringLiteral("whitelisted"));
     model.setList(editor, QStringLiteral("none"));
     QCOMPARE(model.blockedCount() + model.whitelistedCount(), 0);
+}
+
+void tst_ApplicationListModel::whatIsListedElsewhereAppears() {
+    FocusRig rig;
+    install(rig, "org.example.Editor", "Editor");
+    ApplicationListModel model(rig.catalog, rig.workspace, rig.blocker);
+    model.refresh();
+    rig.blocker.addAppToBlocklist(QStringLiteral("org.example.Editor"));
+    rig.blocker.addAppToBlocklist(QStringLiteral("org.gone.App"));
+    QCOMPARE(names(model), QStringList({QStringLiteral("Editor"), QStringLiteral("org.gone.App")}));
 }
 
 QTEST_GUILESS_MAIN(tst_ApplicationListModel)

@@ -11,6 +11,8 @@ private Q_SLOTS:
     void pastedAddressesBecomePatterns();
     void matching_data();
     void matching();
+    void theLongestMatchingPatternIsNamed();
+    void aPasteIsTakenApart();
 };
 
 void tst_SitePattern::pastedAddressesBecomePatterns_data() {
@@ -38,6 +40,8 @@ void tst_SitePattern::pastedAddressesBecomePatterns_data() {
     row("*.", "");
     row("two words", "");
     row("http://[::1]:80/", "");
+    row("example..org", "");
+    row("-", "");
 }
 
 void tst_SitePattern::pastedAddressesBecomePatterns() {
@@ -76,6 +80,31 @@ void tst_SitePattern::matching() {
     QFETCH(QString, domain);
     QFETCH(QString, pattern);
     QTEST(matchesDomain(normalizedDomain(domain), {pattern}), "matches");
+}
+
+void tst_SitePattern::theLongestMatchingPatternIsNamed() {
+    const QSet<QString> patterns{QStringLiteral("org"), QStringLiteral("*.example.org"),
+                                 QStringLiteral("news.example.org"), QStringLiteral("ample.org")};
+    const auto expect = [&patterns](const char* domain, const char* pattern) {
+        QCOMPARE(matchingPattern(QString::fromLatin1(domain), patterns), QString::fromLatin1(pattern));
+    };
+    expect("a.news.example.org", "news.example.org");
+    expect("old.example.org", "*.example.org");
+    expect("example.org", "*.example.org");
+    expect("other.org", "org");
+    expect("example.com", "");
+    expect("", "");
+    expect("org.", "");
+}
+
+void tst_SitePattern::aPasteIsTakenApart() {
+    const PastedSites sites = pastedSites(
+        QStringLiteral(" https://www.a.org/x?y=1,b.org;\r\n\thttp://wiki:80/ and a.org\nc%d.org "));
+    QCOMPARE(sites.patterns,
+             QStringList({QStringLiteral("a.org"), QStringLiteral("b.org"), QStringLiteral("wiki")}));
+    QCOMPARE(sites.refused, QStringList({QStringLiteral("and"), QStringLiteral("c%d.org")}));
+    QCOMPARE(pastedSites(QStringLiteral("localhost")).patterns, QStringList{QStringLiteral("localhost")});
+    QVERIFY(pastedSites(QStringLiteral(" ,;\n")).patterns.isEmpty());
 }
 
 QTEST_APPLESS_MAIN(tst_SitePattern)
