@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <utility>
 
 namespace norvin {
 
@@ -12,71 +13,141 @@ QString text(const QString& key) {
     return qtTrId(key.toUtf8().constData());
 }
 
+// Not every text names its subject.
+QString text(const QString& key, const QString& subject) {
+    QString result = text(key);
+    return subject.isEmpty() ? result : result.replace(QLatin1String("%1"), subject);
+}
+
+QStringList labels(const QList<TrackingHealthModel::Action>& actions) {
+    QStringList result;
+    for (const TrackingHealthModel::Action& action : actions)
+        result.append(text(action.labelKey));
+    return result;
+}
+
+QStringList labelKeys(const QList<TrackingHealthModel::Action>& actions) {
+    QStringList result;
+    for (const TrackingHealthModel::Action& action : actions)
+        result.append(action.labelKey);
+    return result;
+}
+
 } // namespace
 
 TrackingHealthModel::TrackingHealthModel(QList<Check> checks, QObject* parent)
     : QAbstractListModel(parent)
-    , m_checks(std::move(checks)) {
-    m_answers.fill(Availability::available(), m_checks.size());
+    , m_steadyCount(checks.size()) {
+    for (Check& check : checks)
+        m_rows.append({std::move(check), Availability::available(), {}});
     refresh();
 }
 
 TrackingHealthModel::~TrackingHealthModel() = default;
 
+void TrackingHealthModel::setPassingChecks(std::function<QList<Check>()> passingChecks) {
+    m_passingChecks = std::move(passingChecks);
+}
+
 int TrackingHealthModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(m_checks.size());
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
 }
 
 QVariant TrackingHealthModel::data(const QModelIndex& index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
-    const std::optional<Unavailable>& reason = m_answers.at(index.row()).reason();
+    const Row& row = m_rows.at(index.row());
+    const std::optional<Unavailable>& reason = row.answer.reason();
     switch (role) {
     case Qt::DisplayRole:
     case CapabilityRole:
-        return text(m_checks.at(index.row()).capabilityKey);
+        return text(row.check.capabilityKey, row.check.subject);
     case IsAvailableRole:
         return !reason.has_value();
     case ReasonRole:
-        return reason ? text(reason->reasonKey) : QString();
+        return reason ? text(reason->reasonKey, row.check.subject) : QString();
     case RemedyRole:
-        return reason ? text(reason->reasonKey + QStringLiteral("_remedy")) : QString();
+        return reason ? text(reason->reasonKey + QStringLiteral("_remedy"), row.check.subject) : QString();
     case DetailRole:
         return reason ? reason->detail : QString();
+    case ActionsRole:
+        return labels(row.actions);
     default:
         return {};
     }
 }
 
 QHash<int, QByteArray> TrackingHealthModel::roleNames() const {
-    return {{CapabilityRole, "capability"},
-            {IsAvailableRole, "isAvailable"},
-            {ReasonRole, "reason"},
-            {RemedyRole, "remedy"},
-            {DetailRole, "detail"}};
+    return {{CapabilityRole, "capability"}, {IsAvailableRole, "isAvailable"}, {ReasonRole, "reason"},
+            {RemedyRole, "remedy"},         {DetailRole, "detail"},           {ActionsRole, "actions"}};
+}
+
+QString TrackingHealthModel::notice() const {
+    return m_notice.textKey.isEmpty() ? QString() : text(m_notice.textKey, m_notice.detail);
+}
+
+void TrackingHealthModel::replacePassingChecks() {
+    QList<Check> checks = m_passingChecks ? m_passingChecks() : QList<Check>();
+    const bool isSame = std::equal(checks.cbegin(), checks.cend(), m_rows.cbegin() + m_steadyCount,
+                                   m_rows.cend(), [](const Check& check, const Row& row) {
+                                       return check.capabilityKey == row.check.capabilityKey &&
+                                              check.subject == row.check.subject;
+                                   });
+    if (isSame) {
+        for (qsizetype i = 0; i < checks.size(); ++i)
+            m_rows[m_steadyCount + i].check = std::move(checks[i]);
+        return;
+    }
+    beginResetModel();
+    m_rows.resize(m_steadyCount);
+    for (Check& check : checks)
+        m_rows.append({std::move(check), Availability::available(), {}});
+    endResetModel();
 }
 
 void TrackingHealthModel::refresh() {
-    for (qsizetype row = 0; row < m_checks.size(); ++row) {
-        Availability answer = m_checks.at(row).ask();
-        if (answer == m_answers.at(row))
+    replacePassingChecks();
+    for (qsizetype i = 0; i < m_rows.size(); ++i) {
+        Row& row = m_rows[i];
+        Availability answer = row.check.ask();
+        QList<Action> actions = row.check.actions ? row.check.actions() : QList<Action>();
+        const bool isSame = answer == row.answer && labelKeys(actions) == labelKeys(row.actions);
+        row.answer = std::move(answer);
+        row.actions = std::move(actions);
+        if (isSame)
             continue;
-        m_answers[row] = std::move(answer);
-        const QModelIndex changed = index(static_cast<int>(row));
+        const QModelIndex changed = index(static_cast<int>(i));
         Q_EMIT dataChanged(changed, changed);
     }
-    const auto problems =
-        static_cast<int>(std::count_if(m_answers.cbegin(), m_answers.cend(),
-                                       [](const Availability& answer) { return !answer.isAvailable(); }));
+    const auto problems = static_cast<int>(std::count_if(
+        m_rows.cbegin(), m_rows.cend(), [](const Row& row) { return !row.answer.isAvailable(); }));
     if (problems != m_problemCount) {
         m_problemCount = problems;
         Q_EMIT problemCountChanged();
     }
 }
 
+void TrackingHealthModel::act(int row, int action) {
+    if (row < 0 || row >= m_rows.size() || action < 0 || action >= m_rows.at(row).actions.size())
+        return;
+    const std::function<Notice()> run = m_rows.at(row).actions.at(action).run;
+    setNotice(run());
+    refresh();
+}
+
+void TrackingHealthModel::dismissNotice() {
+    setNotice({});
+}
+
+void TrackingHealthModel::setNotice(Notice notice) {
+    m_notice = std::move(notice);
+    Q_EMIT noticeChanged();
+}
+
 void TrackingHealthModel::retranslate() {
-    if (!m_checks.isEmpty())
-        Q_EMIT dataChanged(index(0), index(static_cast<int>(m_checks.size()) - 1));
+    if (!m_rows.isEmpty())
+        Q_EMIT dataChanged(index(0), index(static_cast<int>(m_rows.size()) - 1));
+    Q_EMIT noticeChanged();
 }
 
 } // namespace norvin

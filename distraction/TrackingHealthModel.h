@@ -5,16 +5,20 @@
 #include <QAbstractListModel>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 
 namespace norvin {
 
-/// What of this desktop the program can use, and what to do about the rest. Main thread only.
+/// What of this desktop the program can use, what to do about the rest, and the buttons that do it. Main
+/// thread only.
 class TrackingHealthModel final : public QAbstractListModel {
     Q_OBJECT
     /// How many checks fail.
     Q_PROPERTY(int problemCount READ problemCount NOTIFY problemCountChanged)
+    /// What came of the last action, in the user's language; empty for nothing worth saying.
+    Q_PROPERTY(QString notice READ notice NOTIFY noticeChanged)
 public:
     enum Role {
         CapabilityRole = Qt::UserRole + 1, ///< what it is, in the user's language
@@ -22,37 +26,75 @@ public:
         ReasonRole,                        ///< why not, in the user's language; empty while available
         RemedyRole,                        ///< what to do, in the user's language; empty while available
         DetailRole,                        ///< technical detail, may be empty
+        ActionsRole,                       ///< labels of what act() does, in the user's language
+    };
+    /// A sentence about what an action came to.
+    struct Notice {
+        /// Localisation key; empty for nothing to say.
+        QString textKey;
+        /// File or address that the sentence names with %1; may be empty.
+        QString detail;
+    };
+    struct Action {
+        QString labelKey;
+        std::function<Notice()> run;
     };
     struct Check {
         /// Localisation key ("health_frontmost_application").
         QString capabilityKey;
         std::function<Availability()> ask;
+        /// What the texts of the check name with %1 (a browser); empty for nothing.
+        QString subject = {};
+        /// What can be done, as things are now; may be empty.
+        std::function<QList<Action>()> actions = {};
     };
 
     explicit TrackingHealthModel(QList<Check> checks, QObject* parent = nullptr);
     ~TrackingHealthModel() override;
 
+    /// Checks that come and go with what runs on the desktop; they follow the others from the next refresh()
+    /// on.
+    void setPassingChecks(std::function<QList<Check>()> passingChecks);
+
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
     [[nodiscard]] int problemCount() const { return m_problemCount; }
+    [[nodiscard]] QString notice() const;
 
     /// Localisation key of a check; by row.
-    [[nodiscard]] const QString& capabilityKey(int row) const { return m_checks.at(row).capabilityKey; }
-    [[nodiscard]] const Availability& availability(int row) const { return m_answers.at(row); }
+    [[nodiscard]] const QString& capabilityKey(int row) const { return m_rows.at(row).check.capabilityKey; }
+    /// What the check is about; empty for nothing in particular.
+    [[nodiscard]] const QString& subject(int row) const { return m_rows.at(row).check.subject; }
+    [[nodiscard]] const Availability& availability(int row) const { return m_rows.at(row).answer; }
 
     /// Asks every check again.
     Q_INVOKABLE void refresh();
+    /// Does the action at that place of the row's list, and asks every check again.
+    Q_INVOKABLE void act(int row, int action);
+    Q_INVOKABLE void dismissNotice();
     /// Gives the texts anew, for another language.
     void retranslate();
 
 Q_SIGNALS:
     void problemCountChanged();
+    void noticeChanged();
 
 private:
-    QList<Check> m_checks;
-    QList<Availability> m_answers;
+    struct Row {
+        Check check;
+        Availability answer = Availability::available();
+        QList<Action> actions;
+    };
+
+    void replacePassingChecks();
+    void setNotice(Notice notice);
+
+    const qsizetype m_steadyCount;
+    QList<Row> m_rows;
+    std::function<QList<Check>()> m_passingChecks;
     int m_problemCount = 0;
+    Notice m_notice;
 };
 
 } // namespace norvin

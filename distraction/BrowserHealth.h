@@ -1,0 +1,63 @@
+#pragma once
+
+#include "distraction/TrackingHealthModel.h"
+
+#include <QObject>
+#include <QString>
+
+namespace norvin {
+
+class AppBlockerService;
+class BrowserAccess;
+class Preferences;
+
+/// What stands between the user and pages that can be told apart: the checks of the tracking-health screen,
+/// and the question that the block-list screen asks once. Main thread only.
+class BrowserHealth final : public QObject {
+    Q_OBJECT
+    /// Whether something should be said over the block lists: a whitelisted browser cannot be looked into,
+    /// and the user has not declined.
+    Q_PROPERTY(bool hasBanner READ hasBanner NOTIFY bannerChanged)
+    /// In the user's language; empty without a banner, as are the following.
+    Q_PROPERTY(QString bannerText READ bannerText NOTIFY bannerChanged)
+    /// What the button does; empty where nothing can be done by a button.
+    Q_PROPERTY(QString bannerActionText READ bannerActionText NOTIFY bannerChanged)
+public:
+    /// All must outlive this.
+    BrowserHealth(BrowserAccess& access, AppBlockerService& blocker, Preferences& preferences,
+                  QObject* parent = nullptr);
+    ~BrowserHealth() override;
+
+    /// The way to pages in general, and one check for each known browser that runs.
+    [[nodiscard]] TrackingHealthModel::Check accessCheck();
+    [[nodiscard]] QList<TrackingHealthModel::Check> browserChecks();
+
+    [[nodiscard]] bool hasBanner() const { return !m_bannerReasonKey.isEmpty(); }
+    [[nodiscard]] QString bannerText() const;
+    [[nodiscard]] QString bannerActionText() const;
+    /// Does what bannerActionText says.
+    Q_INVOKABLE void bannerAct();
+    /// The user does not want to be asked again; the tracking-health screen still says what is missing.
+    Q_INVOKABLE void declineBanner();
+    /// Looks anew at what the banner has to say. May wait 300 ms for each browser that is new.
+    Q_INVOKABLE void refreshBanner();
+    /// Gives the texts anew, for another language.
+    void retranslate() { Q_EMIT bannerChanged(); }
+
+Q_SIGNALS:
+    void bannerChanged();
+    /// What the checks answer may have changed.
+    void changed();
+
+private:
+    [[nodiscard]] QList<TrackingHealthModel::Action> accessActions();
+    [[nodiscard]] QList<TrackingHealthModel::Action> browserActions(const QString& bundleIdentifier);
+
+    BrowserAccess& m_access;
+    AppBlockerService& m_blocker;
+    Preferences& m_preferences;
+    QString m_bannerReasonKey;
+    QString m_bannerBrowser;
+};
+
+} // namespace norvin
