@@ -10,6 +10,7 @@
 #include <pulse/operation.h>
 #include <pulse/proplist.h>
 #include <pulse/stream.h>
+#include <utility>
 
 namespace norvin {
 
@@ -89,23 +90,30 @@ void PulseAudioOutput::connectToServer() {
     pa_proplist* properties = pa_proplist_new();
     pa_proplist_sets(properties, PA_PROP_APPLICATION_ID, ownBundleIdentifier);
     pa_proplist_sets(properties, PA_PROP_APPLICATION_ICON_NAME, ownBundleIdentifier);
-    m_context.reset(pa_context_new_with_proplist(m_loop.api(), "Norvin Focus", properties));
+    m_connection.context.reset(pa_context_new_with_proplist(m_loop.api(), "Norvin Focus", properties));
     pa_proplist_free(properties);
     m_state = State::connecting;
     m_answerDue = m_clock.monotonic();
+    if (!m_connection.context) {
+        fail(PA_ERR_INTERNAL);
+        return;
+    }
     pa_context_set_state_callback(
-        m_context.get(), [](pa_context*, void* userdata) { self(userdata).contextChanged(); }, this);
-    if (pa_context_connect(m_context.get(), nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) < 0 && m_context)
-        fail(pa_context_errno(m_context.get()));
+        m_connection.context.get(), [](pa_context*, void* userdata) { self(userdata).contextChanged(); },
+        this);
+    if (pa_context_connect(m_connection.context.get(), nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) < 0 &&
+        m_connection.context)
+        fail(pa_context_errno(m_connection.context.get()));
 }
 
 void PulseAudioOutput::contextChanged() {
-    switch (pa_context_get_state(m_context.get())) {
+    switch (pa_context_get_state(m_connection.context.get())) {
     case PA_CONTEXT_READY:
         if (m_isProbing && m_waiting.empty()) {
             m_isProbing = false;
-            m_context.reset();
-            m_state = State::disconnected;
+            disconnectLater();
+            m_backOff = 0ms;
+            m_retryAt = 0ms;
             setAvailability(Availability::available());
             return;
         }
@@ -114,7 +122,7 @@ void PulseAudioOutput::contextChanged() {
         return;
     case PA_CONTEXT_FAILED:
     case PA_CONTEXT_TERMINATED:
-        fail(pa_context_errno(m_context.get()));
+        fail(pa_context_errno(m_connection.context.get()));
         return;
     default:
         return;
@@ -124,13 +132,13 @@ void PulseAudioOutput::contextChanged() {
 void PulseAudioOutput::openStream() {
     const pa_sample_spec format{
         .format = PA_SAMPLE_FLOAT32NE, .rate = static_cast<uint32_t>(m_sampleRate), .channels = 1};
-    m_stream.reset(pa_stream_new(m_context.get(), "Norvin Focus", &format, nullptr));
-    if (!m_stream) {
-        fail(pa_context_errno(m_context.get()));
+    m_connection.stream.reset(pa_stream_new(m_connection.context.get(), "Norvin Focus", &format, nullptr));
+    if (!m_connection.stream) {
+        fail(pa_context_errno(m_connection.context.get()));
         return;
     }
     pa_stream_set_state_callback(
-        m_stream.get(), [](pa_stream*, void* userdata) { self(userdata).streamChanged(); }, this);
+        m_connection.stream.get(), [](pa_stream*, void* userdata) { self(userdata).streamChanged(); }, this);
     const auto bytes = [&format](milliseconds length) {
         return static_cast<uint32_t>(pa_usec_to_bytes(static_cast<pa_usec_t>(length / 1us), &format));
     };
@@ -140,14 +148,14 @@ void PulseAudioOutput::openStream() {
                                 .prebuf = bytes(prebuffer),
                                 .minreq = bytes(requestedPiece),
                                 .fragsize = serversChoice};
-    if (pa_stream_connect_playback(m_stream.get(), nullptr, &buffer, PA_STREAM_START_CORKED, nullptr,
-                                   nullptr) < 0 &&
-        m_stream)
-        fail(pa_context_errno(m_context.get()));
+    if (pa_stream_connect_playback(m_connection.stream.get(), nullptr, &buffer, PA_STREAM_START_CORKED,
+                                   nullptr, nullptr) < 0 &&
+        m_connection.stream)
+        fail(pa_context_errno(m_connection.context.get()));
 }
 
 void PulseAudioOutput::streamChanged() {
-    switch (pa_stream_get_state(m_stream.get())) {
+    switch (pa_stream_get_state(m_connection.stream.get())) {
     case PA_STREAM_READY:
         m_state = State::held;
         m_backOff = 0ms;
@@ -156,7 +164,7 @@ void PulseAudioOutput::streamChanged() {
         return;
     case PA_STREAM_FAILED:
     case PA_STREAM_TERMINATED:
-        fail(pa_context_errno(m_context.get()));
+        fail(pa_context_errno(m_connection.context.get()));
         return;
     default:
         return;
@@ -185,8 +193,9 @@ void PulseAudioOutput::write() {
         if (isStuck || start > sound.latestStart)
             continue;
         const size_t size = sound.samples.size() * sizeof(float);
-        if (pa_stream_write(m_stream.get(), sound.samples.data(), size, nullptr, 0, PA_SEEK_RELATIVE) < 0) {
-            fail(pa_context_errno(m_context.get()));
+        if (pa_stream_write(m_connection.stream.get(), sound.samples.data(), size, nullptr, 0,
+                            PA_SEEK_RELATIVE) < 0) {
+            fail(pa_context_errno(m_connection.context.get()));
             return;
         }
         m_soundEnd = start + milliseconds(static_cast<qint64>(sound.samples.size()) * 1000 / m_sampleRate);
@@ -198,29 +207,31 @@ void PulseAudioOutput::write() {
 void PulseAudioOutput::setHeld(bool held) {
     m_state = held ? State::holding : State::releasing;
     m_answerDue = m_clock.monotonic();
-    ask(pa_stream_cork(m_stream.get(), held ? 1 : 0, &PulseAudioOutput::streamAnswered, this));
+    ask(pa_stream_cork(m_connection.stream.get(), held ? 1 : 0, &PulseAudioOutput::streamAnswered, this));
 }
 
 void PulseAudioOutput::drain() {
     m_isDraining = true;
     m_hasUndrained = false;
     m_answerDue = m_soundEnd;
-    ask(pa_stream_drain(m_stream.get(), &PulseAudioOutput::streamAnswered, this));
+    ask(pa_stream_drain(m_connection.stream.get(), &PulseAudioOutput::streamAnswered, this));
 }
 
 void PulseAudioOutput::ask(pa_operation* operation) {
     if (operation)
         pa_operation_unref(operation);
     else
-        fail(pa_context_errno(m_context.get()));
+        fail(pa_context_errno(m_connection.context.get()));
 }
 
-void PulseAudioOutput::streamAnswered(pa_stream*, int success, void* userdata) {
+void PulseAudioOutput::streamAnswered(pa_stream* stream, int success, void* userdata) {
     PulseAudioOutput& output = self(userdata);
+    if (stream != output.m_connection.stream.get())
+        return;
     if (success != 0)
         output.answered();
     else
-        output.fail(pa_context_errno(output.m_context.get()));
+        output.fail(pa_context_errno(output.m_connection.context.get()));
 }
 
 // One question at a time is with the server; what happens next follows from its answer.
@@ -248,11 +259,21 @@ void PulseAudioOutput::noticeSilence() {
         setAvailability(availabilityOf(PA_ERR_TIMEOUT));
 }
 
+// libpulse does not expect to be disconnected from within every one of its callbacks.
+void PulseAudioOutput::disconnectLater() {
+    m_state = State::disconnected;
+    if (m_connection.stream)
+        pa_stream_set_state_callback(m_connection.stream.get(), nullptr, nullptr);
+    if (m_connection.context)
+        pa_context_set_state_callback(m_connection.context.get(), nullptr, nullptr);
+    m_discarded.push_back(std::exchange(m_connection, {}));
+    QMetaObject::invokeMethod(
+        this, [this] { m_discarded.clear(); }, Qt::QueuedConnection);
+}
+
 void PulseAudioOutput::fail(int error) {
     const bool wasConnected = m_state != State::connecting;
-    m_stream.reset();
-    m_context.reset();
-    m_state = State::disconnected;
+    disconnectLater();
     m_isProbing = false;
     m_isDraining = false;
     m_hasUndrained = false;

@@ -18,7 +18,9 @@ class Clock;
 /// A stream to PulseAudio, or to PipeWire in its place, over libpulse's asynchronous interface. Connects when
 /// there is something to play, never starts a server, and holds its stream while it has nothing to play, so
 /// that the output can rest. A server that is gone is tried again, at most every few seconds, by what is
-/// queued next; one that does not answer is waited for, and what was to be played meanwhile is dropped.
+/// queued next; one that does not answer is waited for, and what was to be played meanwhile is dropped. (What
+/// is queued while a sound is under way is sent after it at once, to follow without a gap, and shares its
+/// fate.)
 ///
 /// Unavailable with "health_no_sound_server", with "health_sound_server_silent" where there is a server that
 /// does not answer, or with "health_no_sound_device" where it has no output, until a connection succeeds.
@@ -51,6 +53,10 @@ private:
         void operator()(pa_context* context) const;
         void operator()(pa_stream* stream) const;
     };
+    struct Connection {
+        std::unique_ptr<pa_context, Disconnect> context;
+        std::unique_ptr<pa_stream, Disconnect> stream;
+    };
 
     static void streamAnswered(pa_stream* stream, int success, void* userdata);
 
@@ -65,14 +71,15 @@ private:
     void ask(pa_operation* operation);
     void answered();
     void noticeSilence();
+    void disconnectLater();
     void fail(int error);
     void setAvailability(const Availability& availability);
 
     Clock& m_clock;
     int m_sampleRate;
     PulseEventLoop m_loop;
-    std::unique_ptr<pa_context, Disconnect> m_context;
-    std::unique_ptr<pa_stream, Disconnect> m_stream;
+    Connection m_connection;
+    std::vector<Connection> m_discarded;
     State m_state = State::disconnected;
     bool m_isProbing = false;
     std::deque<Waiting> m_waiting;
