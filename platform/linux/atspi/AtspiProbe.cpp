@@ -1,0 +1,131 @@
+#include "platform/linux/atspi/AtspiProbe.h"
+
+#include "platform/Clock.h"
+#include "platform/linux/atspi/AtspiDecoding.h"
+
+#include <algorithm>
+
+namespace norvin {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr QLatin1String accessible("org.a11y.atspi.Accessible");
+constexpr QLatin1String action("org.a11y.atspi.Action");
+constexpr QLatin1String document("org.a11y.atspi.Document");
+constexpr QLatin1String textInterface("org.a11y.atspi.Text");
+constexpr QLatin1String properties("org.freedesktop.DBus.Properties");
+constexpr QLatin1String busInterface("org.freedesktop.DBus");
+
+AtspiReference registry() {
+    return {.service = QStringLiteral("org.a11y.atspi.Registry"),
+            .path = QStringLiteral("/org/a11y/atspi/accessible/root")};
+}
+
+AtspiReference bus() {
+    return {.service = QStringLiteral("org.freedesktop.DBus"),
+            .path = QStringLiteral("/org/freedesktop/DBus")};
+}
+
+// A call with less time than this left may well remain unanswered by a program that is only slow.
+constexpr auto enoughTime = 100ms;
+
+} // namespace
+
+AtspiProbe::AtspiProbe(std::shared_ptr<AtspiTransport> transport, const Clock& clock)
+    : m_transport(std::move(transport))
+    , m_clock(clock)
+    , m_deadline(clock.monotonic() + length) {}
+
+void AtspiProbe::forgetGone() {
+    if (m_failure == Failure::gone)
+        m_failure = Failure::none;
+}
+
+QVariantList AtspiProbe::call(const AtspiReference& target, QLatin1String interface, QLatin1String member,
+                              const QVariantList& arguments) {
+    if (m_failure != Failure::none || target.isNull())
+        return {};
+    const auto left = m_deadline - m_clock.monotonic();
+    if (left < 1ms || m_calls == mostCalls) {
+        m_failure = Failure::exhausted;
+        return {};
+    }
+    ++m_calls;
+    const AtspiReply reply = m_transport->call({target, interface, member, arguments}, left);
+    switch (reply.status) {
+    case AtspiReply::Status::answered:
+        return reply.values;
+    case AtspiReply::Status::refused:
+        break;
+    case AtspiReply::Status::silent:
+        m_failure = left >= enoughTime ? Failure::silent : Failure::exhausted;
+        break;
+    case AtspiReply::Status::gone:
+        m_failure = Failure::gone;
+        break;
+    }
+    return {};
+}
+
+std::vector<AtspiReference> AtspiProbe::applications() {
+    return decodeReferences(call(registry(), accessible, QLatin1String("GetChildren")), mostChildren);
+}
+
+std::optional<qint64> AtspiProbe::processOf(const QString& service) {
+    return decodeNumber(call(bus(), busInterface, QLatin1String("GetConnectionUnixProcessID"), {service}));
+}
+
+std::vector<AtspiReference> AtspiProbe::children(const AtspiReference& object) {
+    auto list = decodeReferences(call(object, accessible, QLatin1String("GetChildren")), mostChildren);
+    std::erase_if(list, [&](const AtspiReference& child) { return child.service != object.service; });
+    return list;
+}
+
+QString AtspiProbe::name(const AtspiReference& object) {
+    return decodeText(
+        call(object, properties, QLatin1String("Get"), {QString(accessible), QStringLiteral("Name")}),
+        longestText);
+}
+
+quint32 AtspiProbe::role(const AtspiReference& object) {
+    const auto number = decodeNumber(call(object, accessible, QLatin1String("GetRole")));
+    return static_cast<quint32>(std::clamp<qint64>(number.value_or(0), 0, 0xffff));
+}
+
+quint64 AtspiProbe::states(const AtspiReference& object) {
+    return decodeStates(call(object, accessible, QLatin1String("GetState")));
+}
+
+QHash<QString, QString> AtspiProbe::attributes(const AtspiReference& object) {
+    return decodeAttributes(call(object, accessible, QLatin1String("GetAttributes")), longestText);
+}
+
+AtspiReference AtspiProbe::embeddedDocument(const AtspiReference& window) {
+    const auto found = decodeEmbedded(call(window, accessible, QLatin1String("GetRelationSet")));
+    return found.service == window.service ? found : AtspiReference{};
+}
+
+QString AtspiProbe::documentUrl(const AtspiReference& object) {
+    // The two names under which browsers give it.
+    for (const auto* name : {"DocURL", "URI"}) {
+        const QString url = decodeText(
+            call(object, document, QLatin1String("GetAttributeValue"), {QString::fromLatin1(name)}),
+            longestText);
+        if (!url.isEmpty())
+            return url;
+    }
+    return {};
+}
+
+QString AtspiProbe::text(const AtspiReference& object) {
+    return decodeText(call(object, textInterface, QLatin1String("GetText"), {0, -1}), longestText);
+}
+
+bool AtspiProbe::doAction(const AtspiReference& object) {
+    const QVariantList reply = call(object, action, QLatin1String("DoAction"), {0});
+    return !reply.isEmpty() && reply.first().toBool();
+}
+
+} // namespace norvin

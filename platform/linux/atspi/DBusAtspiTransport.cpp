@@ -1,0 +1,105 @@
+#include "platform/linux/atspi/DBusAtspiTransport.h"
+
+#include <QDBusArgument>
+#include <QDBusError>
+#include <QDBusMessage>
+#include <QDBusObjectPath>
+#include <QDBusSignature>
+#include <QDBusVariant>
+#include <QVariantMap>
+
+namespace norvin {
+
+namespace {
+
+// Far above what a browser's window has: only a broken or hostile program answers more.
+constexpr int mostValues = 4096;
+constexpr int deepest = 8;
+
+QVariant plain(const QVariant& value, int depth, int& count);
+
+QVariant plainArgument(const QDBusArgument& argument, int depth, int& count) {
+    QVariantList list;
+    switch (argument.currentType()) {
+    case QDBusArgument::ArrayType:
+        argument.beginArray();
+        while (!argument.atEnd() && count < mostValues)
+            list.append(plain(argument.asVariant(), depth, count));
+        return list;
+    case QDBusArgument::StructureType:
+        argument.beginStructure();
+        while (!argument.atEnd() && count < mostValues)
+            list.append(plain(argument.asVariant(), depth, count));
+        return list;
+    case QDBusArgument::MapType: {
+        QVariantMap map;
+        argument.beginMap();
+        while (!argument.atEnd() && count < mostValues) {
+            argument.beginMapEntry();
+            const QString key = plain(argument.asVariant(), depth, count).toString();
+            map.insert(key, plain(argument.asVariant(), depth, count));
+            argument.endMapEntry();
+        }
+        return map;
+    }
+    default:
+        return {};
+    }
+}
+
+QVariant plain(const QVariant& value, int depth, int& count) {
+    ++count;
+    if (depth > deepest)
+        return {};
+    if (value.userType() == qMetaTypeId<QDBusVariant>())
+        return plain(value.value<QDBusVariant>().variant(), depth + 1, count);
+    if (value.userType() == qMetaTypeId<QDBusArgument>())
+        return plainArgument(value.value<QDBusArgument>(), depth + 1, count);
+    if (value.userType() == qMetaTypeId<QDBusObjectPath>())
+        return value.value<QDBusObjectPath>().path();
+    if (value.userType() == qMetaTypeId<QDBusSignature>())
+        return value.value<QDBusSignature>().signature();
+    return value;
+}
+
+AtspiReply::Status statusOf(const QDBusMessage& message) {
+    if (message.type() == QDBusMessage::ReplyMessage)
+        return AtspiReply::Status::answered;
+    switch (QDBusError(message).type()) {
+    case QDBusError::NoReply:
+    case QDBusError::Timeout:
+    case QDBusError::TimedOut:
+        return AtspiReply::Status::silent;
+    case QDBusError::ServiceUnknown:
+    case QDBusError::Disconnected:
+        return AtspiReply::Status::gone;
+    default:
+        return message.errorName() == QLatin1String("org.freedesktop.DBus.Error.NameHasNoOwner")
+                   ? AtspiReply::Status::gone
+                   : AtspiReply::Status::refused;
+    }
+}
+
+} // namespace
+
+DBusAtspiTransport::DBusAtspiTransport(QDBusConnection accessibilityBus)
+    : m_bus(std::move(accessibilityBus)) {}
+
+AtspiReply DBusAtspiTransport::call(const AtspiCall& call, std::chrono::milliseconds timeout) {
+    if (!m_bus.isConnected())
+        return {.status = AtspiReply::Status::gone};
+    QDBusMessage message =
+        QDBusMessage::createMethodCall(call.target.service, call.target.path, call.interface, call.member);
+    message.setArguments(call.arguments);
+    const QDBusMessage answer = m_bus.call(message, QDBus::Block, static_cast<int>(timeout.count()));
+    AtspiReply reply{.status = statusOf(answer)};
+    if (reply.status == AtspiReply::Status::answered) {
+        int count = 0;
+        const QVariantList arguments = answer.arguments();
+        for (const QVariant& argument : arguments)
+            reply.values.append(plain(argument, 0, count));
+    }
+    return reply;
+}
+
+} // namespace norvin
