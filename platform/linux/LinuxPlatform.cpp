@@ -4,7 +4,12 @@
 #include "platform/linux/NullOverlaySupport.h"
 #include "platform/linux/NullWorkspace.h"
 #include "platform/linux/SessionBus.h"
+#include "platform/linux/atspi/AtspiBrowsers.h"
 #include "platform/linux/atspi/AtspiTrust.h"
+#include "platform/linux/browsers/AtspiRoute.h"
+#include "platform/linux/browsers/BrowserRoutes.h"
+#include "platform/linux/browsers/ExtensionRoute.h"
+#include "platform/linux/browsers/LinuxBrowserAccess.h"
 #include "platform/linux/canberra/CanberraSounds.h"
 #include "platform/linux/clock/SystemClock.h"
 #include "platform/linux/freedesktop/FreedesktopNotifications.h"
@@ -13,6 +18,7 @@
 #include "platform/linux/identity/ApplicationIdentity.h"
 #include "platform/linux/login1/Login1SleepMonitor.h"
 #include "platform/linux/settings/IniPreferences.h"
+#include "platform/linux/webextension/ExtensionServer.h"
 #include "platform/linux/x11/X11IdleTimeSource.h"
 #include "platform/linux/x11/X11OverlaySupport.h"
 #include "platform/linux/x11/X11Workspace.h"
@@ -69,7 +75,13 @@ struct LinuxPlatform::Parts {
     FreedesktopNotifications notifications{sessionBus()};
     CanberraSounds sounds;
     AtspiTrust accessibilityTrust{sessionBus()};
+    AtspiBrowsers accessibleBrowsers{sessionBus(), clock};
+    ExtensionServer extensions{clock};
+    ExtensionRoute extensionRoute{extensions};
+    AtspiRoute accessibilityRoute{accessibleBrowsers};
     std::unique_ptr<Workspace> workspace;
+    std::unique_ptr<BrowserRoutes> browserRoutes;
+    std::unique_ptr<BrowserAccess> browserAccess;
     std::unique_ptr<xcb_connection_t, void (*)(xcb_connection_t*)> idleConnection{nullptr, &xcb_disconnect};
     std::unique_ptr<IdleTimeSource> idleTime;
     std::unique_ptr<OverlaySupport> overlays;
@@ -78,6 +90,14 @@ struct LinuxPlatform::Parts {
     Parts() {
         // Not at once: the first frame needs the processor more.
         soundProbe = clock.after(std::chrono::milliseconds(400), [this] { sounds.probe(); });
+        lookAtDisplay();
+        browserRoutes = std::make_unique<BrowserRoutes>(
+            *workspace, QList<BrowserRoute*>{&extensionRoute, &accessibilityRoute});
+        browserAccess =
+            std::make_unique<LinuxBrowserAccess>(*workspace, *browserRoutes, accessibleBrowsers, extensions);
+    }
+
+    void lookAtDisplay() {
         const DisplayServer display = findDisplay();
         if (display.kind == Display::X11) {
             workspace = std::make_unique<X11Workspace>(display.connection, clock, sleepMonitor, identity);
@@ -110,6 +130,22 @@ LinuxPlatform::~LinuxPlatform() = default;
 
 AccessibilityTrust& LinuxPlatform::accessibilityTrust() const {
     return m_parts->accessibilityTrust;
+}
+
+AccessibilityElements& LinuxPlatform::accessibility() const {
+    return *m_parts->browserRoutes;
+}
+
+BrowserScripting& LinuxPlatform::browserScripting() const {
+    return *m_parts->browserRoutes;
+}
+
+BrowserAccess& LinuxPlatform::browserAccess() const {
+    return *m_parts->browserAccess;
+}
+
+Availability LinuxPlatform::listenToExtensions() const {
+    return m_parts->extensions.listen();
 }
 
 Clock& LinuxPlatform::clock() const {

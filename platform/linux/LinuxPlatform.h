@@ -1,7 +1,10 @@
 #pragma once
 
+#include "platform/AccessibilityElement.h"
 #include "platform/AccessibilityTrust.h"
 #include "platform/ApplicationCatalog.h"
+#include "platform/BrowserAccess.h"
+#include "platform/BrowserScripting.h"
 #include "platform/Clock.h"
 #include "platform/IdleTimeSource.h"
 #include "platform/OverlaySupport.h"
@@ -21,6 +24,7 @@ namespace norvin {
 /// | capability | order |
 /// |---|---|
 /// | Workspace | X11 window manager; else none, with "health_wayland_workspace" or "health_no_display" |
+/// | BrowserScripting, AccessibilityElements | extension in the browser; accessibility services |
 /// | IdleTimeSource | X server; else none, with "health_wayland_idle" or "health_no_display" |
 /// | OverlaySupport | X server; else none, with "health_wayland_overlay" or "health_no_display" |
 class LinuxPlatform final {
@@ -31,6 +35,11 @@ public:
     LinuxPlatform& operator=(const LinuxPlatform&) = delete;
 
     [[nodiscard]] AccessibilityTrust& accessibilityTrust() const;
+    [[nodiscard]] AccessibilityElements& accessibility() const;
+    [[nodiscard]] BrowserScripting& browserScripting() const;
+    [[nodiscard]] BrowserAccess& browserAccess() const;
+    /// Lets the extensions in browsers connect, until the platform ends. One process of the user's can do so.
+    [[nodiscard]] Availability listenToExtensions() const;
     [[nodiscard]] Clock& clock() const;
     [[nodiscard]] Preferences& preferences() const;
     [[nodiscard]] ApplicationCatalog& applications() const;

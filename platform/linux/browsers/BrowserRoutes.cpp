@@ -97,12 +97,12 @@ ScriptAnswer BrowserRoutes::readAddress(const FrontWindow& window) {
         return webDomain(page.address).isEmpty() ? ScriptAnswer{} : ScriptAnswer{page.address, std::nullopt};
     case State::noPage:
     case State::elsewhere:
+    case State::unknown:
         return failed(invalidIndex);
     case State::noWindow:
         return failed(noSuchObject);
     case State::notAnswering:
         return failed(timedOut);
-    case State::unknown:
     case State::off:
     case State::notConnected:
         break;
@@ -155,6 +155,10 @@ BrowserRoutes::applicationElement(const RunningApplication& application) {
     }
     Q_ASSERT_X(element, "BrowserRoutes", "the last route has an element for every application");
     return element;
+}
+
+BrowserRoute::State BrowserRoutes::look(qint64 processId) {
+    return readFrontPage({processId, {}}).state;
 }
 
 BrowserRoutes::Standing BrowserRoutes::standing(qint64 processId) const {

@@ -32,6 +32,8 @@ public:
         BrowserRoute::State state = BrowserRoute::State::unknown;
     };
     [[nodiscard]] Standing standing(qint64 processId) const;
+    /// Tries the routes to a browser that need not be in front. @return what came of it
+    [[nodiscard]] BrowserRoute::State look(qint64 processId);
 
 private:
     struct LastRead {

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "platform/BrowserAccess.h"
+#include "platform/linux/browsers/BrowserRoute.h"
+#include "platform/linux/webextension/ExtensionInstaller.h"
+
+#include <QHash>
+
+namespace norvin {
+
+class AtspiBrowsers;
+class BrowserRoutes;
+class ExtensionServer;
+class Workspace;
+
+/// The browsers of this desktop: by accessibility, and by the extension where the user has put it in.
+class LinuxBrowserAccess final : public BrowserAccess {
+    Q_OBJECT
+public:
+    /// All references must outlive this.
+    LinuxBrowserAccess(Workspace& workspace, BrowserRoutes& routes, AtspiBrowsers& accessibility,
+                       ExtensionServer& extensions, ExtensionInstaller installer = ExtensionInstaller(),
+                       QObject* parent = nullptr);
+    ~LinuxBrowserAccess() override;
+
+    [[nodiscard]] QList<Browser> runningBrowsers() override;
+    [[nodiscard]] Availability accessibility() const override;
+    void setAccessibilityEnabled(bool isEnabled) override;
+    [[nodiscard]] bool canInstallExtension(const QString& bundleIdentifier) const override;
+    [[nodiscard]] bool isExtensionInstalled(const QString& bundleIdentifier) const override;
+    [[nodiscard]] ExtensionStep installExtension(const QString& bundleIdentifier) override;
+    [[nodiscard]] ExtensionStep removeExtension(const QString& bundleIdentifier) override;
+
+private:
+    void noteState(qint64 processId);
+    [[nodiscard]] Availability pagesOf(const QString& bundleIdentifier, qint64 processId);
+    [[nodiscard]] QList<ExtensionBrowser> presentBrowsers(const QString& bundleIdentifier) const;
+
+    Workspace& m_workspace;
+    BrowserRoutes& m_routes;
+    AtspiBrowsers& m_accessibility;
+    ExtensionServer& m_extensions;
+    ExtensionInstaller m_installer;
+    QHash<qint64, BrowserRoute::State> m_told; // by process, as changed() has last stood for
+    bool m_isLooking = false;
+};
+
+} // namespace norvin
