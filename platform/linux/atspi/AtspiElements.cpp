@@ -30,7 +30,7 @@ public:
             m_window = AtspiReader::Window{.frame = {}, .state = m_source.access};
             if (m_source.access == BrowserReadState::readable) {
                 m_window = m_source.reader.findWindow(m_probe, m_source.processId, m_source.windowTitle);
-                m_source.reader.conclude(m_source.processId, m_probe);
+                m_source.reader.conclude(m_source.transport, m_source.processId, m_probe);
                 m_reportedFailure = m_probe.failure();
             }
             if (m_window->frame.isNull())
@@ -44,7 +44,7 @@ public:
         if (m_probe.failure() == m_reportedFailure)
             return;
         m_reportedFailure = m_probe.failure();
-        m_source.reader.conclude(m_source.processId, m_probe);
+        m_source.reader.conclude(m_source.transport, m_source.processId, m_probe);
         m_source.report(AtspiReader::stateAfter(m_probe, BrowserReadState::noDocument));
     }
 
@@ -121,11 +121,11 @@ private:
     void appendChildren(List& list, const QString& except) const {
         AtspiProbe& probe = m_look->probe();
         std::vector<std::pair<quint32, AtspiReference>> found;
-        for (const AtspiReference& child : probe.children(m_object)) {
-            if (child.path == except || !(probe.states(child) & AtspiState::showing))
-                continue;
-            found.emplace_back(probe.role(child), child);
-        }
+        auto children = probe.children(m_object);
+        const auto facts = probe.factsOfEach(children);
+        for (size_t i = 0; i < children.size(); ++i)
+            if (children[i].path != except && (facts[i].states & AtspiState::showing))
+                found.emplace_back(facts[i].role, std::move(children[i]));
         std::stable_partition(found.begin(), found.end(),
                               [](const auto& child) { return child.first == AtspiRole::toolBar; });
         for (auto& [role, child] : found)

@@ -43,30 +43,39 @@ void AtspiProbe::forgetGone() {
         m_failure = Failure::none;
 }
 
+std::vector<QVariantList> AtspiProbe::callEach(std::vector<AtspiCall> calls) {
+    std::vector<QVariantList> values(calls.size());
+    if (m_failure != Failure::none || calls.empty())
+        return values;
+    const auto left = m_deadline - m_clock.monotonic();
+    m_calls += static_cast<int>(calls.size());
+    if (left < 1ms || m_calls > mostCalls) {
+        m_failure = Failure::exhausted;
+        return values;
+    }
+    const std::vector<AtspiReply> replies = m_transport->call(calls, left);
+    for (size_t i = 0; i < values.size(); ++i) {
+        switch (replies[i].status) {
+        case AtspiReply::Status::answered:
+            values[i] = replies[i].values;
+            continue;
+        case AtspiReply::Status::refused:
+            continue;
+        case AtspiReply::Status::silent:
+            m_failure = left >= enoughTime ? Failure::silent : Failure::exhausted;
+            break;
+        case AtspiReply::Status::gone:
+            m_failure = Failure::gone;
+            break;
+        }
+        m_failedService = calls[i].target.service;
+    }
+    return values;
+}
+
 QVariantList AtspiProbe::call(const AtspiReference& target, QLatin1String interface, QLatin1String member,
                               const QVariantList& arguments) {
-    if (m_failure != Failure::none || target.isNull())
-        return {};
-    const auto left = m_deadline - m_clock.monotonic();
-    if (left < 1ms || m_calls == mostCalls) {
-        m_failure = Failure::exhausted;
-        return {};
-    }
-    ++m_calls;
-    const AtspiReply reply = m_transport->call({target, interface, member, arguments}, left);
-    switch (reply.status) {
-    case AtspiReply::Status::answered:
-        return reply.values;
-    case AtspiReply::Status::refused:
-        break;
-    case AtspiReply::Status::silent:
-        m_failure = left >= enoughTime ? Failure::silent : Failure::exhausted;
-        break;
-    case AtspiReply::Status::gone:
-        m_failure = Failure::gone;
-        break;
-    }
-    return {};
+    return target.isNull() ? QVariantList() : callEach({{target, interface, member, arguments}}).front();
 }
 
 std::vector<AtspiReference> AtspiProbe::applications() {
@@ -77,25 +86,54 @@ std::optional<qint64> AtspiProbe::processOf(const QString& service) {
     return decodeNumber(call(bus(), busInterface, QLatin1String("GetConnectionUnixProcessID"), {service}));
 }
 
-std::vector<AtspiReference> AtspiProbe::children(const AtspiReference& object) {
-    auto list = decodeReferences(call(object, accessible, QLatin1String("GetChildren")), mostChildren);
-    std::erase_if(list, [&](const AtspiReference& child) { return child.service != object.service; });
-    return list;
-}
-
-QString AtspiProbe::name(const AtspiReference& object) {
-    return decodeText(
-        call(object, properties, QLatin1String("Get"), {QString(accessible), QStringLiteral("Name")}),
-        longestText);
-}
-
-quint32 AtspiProbe::role(const AtspiReference& object) {
-    const auto number = decodeNumber(call(object, accessible, QLatin1String("GetRole")));
-    return static_cast<quint32>(std::clamp<qint64>(number.value_or(0), 0, 0xffff));
+AtspiProbe::References AtspiProbe::children(const AtspiReference& object) {
+    return childrenOfEach({object}).front();
 }
 
 quint64 AtspiProbe::states(const AtspiReference& object) {
     return decodeStates(call(object, accessible, QLatin1String("GetState")));
+}
+
+std::vector<AtspiProbe::References> AtspiProbe::childrenOfEach(const References& objects) {
+    std::vector<AtspiCall> calls;
+    for (const AtspiReference& object : objects)
+        calls.push_back({object, accessible, QLatin1String("GetChildren")});
+    std::vector<References> lists;
+    for (const QVariantList& reply : callEach(std::move(calls))) {
+        References list = decodeReferences(reply, mostChildren);
+        std::erase_if(list, [&](const AtspiReference& child) {
+            return child.service != objects[lists.size()].service;
+        });
+        lists.push_back(std::move(list));
+    }
+    return lists;
+}
+
+std::vector<QString> AtspiProbe::namesOfEach(const References& objects) {
+    std::vector<AtspiCall> calls;
+    for (const AtspiReference& object : objects)
+        calls.push_back(
+            {object, properties, QLatin1String("Get"), {QString(accessible), QStringLiteral("Name")}});
+    std::vector<QString> names;
+    for (const QVariantList& reply : callEach(std::move(calls)))
+        names.push_back(decodeText(reply, longestText));
+    return names;
+}
+
+std::vector<AtspiProbe::Facts> AtspiProbe::factsOfEach(const References& objects) {
+    std::vector<AtspiCall> calls;
+    for (const AtspiReference& object : objects) {
+        calls.push_back({object, accessible, QLatin1String("GetState")});
+        calls.push_back({object, accessible, QLatin1String("GetRole")});
+    }
+    const auto replies = callEach(std::move(calls));
+    std::vector<Facts> facts;
+    for (size_t i = 0; i < replies.size(); i += 2) {
+        const qint64 role = decodeNumber(replies[i + 1]).value_or(0);
+        facts.push_back({.role = static_cast<quint32>(std::clamp<qint64>(role, 0, 0xffff)),
+                         .states = decodeStates(replies[i])});
+    }
+    return facts;
 }
 
 QHash<QString, QString> AtspiProbe::attributes(const AtspiReference& object) {

@@ -50,7 +50,7 @@ public:
 
     static constexpr std::chrono::milliseconds length{300};
     static constexpr int mostCalls = 3000;
-    static constexpr size_t mostChildren = 512;
+    static constexpr size_t mostChildren = 256;
     /// Longer texts are cut to this many characters.
     static constexpr qsizetype longestText = 16'384;
 
@@ -61,6 +61,8 @@ public:
         exhausted, ///< the deadline or the number of calls was reached
     };
     [[nodiscard]] Failure failure() const { return m_failure; }
+    /// The program that was silent or gone, by its name on the bus; empty after no such failure.
+    [[nodiscard]] const QString& failedService() const { return m_failedService; }
     /// Goes on after a program had gone, to look for its successor.
     void forgetGone();
 
@@ -69,11 +71,18 @@ public:
     /// Process id of a connection to the bus; none when it could not be read.
     [[nodiscard]] std::optional<qint64> processOf(const QString& service);
 
-    [[nodiscard]] std::vector<AtspiReference> children(const AtspiReference& object);
-    [[nodiscard]] QString name(const AtspiReference& object);
-    /// 0 (which no object has) when it could not be read.
-    [[nodiscard]] quint32 role(const AtspiReference& object);
+    using References = std::vector<AtspiReference>;
+    [[nodiscard]] References children(const AtspiReference& object);
     [[nodiscard]] quint64 states(const AtspiReference& object);
+    // Of many objects at once, which takes hardly longer than one; as many answers as objects.
+    [[nodiscard]] std::vector<References> childrenOfEach(const References& objects);
+    [[nodiscard]] std::vector<QString> namesOfEach(const References& objects);
+    struct Facts {
+        /// 0, which no object has, when it could not be read.
+        quint32 role = 0;
+        quint64 states = 0;
+    };
+    [[nodiscard]] std::vector<Facts> factsOfEach(const References& objects);
     [[nodiscard]] QHash<QString, QString> attributes(const AtspiReference& object);
     /// The document that a window shows in front; null where it names none. Asking makes browsers that have
     /// not described their pages so far begin with it.
@@ -87,6 +96,7 @@ public:
     bool doAction(const AtspiReference& object);
 
 private:
+    [[nodiscard]] std::vector<QVariantList> callEach(std::vector<AtspiCall> calls);
     [[nodiscard]] QVariantList call(const AtspiReference& target, QLatin1String interface,
                                     QLatin1String member, const QVariantList& arguments = {});
 
@@ -95,6 +105,7 @@ private:
     std::chrono::milliseconds m_deadline;
     int m_calls = 0;
     Failure m_failure = Failure::none;
+    QString m_failedService;
 };
 
 } // namespace norvin

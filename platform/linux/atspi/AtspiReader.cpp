@@ -51,11 +51,17 @@ bool AtspiReader::mayProbe(qint64 processId) const {
     return m_silent.value(processId).until <= now && m_silent.value(busItself).until <= now;
 }
 
-void AtspiReader::conclude(qint64 processId, const AtspiProbe& probe) {
+void AtspiReader::conclude(const Transport& transport, qint64 processId, const AtspiProbe& probe) {
     if (probe.failure() == AtspiProbe::Failure::silent) {
-        Silence& silence = m_silent[m_askingBus ? busItself : processId];
+        const qint64 key = m_askingBus ? busItself : processId;
+        Silence& silence = m_silent[key];
         silence.length = std::clamp<std::chrono::milliseconds>(2 * silence.length, firstRest, longestRest);
         silence.until = m_clock.monotonic() + silence.length;
+        // A browser that was only busy is read again as soon as it answers.
+        transport->awaitAnswer(probe.failedService(), [this, key, until = silence.until] {
+            if (m_silent.value(key).until == until)
+                m_silent.remove(key);
+        });
         return;
     }
     m_silent.remove(busItself);
@@ -112,8 +118,11 @@ AtspiReader::Window AtspiReader::findWindow(AtspiProbe& probe, qint64 processId,
     }
 
     std::vector<AtspiReference> matching;
-    for (size_t i = 0; i < std::min(frames.size(), mostWindows); ++i)
-        if (probe.name(frames[i]).simplified() == windowTitle.simplified())
+    if (frames.size() > mostWindows)
+        frames.resize(mostWindows);
+    const auto names = probe.namesOfEach(frames);
+    for (size_t i = 0; i < frames.size(); ++i)
+        if (names[i].simplified() == windowTitle.simplified())
             matching.push_back(frames[i]);
     if (matching.size() > 1) {
         // Two windows may show pages of the same title: only the one that says to be in front can be told.
@@ -158,7 +167,7 @@ BrowserFrontPage AtspiReader::readFrontPage(const Transport& transport, qint64 p
         noteFront(processId, page);
         front = {.state = page.state, .url = page.url};
     }
-    conclude(processId, probe);
+    conclude(transport, processId, probe);
     return front;
 }
 
@@ -169,7 +178,7 @@ AtspiReader::Closing AtspiReader::closeFrontTab(const Transport& transport, qint
         return {.state = BrowserReadState::notAnswering};
     AtspiProbe probe(transport, m_clock);
     const Closing closing = close(probe, processId, windowTitle, isExpected);
-    conclude(processId, probe);
+    conclude(transport, processId, probe);
     return closing;
 }
 

@@ -41,7 +41,8 @@ enum class BrowserCloseResult {
 
 /// Reads and closes the front tab of browsers over the accessibility bus. Of a browser it reads its windows'
 /// titles, its tabs and the address of the page in front; never the content of pages. A call takes 300 ms at
-/// most. A browser that does not answer is left alone for 10 s, then for longer, a minute at most.
+/// most. A browser that does not answer is left alone until it answers a question
+/// that nobody waits for; or for 10 s, and for longer each time, a minute at most.
 /// Main thread only.
 class AtspiReader final {
 public:
@@ -74,8 +75,8 @@ public:
         BrowserReadState state = BrowserReadState::noWindow;
     };
     [[nodiscard]] Window findWindow(AtspiProbe& probe, qint64 processId, const QString& windowTitle);
-    /// Takes note of whether the browser answered.
-    void conclude(qint64 processId, const AtspiProbe& probe);
+    /// Takes note of whether the browser answered; the reader must outlive the transport then.
+    void conclude(const Transport& transport, qint64 processId, const AtspiProbe& probe);
 
     /// What a failure of the probe means for the browser; `otherwise` where there was none.
     [[nodiscard]] static BrowserReadState stateAfter(const AtspiProbe& probe, BrowserReadState otherwise);

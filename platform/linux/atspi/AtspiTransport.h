@@ -5,6 +5,8 @@
 #include <QVariantList>
 
 #include <chrono>
+#include <functional>
+#include <vector>
 
 namespace norvin {
 
@@ -45,9 +47,15 @@ public:
     AtspiTransport& operator=(const AtspiTransport&) = delete;
     virtual ~AtspiTransport() = default;
 
-    /// Waits for the answer, `timeout` at most.
+    /// Sends all calls at once and waits for their answers, `timeout` at most for all of them together.
     /// @param timeout at least 1 ms
-    [[nodiscard]] virtual AtspiReply call(const AtspiCall& call, std::chrono::milliseconds timeout) = 0;
+    /// @return as many replies as there are calls, in their order
+    [[nodiscard]] virtual std::vector<AtspiReply> call(const std::vector<AtspiCall>& calls,
+                                                       std::chrono::milliseconds timeout) = 0;
+
+    /// Calls `answers` from the event loop when the program behind `service` answers something at all, within
+    /// a minute. Does not wait; what `answers` holds on to must live as long as the transport.
+    virtual void awaitAnswer(const QString& service, std::function<void()> answers) = 0;
 };
 
 } // namespace norvin

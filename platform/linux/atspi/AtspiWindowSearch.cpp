@@ -18,49 +18,46 @@ bool isDocument(quint32 role) {
     return role == AtspiRole::documentWeb || role == AtspiRole::documentFrame;
 }
 
-enum class Next { descend, skip, stop };
+enum class Next { descend, skip, finishLevel };
 
-// Visits what is on the screen below an object, parents first. Objects that answer to be their own
-// grandchildren are visited once.
+// Visits what is on the screen below an object, level by level, because what is asked of a whole level takes
+// hardly longer than what is asked of one object. Objects that claim to be their own grandchildren are
+// visited once.
 void visitShowing(AtspiProbe& probe, const AtspiReference& root,
-                  const std::function<Next(const AtspiReference&, quint32 role, quint64 states)>& visit) {
-    struct Pending {
-        AtspiReference object;
-        int depth;
-    };
+                  const std::function<Next(const AtspiReference&, const AtspiProbe::Facts&)>& visit) {
     QSet<QString> seen{root.path};
-    std::vector<Pending> stack{{root, 0}};
-    while (!stack.empty() && probe.failure() == AtspiProbe::Failure::none) {
-        const Pending pending = std::move(stack.back());
-        stack.pop_back();
-        if (pending.depth > 0) {
-            const quint64 states = probe.states(pending.object);
-            if (!(states & AtspiState::showing))
-                continue;
-            const quint32 role = probe.role(pending.object);
-            const Next next = visit(pending.object, role, states);
-            if (next == Next::stop)
-                return;
-            if (next == Next::skip)
-                continue;
+    AtspiProbe::References parents{root};
+    for (int depth = 0; depth < deepest && !parents.empty(); ++depth) {
+        AtspiProbe::References level;
+        for (AtspiProbe::References& children : probe.childrenOfEach(parents)) {
+            for (AtspiReference& child : children) {
+                if (seen.contains(child.path))
+                    continue;
+                seen.insert(child.path);
+                level.push_back(std::move(child));
+            }
         }
-        if (pending.depth == deepest)
-            continue;
-        const auto children = probe.children(pending.object);
-        for (auto child = children.rbegin(); child != children.rend(); ++child) {
-            if (seen.contains(child->path))
+        const auto facts = probe.factsOfEach(level);
+        parents.clear();
+        bool isDone = false;
+        for (size_t i = 0; i < level.size() && probe.failure() == AtspiProbe::Failure::none; ++i) {
+            if (!(facts[i].states & AtspiState::showing))
                 continue;
-            seen.insert(child->path);
-            stack.push_back({*child, pending.depth + 1});
+            const Next next = visit(level[i], facts[i]);
+            isDone = isDone || next == Next::finishLevel;
+            if (next == Next::descend)
+                parents.push_back(std::move(level[i]));
         }
+        if (isDone)
+            return;
     }
 }
 
 // The button itself says by its class what it is for; the one of the sound is on a pinned tab as well.
 AtspiReference closeButtonOf(AtspiProbe& probe, const AtspiReference& tab) {
     AtspiReference button;
-    visitShowing(probe, tab, [&](const AtspiReference& object, quint32 role, quint64) {
-        if (role != AtspiRole::pushButton)
+    visitShowing(probe, tab, [&](const AtspiReference& object, const AtspiProbe::Facts& facts) {
+        if (facts.role != AtspiRole::pushButton)
             return Next::descend;
         if (probe.attributes(object)
                 .value(QStringLiteral("class"))
@@ -77,13 +74,14 @@ AtspiReference findFrontDocument(AtspiProbe& probe, const AtspiReference& window
     AtspiReference document = probe.embeddedDocument(window);
     if (!document.isNull())
         return document;
-    visitShowing(probe, window, [&](const AtspiReference& object, quint32 role, quint64) {
-        if (role == AtspiRole::documentWeb) {
-            document = object;
-            return Next::stop;
+    visitShowing(probe, window, [&](const AtspiReference& object, const AtspiProbe::Facts& facts) {
+        if (facts.role == AtspiRole::documentWeb) {
+            if (document.isNull())
+                document = object;
+            return Next::finishLevel;
         }
-        const bool holdsPages = role != AtspiRole::toolBar && role != AtspiRole::pageTabList &&
-                                !isMenu(role) && role != AtspiRole::documentFrame;
+        const bool holdsPages = facts.role != AtspiRole::toolBar && facts.role != AtspiRole::pageTabList &&
+                                !isMenu(facts.role) && !isDocument(facts.role);
         return holdsPages ? Next::descend : Next::skip;
     });
     return document;
@@ -91,16 +89,16 @@ AtspiReference findFrontDocument(AtspiProbe& probe, const AtspiReference& window
 
 FrontTab findFrontTab(AtspiProbe& probe, const AtspiReference& window) {
     std::vector<AtspiReference> selected;
-    visitShowing(probe, window, [&](const AtspiReference& object, quint32 role, quint64 states) {
-        if (role == AtspiRole::pageTab) {
-            if (states & AtspiState::selected)
-                selected.push_back(object);
-            return Next::skip;
+    visitShowing(probe, window, [&](const AtspiReference& object, const AtspiProbe::Facts& facts) {
+        if (facts.role == AtspiRole::pageTab) {
+            if (!(facts.states & AtspiState::selected))
+                return Next::skip;
+            selected.push_back(object);
+            return Next::finishLevel;
         }
-        // The first list of tabs with a selected one is the browser's; a list behind it may be of a side bar.
-        if (role == AtspiRole::pageTabList && !selected.empty())
-            return Next::stop;
-        return isMenu(role) || isDocument(role) ? Next::skip : Next::descend;
+        const bool holdsTabs =
+            !isMenu(facts.role) && !isDocument(facts.role) && facts.role != AtspiRole::pushButton;
+        return holdsTabs ? Next::descend : Next::skip;
     });
     // A click on the close button would close all tabs of a selection.
     if (selected.size() != 1 || probe.failure() != AtspiProbe::Failure::none)

@@ -4,6 +4,8 @@
 #include <QDBusError>
 #include <QDBusMessage>
 #include <QDBusObjectPath>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
 #include <QDBusSignature>
 #include <QDBusVariant>
 #include <QVariantMap>
@@ -15,6 +17,7 @@ namespace {
 // Far above what a browser's window has: only a broken or hostile program answers more.
 constexpr int mostValues = 4096;
 constexpr int deepest = 8;
+constexpr int longestWait = 60'000; // ms
 
 QVariant plain(const QVariant& value, int depth, int& count);
 
@@ -80,26 +83,55 @@ AtspiReply::Status statusOf(const QDBusMessage& message) {
     }
 }
 
+AtspiReply replyOf(const QDBusMessage& message) {
+    AtspiReply reply{.status = statusOf(message)};
+    if (reply.status == AtspiReply::Status::answered) {
+        int count = 0;
+        const QVariantList arguments = message.arguments();
+        for (const QVariant& argument : arguments)
+            reply.values.append(plain(argument, 0, count));
+    }
+    return reply;
+}
+
 } // namespace
 
 DBusAtspiTransport::DBusAtspiTransport(QDBusConnection accessibilityBus)
     : m_bus(std::move(accessibilityBus)) {}
 
-AtspiReply DBusAtspiTransport::call(const AtspiCall& call, std::chrono::milliseconds timeout) {
+std::vector<AtspiReply> DBusAtspiTransport::call(const std::vector<AtspiCall>& calls,
+                                                 std::chrono::milliseconds timeout) {
     if (!m_bus.isConnected())
-        return {.status = AtspiReply::Status::gone};
-    QDBusMessage message =
-        QDBusMessage::createMethodCall(call.target.service, call.target.path, call.interface, call.member);
-    message.setArguments(call.arguments);
-    const QDBusMessage answer = m_bus.call(message, QDBus::Block, static_cast<int>(timeout.count()));
-    AtspiReply reply{.status = statusOf(answer)};
-    if (reply.status == AtspiReply::Status::answered) {
-        int count = 0;
-        const QVariantList arguments = answer.arguments();
-        for (const QVariant& argument : arguments)
-            reply.values.append(plain(argument, 0, count));
+        return std::vector<AtspiReply>(calls.size(), {.status = AtspiReply::Status::gone});
+    // All of them run out at the same moment, so that waiting for one after the other takes no longer.
+    std::vector<QDBusPendingCall> pending;
+    pending.reserve(calls.size());
+    for (const AtspiCall& call : calls) {
+        QDBusMessage message = QDBusMessage::createMethodCall(call.target.service, call.target.path,
+                                                              call.interface, call.member);
+        message.setArguments(call.arguments);
+        pending.push_back(m_bus.asyncCall(message, static_cast<int>(timeout.count())));
     }
-    return reply;
+    std::vector<AtspiReply> replies;
+    replies.reserve(calls.size());
+    for (QDBusPendingCall& call : pending) {
+        call.waitForFinished();
+        replies.push_back(replyOf(call.reply()));
+    }
+    return replies;
+}
+
+void DBusAtspiTransport::awaitAnswer(const QString& service, std::function<void()> answers) {
+    const QDBusMessage message = QDBusMessage::createMethodCall(
+        service, QStringLiteral("/org/a11y/atspi/accessible/root"),
+        QStringLiteral("org.a11y.atspi.Accessible"), QStringLiteral("GetRole"));
+    auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(message, longestWait), &m_waiting);
+    QObject::connect(watcher, &QDBusPendingCallWatcher::finished, &m_waiting,
+                     [watcher, answers = std::move(answers)] {
+                         watcher->deleteLater();
+                         if (replyOf(watcher->reply()).status != AtspiReply::Status::silent)
+                             answers();
+                     });
 }
 
 } // namespace norvin
