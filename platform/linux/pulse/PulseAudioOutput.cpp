@@ -72,8 +72,8 @@ PulseAudioOutput::~PulseAudioOutput() = default;
 void PulseAudioOutput::queue(std::vector<float> samples) {
     if (samples.empty())
         return;
-    m_waiting.push_back({std::move(samples), m_clock.monotonic() + longestDelay});
     noticeSilence();
+    m_waiting.push_back({std::move(samples), m_clock.monotonic() + longestDelay});
     if (m_state == State::disconnected && m_clock.monotonic() >= m_retryAt)
         connectToServer();
     advance();
@@ -158,7 +158,6 @@ void PulseAudioOutput::streamChanged() {
     switch (pa_stream_get_state(m_connection.stream.get())) {
     case PA_STREAM_READY:
         m_state = State::held;
-        m_backOff = 0ms;
         setAvailability(Availability::available());
         advance();
         return;
@@ -192,9 +191,12 @@ void PulseAudioOutput::write() {
         const Time start = std::max(now, m_soundEnd);
         if (isStuck || start > sound.latestStart)
             continue;
+        // PipeWire ends a drained stream with a whole block: what follows has to begin behind that block, not
+        // behind the sound.
+        const pa_seek_mode_t place =
+            m_isDraining || m_hasUndrained ? PA_SEEK_RELATIVE : PA_SEEK_RELATIVE_ON_READ;
         const size_t size = sound.samples.size() * sizeof(float);
-        if (pa_stream_write(m_connection.stream.get(), sound.samples.data(), size, nullptr, 0,
-                            PA_SEEK_RELATIVE) < 0) {
+        if (pa_stream_write(m_connection.stream.get(), sound.samples.data(), size, nullptr, 0, place) < 0) {
             fail(pa_context_errno(m_connection.context.get()));
             return;
         }
@@ -239,6 +241,7 @@ void PulseAudioOutput::answered() {
     setAvailability(Availability::available());
     if (m_state == State::holding) {
         m_state = State::held;
+        m_backOff = 0ms;
         advance();
         return;
     }
@@ -255,8 +258,13 @@ void PulseAudioOutput::answered() {
 
 void PulseAudioOutput::noticeSilence() {
     const bool waitsForAnswer = m_state != State::disconnected && m_state != State::held;
-    if (waitsForAnswer && m_clock.monotonic() > m_answerDue + silentAfter)
+    if (!waitsForAnswer || m_clock.monotonic() <= m_answerDue + silentAfter)
+        return;
+    // A new connection is ready as soon as the server is, and the old one takes along what is late.
+    if (m_state == State::connecting)
         setAvailability(availabilityOf(PA_ERR_TIMEOUT));
+    else
+        fail(PA_ERR_TIMEOUT);
 }
 
 // libpulse does not expect to be disconnected from within every one of its callbacks.
@@ -272,15 +280,14 @@ void PulseAudioOutput::disconnectLater() {
 }
 
 void PulseAudioOutput::fail(int error) {
-    const bool wasConnected = m_state != State::connecting;
     disconnectLater();
     m_isProbing = false;
     m_isDraining = false;
     m_hasUndrained = false;
     m_soundEnd = 0ms;
     m_waiting.clear();
-    m_backOff = wasConnected ? 0ms : std::clamp(2 * m_backOff, firstBackOff, longestBackOff);
     m_retryAt = m_clock.monotonic() + m_backOff;
+    m_backOff = std::clamp(2 * m_backOff, firstBackOff, longestBackOff);
     setAvailability(availabilityOf(error));
 }
 
