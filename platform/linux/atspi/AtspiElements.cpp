@@ -27,11 +27,13 @@ public:
 
     [[nodiscard]] const AtspiReader::Window& window() {
         if (!m_window) {
-            m_window = AtspiReader::Window{.frame = {}, .state = m_source.access};
+            m_window = AtspiReader::Window{.frame = {}, .others = {}, .state = m_source.access};
             if (m_source.access == BrowserReadState::readable) {
                 m_window = m_source.reader.findWindow(m_probe, m_source.processId, m_source.windowTitle);
                 m_source.reader.conclude(m_source.transport, m_source.processId, m_probe);
                 m_reportedFailure = m_probe.failure();
+                if (!m_window->others.empty()) // which of them is in front nobody can tell
+                    m_window = AtspiReader::Window{};
             }
             if (m_window->frame.isNull())
                 m_source.report(m_window->state);

@@ -28,6 +28,10 @@ AtspiReference bus() {
             .path = QStringLiteral("/org/freedesktop/DBus")};
 }
 
+AtspiCall nameCall(const AtspiReference& object) {
+    return {object, properties, QLatin1String("Get"), {QString(accessible), QStringLiteral("Name")}};
+}
+
 // A call with less time than this left may well remain unanswered by a program that is only slow.
 constexpr auto enoughTime = 100ms;
 
@@ -109,17 +113,6 @@ std::vector<AtspiProbe::References> AtspiProbe::childrenOfEach(const References&
     return lists;
 }
 
-std::vector<QString> AtspiProbe::namesOfEach(const References& objects) {
-    std::vector<AtspiCall> calls;
-    for (const AtspiReference& object : objects)
-        calls.push_back(
-            {object, properties, QLatin1String("Get"), {QString(accessible), QStringLiteral("Name")}});
-    std::vector<QString> names;
-    for (const QVariantList& reply : callEach(std::move(calls)))
-        names.push_back(decodeText(reply, longestText));
-    return names;
-}
-
 std::vector<AtspiProbe::Facts> AtspiProbe::factsOfEach(const References& objects) {
     std::vector<AtspiCall> calls;
     for (const AtspiReference& object : objects) {
@@ -145,15 +138,47 @@ AtspiReference AtspiProbe::embeddedDocument(const AtspiReference& window) {
     return found.service == window.service ? found : AtspiReference{};
 }
 
-QString AtspiProbe::documentUrl(const AtspiReference& object) {
-    // The two names under which browsers give it.
-    for (const auto* name : {"DocURL", "URI"}) {
-        const QString url = decodeText(
-            call(object, document, QLatin1String("GetAttributeValue"), {QString::fromLatin1(name)}),
-            longestText);
-        if (!url.isEmpty())
-            return url;
+std::vector<AtspiProbe::WindowFacts> AtspiProbe::windowFactsOfEach(const References& windows) {
+    std::vector<AtspiCall> calls;
+    for (const AtspiReference& window : windows) {
+        calls.push_back(nameCall(window));
+        calls.push_back({window, accessible, QLatin1String("GetRelationSet")});
     }
+    const auto replies = callEach(std::move(calls));
+    std::vector<WindowFacts> facts(windows.size());
+    calls.clear();
+    for (size_t i = 0; i < windows.size(); ++i) {
+        facts[i].name = decodeText(replies[2 * i], longestText);
+        facts[i].document = decodeEmbedded(replies[2 * i + 1]);
+        if (facts[i].document.service != windows[i].service)
+            facts[i].document = {};
+        if (!facts[i].document.isNull())
+            calls.push_back(nameCall(facts[i].document));
+    }
+    const auto names = callEach(std::move(calls));
+    auto name = names.begin();
+    for (WindowFacts& window : facts)
+        if (!window.document.isNull())
+            window.documentName = decodeText(*name++, longestText);
+    return facts;
+}
+
+QString AtspiProbe::toolkit(const AtspiReference& application) {
+    return decodeText(call(application, properties, QLatin1String("Get"),
+                           {QStringLiteral("org.a11y.atspi.Application"), QStringLiteral("ToolkitName")}),
+                      longestText);
+}
+
+QString AtspiProbe::documentUrl(const AtspiReference& object) {
+    if (object.isNull())
+        return {};
+    // The two names under which browsers give it.
+    std::vector<AtspiCall> calls;
+    for (const auto* name : {"DocURL", "URI"})
+        calls.push_back({object, document, QLatin1String("GetAttributeValue"), {QString::fromLatin1(name)}});
+    for (const QVariantList& reply : callEach(std::move(calls)))
+        if (QString url = decodeText(reply, longestText); !url.isEmpty())
+            return url;
     return {};
 }
 

@@ -48,7 +48,7 @@ public:
     /// @param clock outlives the probe
     AtspiProbe(std::shared_ptr<AtspiTransport> transport, const Clock& clock);
 
-    static constexpr std::chrono::milliseconds length{300};
+    static constexpr std::chrono::milliseconds length{280}; // timers may be 5 % late
     static constexpr int mostCalls = 3000;
     static constexpr size_t mostChildren = 256;
     /// Longer texts are cut to this many characters.
@@ -76,7 +76,6 @@ public:
     [[nodiscard]] quint64 states(const AtspiReference& object);
     // Of many objects at once, which takes hardly longer than one; as many answers as objects.
     [[nodiscard]] std::vector<References> childrenOfEach(const References& objects);
-    [[nodiscard]] std::vector<QString> namesOfEach(const References& objects);
     struct Facts {
         /// 0, which no object has, when it could not be read.
         quint32 role = 0;
@@ -87,6 +86,14 @@ public:
     /// The document that a window shows in front; null where it names none. Asking makes browsers that have
     /// not described their pages so far begin with it.
     [[nodiscard]] AtspiReference embeddedDocument(const AtspiReference& window);
+    struct WindowFacts {
+        QString name;
+        AtspiReference document; ///< as embeddedDocument()
+        QString documentName;    ///< empty where there is no document
+    };
+    [[nodiscard]] std::vector<WindowFacts> windowFactsOfEach(const References& windows);
+    /// Name of the toolkit that a program's windows are made with; empty when it does not say.
+    [[nodiscard]] QString toolkit(const AtspiReference& application);
     /// Address of a document; empty where it gives none.
     [[nodiscard]] QString documentUrl(const AtspiReference& document);
     /// The text that an input field holds.

@@ -3,6 +3,8 @@
 #include "platform/Clock.h"
 #include "platform/linux/atspi/AtspiWindowSearch.h"
 
+#include <QUrl>
+
 #include <algorithm>
 
 namespace norvin {
@@ -20,6 +22,17 @@ constexpr auto timeToClose = 500ms;
 // More windows than this have no place on a desktop, nor in the time of a probe.
 constexpr size_t mostWindows = 64;
 constexpr qsizetype mostBrowsers = 64;
+
+// Browsers add to the name of a window for those who hear it that its page plays sound, say, or that it is
+// private: between the title of the page and their own name, or behind both.
+bool hasTitle(const AtspiProbe::WindowFacts& window, const QString& title) {
+    const QString name = window.name.simplified();
+    if (name == title)
+        return true;
+    const QString page = window.documentName.simplified();
+    return !page.isEmpty() && name.startsWith(page) && title.startsWith(page) &&
+           name.indexOf(title.mid(page.size()), page.size()) >= 0;
+}
 
 } // namespace
 
@@ -110,29 +123,46 @@ AtspiReader::Window AtspiReader::findWindow(AtspiProbe& probe, qint64 processId,
     if (application.isNull()) {
         application = findApplication(probe, processId);
         if (application.isNull())
-            return {.frame = {}, .state = stateAfter(probe, BrowserReadState::notOnBus)};
+            return {.frame = {}, .others = {}, .state = stateAfter(probe, BrowserReadState::notOnBus)};
         if (m_applications.size() >= mostBrowsers)
             m_applications.clear();
         m_applications.insert(processId, application);
         frames = probe.children(application);
     }
 
-    std::vector<AtspiReference> matching;
     if (frames.size() > mostWindows)
         frames.resize(mostWindows);
-    const auto names = probe.namesOfEach(frames);
+    const auto facts = probe.windowFactsOfEach(frames);
+    std::vector<AtspiReference> matching;
     for (size_t i = 0; i < frames.size(); ++i)
-        if (names[i].simplified() == windowTitle.simplified())
+        if (hasTitle(facts[i], windowTitle.simplified()))
             matching.push_back(frames[i]);
-    if (matching.size() > 1) {
-        // Two windows may show pages of the same title: only the one that says to be in front can be told.
-        std::erase_if(matching, [&](const AtspiReference& frame) {
-            return !(probe.states(frame) & AtspiState::active);
-        });
+    // Two windows may show pages of the same title. Not every browser keeps the state of being in front up to
+    // date.
+    if (matching.size() > 1 && probe.toolkit(application) == QLatin1String("Gecko")) {
+        const auto states = probe.factsOfEach(matching);
+        for (size_t i = 0; i < matching.size(); ++i)
+            if (states[i].states & AtspiState::active)
+                matching = {matching[i]};
     }
-    if (probe.failure() != AtspiProbe::Failure::none || matching.size() != 1)
-        return {.frame = {}, .state = stateAfter(probe, BrowserReadState::noWindow)};
-    return {.frame = matching.front(), .state = BrowserReadState::readable};
+    if (probe.failure() != AtspiProbe::Failure::none || matching.empty())
+        return {.frame = {}, .others = {}, .state = stateAfter(probe, BrowserReadState::noWindow)};
+    Window window{.frame = matching.front(), .others = {}, .state = BrowserReadState::readable};
+    window.others.assign(matching.begin() + 1, matching.end());
+    return window;
+}
+
+AtspiReader::Page AtspiReader::readPage(AtspiProbe& probe, const Window& window) {
+    Page page = readPage(probe, window.frame);
+    for (const AtspiReference& other : window.others) {
+        const Page otherPage = readPage(probe, other);
+        if (probe.failure() == AtspiProbe::Failure::none &&
+            (otherPage.state != page.state || QUrl(otherPage.url).host() != QUrl(page.url).host()))
+            return {.document = {}, .url = {}, .state = BrowserReadState::noWindow};
+    }
+    if (probe.failure() != AtspiProbe::Failure::none)
+        return {.document = {}, .url = {}, .state = stateAfter(probe, page.state)};
+    return page;
 }
 
 AtspiReader::Page AtspiReader::readPage(AtspiProbe& probe, const AtspiReference& frame) {
@@ -163,7 +193,7 @@ BrowserFrontPage AtspiReader::readFrontPage(const Transport& transport, qint64 p
     const Window window = findWindow(probe, processId, windowTitle);
     BrowserFrontPage front{.state = window.state, .url = {}};
     if (!window.frame.isNull()) {
-        const Page page = readPage(probe, window.frame);
+        const Page page = readPage(probe, window);
         noteFront(processId, page);
         front = {.state = page.state, .url = page.url};
     }
@@ -188,12 +218,15 @@ AtspiReader::Closing AtspiReader::close(AtspiProbe& probe, qint64 processId, con
     const Window window = findWindow(probe, processId, windowTitle);
     if (window.frame.isNull())
         return {.result = Result::failed, .state = window.state};
-    const Page page = readPage(probe, window.frame);
+    const Page page = readPage(probe, window);
     noteFront(processId, page);
     if (page.state != BrowserReadState::readable)
         return {.result = Result::failed, .state = page.state};
     if (!isExpected(page.url))
         return {.result = Result::otherPage, .state = page.state};
+
+    if (!window.others.empty())
+        return {.result = Result::notClosable, .state = page.state};
 
     const auto now = m_clock.monotonic();
     if (const auto attempt = m_attempts.constFind(processId); attempt != m_attempts.constEnd()) {

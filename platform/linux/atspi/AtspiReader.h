@@ -35,7 +35,8 @@ struct BrowserFrontPage {
 enum class BrowserCloseResult {
     closed,      ///< the tab's close button was pressed; whether the tab is gone shows the next read
     otherPage,   ///< another page is in front; nothing was done
-    notClosable, ///< a tab without close button, several tabs selected, or a tab that has stayed open before
+    notClosable, ///< a tab without close button, several selected ones, several windows of that title, or a
+                 ///< tab that has stayed open before
     failed,      ///< there is no such page to be seen, or the browser would not do it; nothing was closed
 };
 
@@ -69,8 +70,10 @@ public:
     /// False while the browser, or the bus, is to be left alone.
     [[nodiscard]] bool mayProbe(qint64 processId) const;
     struct Window {
-        /// Null unless exactly one of the browser's windows can be the one in front.
+        /// Null where there is no such window.
         AtspiReference frame;
+        /// Other windows that may as well be the one in front, having the same title.
+        std::vector<AtspiReference> others;
         /// readable when there is a frame, else why there is none.
         BrowserReadState state = BrowserReadState::noWindow;
     };
@@ -102,6 +105,7 @@ private:
 
     [[nodiscard]] AtspiReference findApplication(AtspiProbe& probe, qint64 processId);
     [[nodiscard]] Page readPage(AtspiProbe& probe, const AtspiReference& frame);
+    [[nodiscard]] Page readPage(AtspiProbe& probe, const Window& window);
     [[nodiscard]] Closing close(AtspiProbe& probe, qint64 processId, const QString& windowTitle,
                                 const std::function<bool(const QString& url)>& isExpected);
     void noteFront(qint64 processId, const Page& page);
