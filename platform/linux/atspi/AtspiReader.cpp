@@ -26,6 +26,8 @@ constexpr qsizetype mostBrowsers = 64;
 // Browsers add to the name of a window for those who hear it that its page plays sound, say, or that it is
 // private: between the title of the page and their own name, or behind both.
 bool hasTitle(const AtspiProbe::WindowFacts& window, const QString& title) {
+    if (title.isEmpty())
+        return false; // browsers have windows without a name besides those that are seen
     const QString name = window.name.simplified();
     if (name == title)
         return true;
