@@ -44,9 +44,10 @@ public:
     struct Page {
         /// Host name of the front tab, in lower case ("www.example.org"); none where it shows no web page.
         std::optional<QString> domain;
-        /// Whether the browser says that the tab's window has the keyboard. While the browser is in front and
-        /// this is false, a window is in front that the extension must not see (a private one): its page is
-        /// not known.
+        /// Whether the tab's window is the one of the browser's that has the keyboard. While the browser is
+        /// in front and this is false, a window is in front that the extension must not see (a private one):
+        /// its page is not known. Says nothing while another program is in front: Chromium leaves it as it
+        /// was.
         bool isFocused = false;
 
         bool operator==(const Page&) const = default;
