@@ -231,12 +231,24 @@ private Q_SLOTS:
         const auto windows = application->elements(at("AXWindows"));
         QCOMPARE(windows.list->size(), size_t{1});
         auto children = *windows.list->front()->elements(at("AXChildren")).list;
+        QCOMPARE(children.size(), size_t{1});
         QCOMPARE(children.front()->text(at("AXRole")), at("AXWebArea"));
         QCOMPARE(children.front()->text(at("AXURL")), videos);
         QVERIFY(children.front()->elements(at("AXChildren")).list->empty());
         QCOMPARE(states, std::vector{State::readable});
 
-        // Toolbars come next, then the panel; of the menu and of the tabs nothing is shown.
+        // A page of the browser's own has no address of the web, and ends the search as well.
+        object("/doc2").url = at("about:newtab");
+        children =
+            *element(&states)->elements(at("AXWindows")).list->front()->elements(at("AXChildren")).list;
+        QCOMPARE(children.size(), size_t{1});
+        QVERIFY(!children.front()->text(at("AXURL")));
+
+        // Without any, the rest of the window is shown: toolbars come next, then the panel; of the
+        // menu and of the tabs nothing is shown.
+        object("/doc2").url.clear();
+        children =
+            *element(&states)->elements(at("AXWindows")).list->front()->elements(at("AXChildren")).list;
         auto address = children[1]->elements(at("AXChildren")).list->front();
         QCOMPARE(address->text(at("AXRole")), at("AXTextField"));
         QCOMPARE(address->text(at("AXIdentifier")), at("urlbar-input"));

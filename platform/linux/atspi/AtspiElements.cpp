@@ -11,6 +11,11 @@ namespace {
 constexpr int accessibilityDisabled = -25211;
 constexpr int cannotComplete = -25204;
 
+// Pages of the browser itself have no domain.
+bool isWebAddress(const QString& url) {
+    return url.startsWith(QLatin1String("http://")) || url.startsWith(QLatin1String("https://"));
+}
+
 // The reads that start from one application element: their deadline, and the window that they found.
 class Look final {
 public:
@@ -83,16 +88,22 @@ public:
             return {};
         List list;
         QString front;
+        bool hasAddress = false;
         if (m_kind == Kind::window) {
             const AtspiReference document = findFrontDocument(m_look->probe(), m_object);
             front = document.path;
-            if (document.isNull())
+            if (document.isNull()) {
                 m_look->report(BrowserReadState::noDocument);
-            else
-                list.push_back(
-                    std::make_shared<Part>(m_look, document, Kind::frontDocument, AtspiRole::documentWeb));
+            } else {
+                auto page =
+                    std::make_shared<Part>(m_look, document, Kind::frontDocument, AtspiRole::documentWeb);
+                hasAddress = !page->address().isEmpty();
+                list.push_back(std::move(page));
+            }
         }
-        if (mayHoldFields())
+        // A page that gives its address leaves nothing to look for, not even where it is one of the browser's
+        // own.
+        if (!hasAddress && mayHoldFields())
             appendChildren(list, front);
         m_look->settle();
         if (list.empty() && m_look->probe().failure() != AtspiProbe::Failure::none)
@@ -142,6 +153,12 @@ private:
         return *m_isEditable;
     }
 
+    [[nodiscard]] const QString& address() {
+        if (!m_address)
+            m_address = m_look->probe().documentUrl(m_object);
+        return *m_address;
+    }
+
     [[nodiscard]] QString objectAttribute(const char* name) {
         if (!m_attributes)
             m_attributes = m_look->probe().attributes(m_object);
@@ -158,10 +175,10 @@ private:
             return isEditable() ? QStringLiteral("AXTextField") : QStringLiteral("AXGroup");
         }
         if (attribute == QLatin1String("AXURL") && isDocument) {
-            const QString url = m_look->probe().documentUrl(m_object);
+            const QString url = address();
             if (m_kind == Kind::frontDocument)
                 m_look->report(url.isEmpty() ? BrowserReadState::noDocument : BrowserReadState::readable);
-            return url.isEmpty() ? std::nullopt : std::optional(url);
+            return isWebAddress(url) ? std::optional(url) : std::nullopt;
         }
         if (!isEditable())
             return {};
@@ -182,6 +199,7 @@ private:
     Kind m_kind;
     quint32 m_role;
     std::optional<bool> m_isEditable;
+    std::optional<QString> m_address;
     std::optional<QHash<QString, QString>> m_attributes;
 };
 
