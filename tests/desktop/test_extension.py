@@ -8,6 +8,8 @@ from support.extension import ChromiumWithExtension, ExtensionEnd, FirefoxWithEx
 from support.pages import ASKS_BEFORE_LEAVING, Pages
 from support.processes import wait_until
 
+GOES_TO_THE_GAME = 'addEventListener("keydown", event => { if (event.key === "g") location = "http://play.games.example/"; });'
+
 
 class ExtensionTestCase:
     """One test is one life of a browser: they are slow to start."""
@@ -18,7 +20,7 @@ class ExtensionTestCase:
         super().setUp()
         self.pages = Pages()
         self.addCleanup(self.pages.close)
-        self.work = self.pages.add("http://work.example/", "Work page")
+        self.work = self.pages.add("http://work.example/", "Work page", script=GOES_TO_THE_GAME)
         self.news = self.pages.add("http://www.news.example/today", "News page")
         self.game = self.pages.add("http://play.games.example/", "Game page")
         self.end = ExtensionEnd(self.desktop)
@@ -35,12 +37,24 @@ class ExtensionTestCase:
     def close(self, domain):
         return self.end.close(self.browser, domain)
 
+    def close_in_time(self, domain):
+        """Asks until the browser answers in time, which a busy machine may keep it from; it may have closed the tab
+        at an earlier call then."""
+        answers = []
+
+        def is_answered():
+            answers.append(self.close(domain))
+            return answers[-1] != "notAnswering"
+
+        wait_until(is_answered, "the browser answers", 30, interval=0.5)
+        self.assertIn(answers[-1], ("closed",) if len(answers) == 1 else ("closed", "otherPage"))
+
     def test_it_tells_which_page_is_in_front(self):
         self.browser.open(self.news, title="News page")
         self.wait_for("www.news.example")
         self.browser.show_tab(1, "Work page")
         self.wait_for("work.example")
-        self.browser.go_to("http://play.games.example/", "Game page")
+        self.browser.press("g")
         self.wait_for("play.games.example")
         self.browser.press("alt+Left")
         self.wait_for("work.example")
@@ -74,11 +88,11 @@ class ExtensionTestCase:
         self.assertEqual(self.close("games.example"), "otherPage")
         self.pages.wait_until_open(self.work, self.news, self.news, self.game)
 
-        self.assertEqual(self.close("play.games.example"), "closed")
+        self.close_in_time("play.games.example")
         self.pages.wait_until_open(self.work, self.news, self.news)
         self.wait_for("www.news.example")
         self.assertEqual(self.close("play.games.example"), "otherPage")
-        self.assertEqual(self.close("news.example"), "closed")
+        self.close_in_time("news.example")
         # The front page of the window that is left is news too: each call closes one tab.
         self.pages.wait_until_open(self.work, self.news)
         self.pages.stay_open(self.work, self.news, seconds=1)
@@ -98,7 +112,8 @@ class ExtensionTestCase:
         self.pages.stay_open(self.work, self.game, seconds=0.5)
         self.browser.show_tab(2, "Game page")
         self.wait_for("play.games.example")
-        self.assertEqual(self.close("play.games.example"), "closed")
+        self.close_in_time("play.games.example")
+        self.pages.wait_until_open(self.work)
 
     def test_both_sides_find_each_other_again(self):
         self.end.kill_host(self.browser)
@@ -138,7 +153,7 @@ class InChromium(ExtensionTestCase, DesktopTestCase):
         self.browser.open(asking, title="Draft page")
         self.wait_for("play.games.example")
         self.browser.press("a")
-        self.assertEqual(self.close("play.games.example"), "failed")
+        wait_until(lambda: self.close("play.games.example") == "failed", "it says that the page is still there")
         self.pages.stay_open(self.work, asking, seconds=0.5)
 
     def test_it_is_taken_out_with_what_it_brought(self):
