@@ -30,6 +30,11 @@ constexpr milliseconds requestedPiece = 200ms;
 constexpr milliseconds outputLatency = 40ms;
 // About one block of the server: less than the shortest sound that is worth hearing.
 constexpr milliseconds prebuffer = 20ms;
+// More than the largest block.
+constexpr milliseconds trailingSilence = 100ms;
+// How much later than its turn a sound is still on its way to a distant output. The server could say when it
+// has been heard, but PipeWire sometimes forgets to.
+constexpr milliseconds longestLatency = 300ms;
 
 PulseAudioOutput& self(void* userdata) {
     return *static_cast<PulseAudioOutput*>(userdata);
@@ -185,38 +190,40 @@ void PulseAudioOutput::advance() {
 
 void PulseAudioOutput::write() {
     const Time now = m_clock.monotonic();
-    // What should have been heard long ago is still with the server, which hangs.
-    const bool isStuck = now > m_soundEnd + longestDelay && m_isDraining;
+    m_soundEnd = std::max(now, m_soundEnd);
+    std::vector<float> samples;
     for (const Waiting& sound : m_waiting) {
-        const Time start = std::max(now, m_soundEnd);
-        if (isStuck || start > sound.latestStart)
-            continue;
-        // PipeWire ends a drained stream with a whole block: what follows has to begin behind that block, not
-        // behind the sound.
-        const pa_seek_mode_t place =
-            m_isDraining || m_hasUndrained ? PA_SEEK_RELATIVE : PA_SEEK_RELATIVE_ON_READ;
-        const size_t size = sound.samples.size() * sizeof(float);
-        if (pa_stream_write(m_connection.stream.get(), sound.samples.data(), size, nullptr, 0, place) < 0) {
-            fail(pa_context_errno(m_connection.context.get()));
-            return;
-        }
-        m_soundEnd = start + milliseconds(static_cast<qint64>(sound.samples.size()) * 1000 / m_sampleRate);
-        m_hasUndrained = true;
+        const Time start = m_soundEnd + lengthOf(samples);
+        if (start <= sound.latestStart)
+            samples.insert(samples.end(), sound.samples.begin(), sound.samples.end());
     }
     m_waiting.clear();
+    if (samples.empty())
+        return;
+    // PipeWire plays whole blocks: without the silence, the last piece would stay behind.
+    samples.resize(samples.size() + static_cast<size_t>(m_sampleRate * trailingSilence / 1s));
+    // The first sound begins where the stream was held, whatever is left of the silence before.
+    const pa_seek_mode_t place = m_holdTimer ? PA_SEEK_RELATIVE : PA_SEEK_RELATIVE_ON_READ;
+    if (pa_stream_write(m_connection.stream.get(), samples.data(), samples.size() * sizeof(float), nullptr, 0,
+                        place) < 0) {
+        fail(pa_context_errno(m_connection.context.get()));
+        return;
+    }
+    m_soundEnd += lengthOf(samples);
+    m_holdTimer = m_clock.after(m_soundEnd - now + longestLatency, [this] {
+        m_holdTimer.reset();
+        setHeld(true);
+    });
+}
+
+PulseAudioOutput::Time PulseAudioOutput::lengthOf(const std::vector<float>& samples) const {
+    return milliseconds(static_cast<qint64>(samples.size()) * 1000 / m_sampleRate);
 }
 
 void PulseAudioOutput::setHeld(bool held) {
     m_state = held ? State::holding : State::releasing;
     m_answerDue = m_clock.monotonic();
     ask(pa_stream_cork(m_connection.stream.get(), held ? 1 : 0, &PulseAudioOutput::streamAnswered, this));
-}
-
-void PulseAudioOutput::drain() {
-    m_isDraining = true;
-    m_hasUndrained = false;
-    m_answerDue = m_soundEnd;
-    ask(pa_stream_drain(m_connection.stream.get(), &PulseAudioOutput::streamAnswered, this));
 }
 
 void PulseAudioOutput::ask(pa_operation* operation) {
@@ -246,18 +253,14 @@ void PulseAudioOutput::answered() {
         return;
     }
     m_state = State::playing;
-    m_isDraining = false;
     advance();
-    if (m_state != State::playing)
-        return;
-    if (m_hasUndrained)
-        drain();
-    else
+    if (m_state == State::playing && !m_holdTimer)
         setHeld(true);
 }
 
 void PulseAudioOutput::noticeSilence() {
-    const bool waitsForAnswer = m_state != State::disconnected && m_state != State::held;
+    const bool waitsForAnswer =
+        m_state == State::connecting || m_state == State::releasing || m_state == State::holding;
     if (!waitsForAnswer || m_clock.monotonic() <= m_answerDue + silentAfter)
         return;
     // A new connection is ready as soon as the server is, and the old one takes along what is late.
@@ -282,8 +285,7 @@ void PulseAudioOutput::disconnectLater() {
 void PulseAudioOutput::fail(int error) {
     disconnectLater();
     m_isProbing = false;
-    m_isDraining = false;
-    m_hasUndrained = false;
+    m_holdTimer.reset();
     m_soundEnd = 0ms;
     m_waiting.clear();
     m_retryAt = m_clock.monotonic() + m_backOff;

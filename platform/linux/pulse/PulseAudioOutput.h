@@ -14,13 +14,12 @@ struct pa_stream;
 namespace norvin {
 
 class Clock;
+class ClockTimer;
 
 /// A stream to PulseAudio, or to PipeWire in its place, over libpulse's asynchronous interface. Connects when
 /// there is something to play, never starts a server, and holds its stream while it has nothing to play, so
 /// that the output can rest. A server that is gone is tried again, at most every few seconds, by what is
-/// queued next; one that does not answer is waited for, and what was to be played meanwhile is dropped. (What
-/// is queued while a sound is under way is sent after it at once, to follow without a gap, and shares its
-/// fate.)
+/// queued next; one that does not answer is waited for, and what was to be played meanwhile is dropped.
 ///
 /// Unavailable with "health_no_sound_server", with "health_sound_server_silent" where there is a server that
 /// does not answer, or with "health_no_sound_device" where it has no output, until a connection succeeds.
@@ -42,7 +41,7 @@ public:
 private:
     using Time = std::chrono::milliseconds; // of the clock's monotonic()
 
-    // What the server was asked last and has not answered yet; at rest disconnected, or held between sounds.
+    // "held" is the rest between sounds; a server is waited for while connecting, releasing and holding.
     enum class State { disconnected, connecting, held, releasing, playing, holding };
 
     struct Waiting {
@@ -66,8 +65,8 @@ private:
     void streamChanged();
     void advance();
     void write();
+    [[nodiscard]] Time lengthOf(const std::vector<float>& samples) const;
     void setHeld(bool held);
-    void drain();
     void ask(pa_operation* operation);
     void answered();
     void noticeSilence();
@@ -85,9 +84,8 @@ private:
     std::deque<Waiting> m_waiting;
     // When all that was written will have been heard, if the server does its work.
     Time m_soundEnd{0};
-    // Whether the server was asked to say when that is so, and whether something was written since.
-    bool m_isDraining = false;
-    bool m_hasUndrained = false;
+    // Runs while sound is under way.
+    std::unique_ptr<ClockTimer> m_holdTimer;
     // When the server should have answered what it was asked last.
     Time m_answerDue{0};
     Time m_retryAt{0};
