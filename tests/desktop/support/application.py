@@ -23,6 +23,13 @@ class Application:
         self.process = None
         self._launches = 0
 
+    def write_preferences(self, **settings):
+        """The settings that the program finds when it is launched."""
+        directory = os.path.join(self.desktop.environment["XDG_CONFIG_HOME"], "norvin-focus")
+        os.makedirs(directory, exist_ok=True)
+        with open(os.path.join(directory, "preferences.ini"), "w", encoding="utf-8") as file:
+            file.writelines(["[General]\n", *(f"{key}={value}\n" for key, value in settings.items())])
+
     # Processes
 
     def launch(self, *arguments):
