@@ -16,7 +16,10 @@ from pathlib import Path
 sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "tests" / "desktop"))
 
 from support.application import Application  # noqa: E402
+from support.audio import PulseAudio  # noqa: E402
+from support.browsers import Accessibility, Chromium, Firefox  # noqa: E402
 from support.desktop import WORK, Desktop  # noqa: E402
+from support.pages import Pages  # noqa: E402
 
 START_PAIRS = 15
 SAMPLE_SECONDS = 30
@@ -129,6 +132,51 @@ def measure_session(app, minimal_window):
     return result, beside
 
 
+def measure_ticks(program):
+    """Two samples taken at the same time of a session with its window closed: with ticks, and without."""
+    desktops = []
+    try:
+        programs = []
+        for ticks in ("true", "false"):
+            desktops.append(Desktop())
+            PulseAudio(desktops[-1]).start()
+            app = Application(desktops[-1], program)
+            app.write_preferences(tick_sound_enabled=ticks)
+            app.launch("--hidden")
+            app.do("start", "--minutes", "60")
+            programs.append(app.process.pid)
+        return sample(*programs)
+    finally:
+        for desktop in desktops:
+            desktop.close()
+
+
+def measure_browser(program, kind, identifier):
+    """Of a session with a browser in front, window closed: own samples and those of the accessibility bus, with the
+    browser looked into each second, and without."""
+    desktop, pages = Desktop(), Pages()
+    try:
+        accessibility = Accessibility(desktop).start()
+        launcher = accessibility.launcher.pid
+        bus = int(Path(f"/proc/{launcher}/task/{launcher}/children").read_text().split()[0])
+        browser = kind(desktop, pages)
+        browser.start(pages.add("http://work.example/", "Work page"), title="Work page")
+        app = Application(desktop, program)
+        app.write_preferences(tick_sound_enabled="false")
+        app.launch("--hidden")
+        app.do("allow", "--app", identifier)
+        app.do("start", "--minutes", "60")
+        app.wait_for(lambda s: s["activity"]["domain"] == "work.example", "the page is known")
+        asked = sample(app.process.pid, bus)
+        app.do("allow", "--app", identifier, "--remove")
+        silent = sample(app.process.pid, bus)
+        browser.close()
+        return asked, silent
+    finally:
+        desktop.close()
+        pages.close()
+
+
 def measure_store(program):
     output = subprocess.run([program, "--benchmark_format=json", "--benchmark_repetitions=3",
                              "--benchmark_enable_random_interleaving=true"],
@@ -152,6 +200,7 @@ def main():
     desktop = Desktop()
     try:
         app = Application(desktop, program)
+        app.write_preferences(tick_sound_enabled="false")  # there is no sound server
         app.launch("--hidden")
         app.process.terminate()
         app.process.wait()
@@ -176,6 +225,18 @@ def main():
             rows.append((f"{names[state]}: proportional set size, MB", f"{pss:.0f}", "", limits[2]))
     finally:
         desktop.close()
+
+    ticking, silent = measure_ticks(program)
+    rows.append(("session running, window closed: CPU with ticks / without", f"{ticking[0] / silent[0]:.2f}",
+                 f"{ticking[0]:.3f} / {silent[0]:.3f} %", "–"))
+    rows.append(("session running, window closed: voluntary context switches a second with ticks / without",
+                 f"{ticking[1] / silent[1]:.2f}", f"{ticking[1]:.2f} / {silent[1]:.2f}", "–"))
+
+    for kind, identifier in ((Firefox, "org.mozilla.firefox"), (Chromium, "com.google.Chrome")):
+        asked, silent = measure_browser(program, kind, identifier)
+        for what, with_it, without in (("own process", asked[0], silent[0]), ("accessibility bus", asked[1], silent[1])):
+            rows.append((f"session, {kind.name} in front: CPU of the {what}, looked into / not",
+                         f"{with_it[0] / max(without[0], 0.001):.2f}", f"{with_it[0]:.3f} / {without[0]:.3f} %", "–"))
 
     median = measure_store(str(build / "bin" / "bench_store"))
     for percentile, budget in (("p50_us", "0.5 ms more"), ("p99_us", "2 ms more")):
