@@ -58,6 +58,7 @@ QList<TrackingHealthModel::Check> platformHealthChecks(LinuxPlatform& platform) 
         {QStringLiteral("health_notifications"),
          [&platform] { return platform.notifications().availability(); }},
         {QStringLiteral("health_sounds"), [&platform] { return platform.sounds().availability(); }},
+        {QStringLiteral("health_ticks"), [&platform] { return platform.audioOutput().availability(); }},
         {QStringLiteral("health_preferences"), [&platform] { return platform.preferences().availability(); }},
         {QStringLiteral("health_browser_pages"),
          [] { return Availability::unavailable(QStringLiteral("health_browser_pages_missing")); }},
@@ -92,6 +93,8 @@ NorvinFocusApp::NorvinFocusApp(LinuxPlatform& platform, std::unique_ptr<ModelCon
     , m_localization(platform.preferences())
     , m_sharedServices(platform)
     , m_soundService(platform.sounds())
+    , m_tickSoundService(platform.audioOutput(), platform.preferences())
+    , m_tickSoundSettings(m_tickSoundService, platform.audioOutput())
     , m_timerService(timerCollaborators(platform, m_soundService))
     , m_deepWorkScreen(m_timerService, AppUsageService::shared(), MotionService::shared(),
                        m_sharedModelContainer->mainContext())
@@ -103,7 +106,8 @@ NorvinFocusApp::NorvinFocusApp(LinuxPlatform& platform, std::unique_ptr<ModelCon
                                              [this] { return m_busAvailability; }}
                << TrackingHealthModel::Check{QStringLiteral("health_store"),
                                              [this] { return m_storeAvailability; }})
-    , m_userInterface(std::move(engine), m_deepWorkScreen, m_applications, m_health, m_localization)
+    , m_userInterface(std::move(engine), m_deepWorkScreen, m_tickSoundSettings, m_applications, m_health,
+                      m_localization)
     , m_busService(sessionBus(), m_deepWorkScreen, AppBlockerService::shared(), m_health) {
     followStore();
     followPlatform();
@@ -128,6 +132,7 @@ bool NorvinFocusApp::launch() {
 void NorvinFocusApp::wireServices() {
     ModelContext& context = m_sharedModelContainer->mainContext();
     m_timerService.setModelContext(&context);
+    m_timerService.setTickSoundService(&m_tickSoundService);
     AppUsageService::shared().setModelContext(&context);
 }
 
@@ -154,6 +159,7 @@ void NorvinFocusApp::followPlatform() {
     connect(&m_platform.sleepMonitor(), &SleepMonitor::availabilityChanged, this, refresh);
     connect(&m_platform.notifications(), &UserNotifications::availabilityChanged, this, refresh);
     connect(&m_platform.sounds(), &SystemSounds::availabilityChanged, this, refresh);
+    connect(&m_platform.audioOutput(), &AudioOutput::availabilityChanged, this, refresh);
     connect(&m_platform.preferences(), &Preferences::availabilityChanged, this, refresh);
     connect(&m_platform.notifications(), &UserNotifications::activated, this, &NorvinFocusApp::showWindow);
     connect(&m_userInterface, &UserInterface::windowClosedWhileRunning, this, [this] {

@@ -8,6 +8,8 @@
 #include "focus/PomodoroTimerService.h"
 #include "model/ModelContainer.h"
 #include "sound/SoundService.h"
+#include "sound/TickSoundService.h"
+#include "sound/TickSoundSettings.h"
 #include "ui/Localization.h"
 #include "ui/UserInterface.h"
 
@@ -63,6 +65,8 @@ private:
     Localization m_localization;
     SharedServices m_sharedServices;
     SoundService m_soundService;
+    TickSoundService m_tickSoundService;
+    TickSoundSettings m_tickSoundSettings;
     PomodoroTimerService m_timerService;
     DeepWorkScreen m_deepWorkScreen;
     ApplicationListModel m_applications;

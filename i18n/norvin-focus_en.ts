@@ -321,6 +321,14 @@
         <source></source>
         <translation>Start Norvin Focus from within a graphical session, or through dbus-run-session.</translation>
     </message>
+    <message id="health_no_sound_device">
+        <source></source>
+        <translation>The sound server has no output.</translation>
+    </message>
+    <message id="health_no_sound_device_remedy">
+        <source></source>
+        <translation>Connect speakers or headphones, or choose an output in the sound settings.</translation>
+    </message>
     <message id="health_no_sound_server">
         <source></source>
         <translation>No sound server answers.</translation>
@@ -384,6 +392,14 @@
         <source></source>
         <translation>Noticing that the machine sleeps</translation>
     </message>
+    <message id="health_sound_server_silent">
+        <source></source>
+        <translation>The sound server does not answer.</translation>
+    </message>
+    <message id="health_sound_server_silent_remedy">
+        <source></source>
+        <translation>Restart PipeWire or PulseAudio; the ticks come back by themselves.</translation>
+    </message>
     <message id="health_sounds">
         <source></source>
         <translation>Sounds</translation>
@@ -403,6 +419,10 @@
     <message id="health_subtitle">
         <source></source>
         <translation>What Norvin Focus can use of this desktop, and what to do about the rest.</translation>
+    </message>
+    <message id="health_ticks">
+        <source></source>
+        <translation>Tick sounds</translation>
     </message>
     <message id="health_title">
         <source></source>
@@ -890,6 +910,78 @@
     <message id="tasks_title">
         <source></source>
         <translation>Tasks</translation>
+    </message>
+    <message id="tick_sounds_button_off">
+        <source></source>
+        <translation>Tick sounds: off (Ctrl+T)</translation>
+    </message>
+    <message id="tick_sounds_button_on">
+        <source></source>
+        <translation>Tick sounds: on (Ctrl+T)</translation>
+    </message>
+    <message id="tick_sounds_done_button">
+        <source></source>
+        <translation>Done</translation>
+    </message>
+    <message id="tick_sounds_sample_button">
+        <source></source>
+        <translation>Play a sample</translation>
+    </message>
+    <message id="tick_sounds_subtitle">
+        <source></source>
+        <translation>One tick a second while a session runs</translation>
+    </message>
+    <message id="tick_sounds_switch">
+        <source></source>
+        <translation>Tick while a session runs</translation>
+    </message>
+    <message id="tick_sounds_title">
+        <source></source>
+        <translation>Tick sounds</translation>
+    </message>
+    <message id="tick_sounds_type_label">
+        <source></source>
+        <translation>Character</translation>
+    </message>
+    <message id="tick_sounds_volume">
+        <source></source>
+        <translation>Volume</translation>
+    </message>
+    <message id="tick_sounds_volume_value">
+        <source></source>
+        <translation>%1%</translation>
+    </message>
+    <message id="tick_type_clock">
+        <source></source>
+        <translation>Clock</translation>
+    </message>
+    <message id="tick_type_clock_hint">
+        <source></source>
+        <translation>Tick and tock in turn</translation>
+    </message>
+    <message id="tick_type_digital">
+        <source></source>
+        <translation>Digital</translation>
+    </message>
+    <message id="tick_type_digital_hint">
+        <source></source>
+        <translation>Short and even</translation>
+    </message>
+    <message id="tick_type_metronome">
+        <source></source>
+        <translation>Metronome</translation>
+    </message>
+    <message id="tick_type_metronome_hint">
+        <source></source>
+        <translation>Crisp, high and low in turn</translation>
+    </message>
+    <message id="tick_type_soft">
+        <source></source>
+        <translation>Soft</translation>
+    </message>
+    <message id="tick_type_soft_hint">
+        <source></source>
+        <translation>Low and rounded</translation>
     </message>
     <message id="today">
         <source></source>

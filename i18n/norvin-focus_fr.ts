@@ -321,6 +321,14 @@
         <source></source>
         <translation>Lancez Norvin Focus depuis une session graphique, ou avec dbus-run-session.</translation>
     </message>
+    <message id="health_no_sound_device">
+        <source></source>
+        <translation>Le serveur de son n’a aucune sortie.</translation>
+    </message>
+    <message id="health_no_sound_device_remedy">
+        <source></source>
+        <translation>Branchez des haut-parleurs ou un casque, ou choisissez une sortie dans les réglages du son.</translation>
+    </message>
     <message id="health_no_sound_server">
         <source></source>
         <translation>Aucun serveur de son ne répond.</translation>
@@ -384,6 +392,14 @@
         <source></source>
         <translation>Remarquer la mise en veille de la machine</translation>
     </message>
+    <message id="health_sound_server_silent">
+        <source></source>
+        <translation>Le serveur de son ne répond pas.</translation>
+    </message>
+    <message id="health_sound_server_silent_remedy">
+        <source></source>
+        <translation>Redémarrez PipeWire ou PulseAudio ; le tic-tac reviendra de lui-même.</translation>
+    </message>
     <message id="health_sounds">
         <source></source>
         <translation>Sons</translation>
@@ -403,6 +419,10 @@
     <message id="health_subtitle">
         <source></source>
         <translation>Ce que Norvin Focus peut utiliser de ce bureau, et que faire pour le reste.</translation>
+    </message>
+    <message id="health_ticks">
+        <source></source>
+        <translation>Tic-tac</translation>
     </message>
     <message id="health_title">
         <source></source>
@@ -890,6 +910,78 @@
     <message id="tasks_title">
         <source></source>
         <translation>Tâches</translation>
+    </message>
+    <message id="tick_sounds_button_off">
+        <source></source>
+        <translation>Tic-tac : désactivé (Ctrl+T)</translation>
+    </message>
+    <message id="tick_sounds_button_on">
+        <source></source>
+        <translation>Tic-tac : activé (Ctrl+T)</translation>
+    </message>
+    <message id="tick_sounds_done_button">
+        <source></source>
+        <translation>Terminé</translation>
+    </message>
+    <message id="tick_sounds_sample_button">
+        <source></source>
+        <translation>Écouter un extrait</translation>
+    </message>
+    <message id="tick_sounds_subtitle">
+        <source></source>
+        <translation>Un tic par seconde pendant une session</translation>
+    </message>
+    <message id="tick_sounds_switch">
+        <source></source>
+        <translation>Tic-tac pendant une session</translation>
+    </message>
+    <message id="tick_sounds_title">
+        <source></source>
+        <translation>Tic-tac</translation>
+    </message>
+    <message id="tick_sounds_type_label">
+        <source></source>
+        <translation>Timbre</translation>
+    </message>
+    <message id="tick_sounds_volume">
+        <source></source>
+        <translation>Volume</translation>
+    </message>
+    <message id="tick_sounds_volume_value">
+        <source></source>
+        <translation>%1 %</translation>
+    </message>
+    <message id="tick_type_clock">
+        <source></source>
+        <translation>Horloge</translation>
+    </message>
+    <message id="tick_type_clock_hint">
+        <source></source>
+        <translation>Tic et tac en alternance</translation>
+    </message>
+    <message id="tick_type_digital">
+        <source></source>
+        <translation>Numérique</translation>
+    </message>
+    <message id="tick_type_digital_hint">
+        <source></source>
+        <translation>Bref et régulier</translation>
+    </message>
+    <message id="tick_type_metronome">
+        <source></source>
+        <translation>Métronome</translation>
+    </message>
+    <message id="tick_type_metronome_hint">
+        <source></source>
+        <translation>Net, aigu et grave en alternance</translation>
+    </message>
+    <message id="tick_type_soft">
+        <source></source>
+        <translation>Doux</translation>
+    </message>
+    <message id="tick_type_soft_hint">
+        <source></source>
+        <translation>Grave et feutré</translation>
     </message>
     <message id="today">
         <source></source>

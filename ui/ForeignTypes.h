@@ -5,6 +5,7 @@
 #include "focus/DeepWorkScreen.h"
 #include "focus/TaskPickerModel.h"
 #include "focus/TaskQueueModel.h"
+#include "sound/TickSoundSettings.h"
 #include "ui/Localization.h"
 #include "ui/MotionPreference.h"
 #include "ui/TextFormats.h"
@@ -43,6 +44,13 @@ struct ApplicationListModelType {
     Q_GADGET
     QML_FOREIGN(norvin::ApplicationListModel)
     QML_NAMED_ELEMENT(ApplicationListModel)
+    QML_UNCREATABLE("Handed to the window")
+};
+
+struct TickSoundSettingsType {
+    Q_GADGET
+    QML_FOREIGN(norvin::TickSoundSettings)
+    QML_NAMED_ELEMENT(TickSoundSettings)
     QML_UNCREATABLE("Handed to the window")
 };
 

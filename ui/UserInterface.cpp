@@ -3,6 +3,7 @@
 #include "distraction/ApplicationListModel.h"
 #include "distraction/TrackingHealthModel.h"
 #include "focus/DeepWorkScreen.h"
+#include "sound/TickSoundSettings.h"
 #include "ui/InterfaceEngine.h"
 #include "ui/Localization.h"
 #include "ui/MotionPreference.h"
@@ -28,10 +29,11 @@ constexpr int bodyPixelSize = 14;
 } // namespace
 
 UserInterface::UserInterface(std::unique_ptr<InterfaceEngine> engine, DeepWorkScreen& deepWork,
-                             ApplicationListModel& applications, TrackingHealthModel& health,
-                             Localization& localization, QObject* parent)
+                             TickSoundSettings& tickSounds, ApplicationListModel& applications,
+                             TrackingHealthModel& health, Localization& localization, QObject* parent)
     : QObject(parent)
     , m_deepWork(deepWork)
+    , m_tickSounds(tickSounds)
     , m_applications(applications)
     , m_health(health)
     , m_localization(localization)
@@ -55,6 +57,7 @@ bool UserInterface::load() {
     QGuiApplication::setFont(font);
     std::unique_ptr<QObject> root = m_engine->createWindow({
         {QStringLiteral("deepWork"), QVariant::fromValue(&m_deepWork)},
+        {QStringLiteral("tickSounds"), QVariant::fromValue(&m_tickSounds)},
         {QStringLiteral("applications"), QVariant::fromValue(&m_applications)},
         {QStringLiteral("health"), QVariant::fromValue(&m_health)},
         {QStringLiteral("storeProblem"), m_storeProblem},

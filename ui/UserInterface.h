@@ -14,6 +14,7 @@ class DeepWorkScreen;
 class InterfaceEngine;
 class Localization;
 class MotionPreference;
+class TickSoundSettings;
 class TrackingHealthModel;
 
 /// The main window and what is behind it. Needs a QGuiApplication that does not quit by itself when its last
@@ -28,8 +29,8 @@ class UserInterface final : public QObject {
 public:
     /// Everything given by reference must outlive this.
     UserInterface(std::unique_ptr<InterfaceEngine> engine, DeepWorkScreen& deepWork,
-                  ApplicationListModel& applications, TrackingHealthModel& health, Localization& localization,
-                  QObject* parent = nullptr);
+                  TickSoundSettings& tickSounds, ApplicationListModel& applications,
+                  TrackingHealthModel& health, Localization& localization, QObject* parent = nullptr);
     ~UserInterface() override;
 
     /// Builds the window, hidden. @return whether it is there; a failure is logged
@@ -61,6 +62,7 @@ private:
     [[nodiscard]] bool isPhaseUnderWay() const;
 
     DeepWorkScreen& m_deepWork;
+    TickSoundSettings& m_tickSounds;
     ApplicationListModel& m_applications;
     TrackingHealthModel& m_health;
     Localization& m_localization;

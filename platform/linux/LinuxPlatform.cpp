@@ -17,6 +17,7 @@
 #include "platform/linux/gio/GioDesktopEntries.h"
 #include "platform/linux/identity/ApplicationIdentity.h"
 #include "platform/linux/login1/Login1SleepMonitor.h"
+#include "platform/linux/pulse/PulseAudioOutput.h"
 #include "platform/linux/settings/IniPreferences.h"
 #include "platform/linux/webextension/ExtensionServer.h"
 #include "platform/linux/x11/X11IdleTimeSource.h"
@@ -41,6 +42,8 @@ bool isXwayland(xcb_connection_t* connection) {
     // Servers older than the extension are told by the session.
     return (reply && reply->present) || qgetenv("XDG_SESSION_TYPE") == "wayland";
 }
+
+constexpr int audioSampleRate = 44100;
 
 enum class Display { X11, Wayland, None };
 
@@ -74,6 +77,7 @@ struct LinuxPlatform::Parts {
     Login1SleepMonitor sleepMonitor{QDBusConnection::systemBus()};
     FreedesktopNotifications notifications{sessionBus()};
     CanberraSounds sounds;
+    PulseAudioOutput audioOutput{clock, audioSampleRate};
     AtspiTrust accessibilityTrust{sessionBus()};
     AtspiBrowsers accessibleBrowsers{sessionBus(), clock};
     ExtensionServer extensions{clock};
@@ -89,7 +93,10 @@ struct LinuxPlatform::Parts {
 
     Parts() {
         // Not at once: the first frame needs the processor more.
-        soundProbe = clock.after(std::chrono::milliseconds(400), [this] { sounds.probe(); });
+        soundProbe = clock.after(std::chrono::milliseconds(400), [this] {
+            sounds.probe();
+            audioOutput.probe();
+        });
         lookAtDisplay();
         browserRoutes = std::make_unique<BrowserRoutes>(
             *workspace, QList<BrowserRoute*>{&extensionRoute, &accessibilityRoute});
@@ -182,6 +189,10 @@ UserNotifications& LinuxPlatform::notifications() const {
 
 SystemSounds& LinuxPlatform::sounds() const {
     return m_parts->sounds;
+}
+
+AudioOutput& LinuxPlatform::audioOutput() const {
+    return m_parts->audioOutput;
 }
 
 } // namespace norvin

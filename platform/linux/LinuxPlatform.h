@@ -3,6 +3,7 @@
 #include "platform/AccessibilityElement.h"
 #include "platform/AccessibilityTrust.h"
 #include "platform/ApplicationCatalog.h"
+#include "platform/AudioOutput.h"
 #include "platform/BrowserAccess.h"
 #include "platform/BrowserScripting.h"
 #include "platform/Clock.h"
@@ -49,6 +50,8 @@ public:
     [[nodiscard]] OverlaySupport& overlays() const;
     [[nodiscard]] UserNotifications& notifications() const;
     [[nodiscard]] SystemSounds& sounds() const;
+    /// Generated sound, at 44,100 frames a second.
+    [[nodiscard]] AudioOutput& audioOutput() const;
 
 private:
     struct Parts;

@@ -3,6 +3,9 @@
 #include "distraction/ApplicationListModel.h"
 #include "distraction/TrackingHealthModel.h"
 #include "focus/DeepWorkScreen.h"
+#include "platform/fake/FakeAudioOutput.h"
+#include "sound/TickSoundService.h"
+#include "sound/TickSoundSettings.h"
 #include "tests/support/FocusRig.h"
 #include "ui/InterfaceEngine.h"
 #include "ui/Localization.h"
@@ -23,8 +26,9 @@ struct UiRig {
         for (const char* name : {"Archive Manager", "Calculator", "Editor", "Game", "Terminal"})
             install(QString::fromLatin1(name));
         health.refresh();
-        userInterface = std::make_unique<UserInterface>(std::make_unique<InterfaceEngine>(), deepWork,
-                                                        applications, health, *localization);
+        userInterface =
+            std::make_unique<UserInterface>(std::make_unique<InterfaceEngine>(), deepWork, tickSoundSettings,
+                                            applications, health, *localization);
         loaded = userInterface->load();
     }
 
@@ -67,6 +71,9 @@ struct UiRig {
     Availability idleTime = Availability::available();
     Availability pages = Availability::unavailable(QStringLiteral("health_browser_pages_missing"));
     std::unique_ptr<Localization> localization;
+    FakeAudioOutput audioOutput{focus.clock};
+    TickSoundService tickSounds{audioOutput, focus.preferences};
+    TickSoundSettings tickSoundSettings{tickSounds, audioOutput};
     DeepWorkScreen deepWork{focus.timer, focus.usage, focus.motion, focus.context()};
     ApplicationListModel applications{focus.catalog, focus.workspace, focus.blocker};
     TrackingHealthModel health{

@@ -87,6 +87,10 @@ void AppearanceTest::bringAbout(const QString& scene) {
             Availability::unavailable(QStringLiteral("health_wayland_idle"), QStringLiteral("detail"));
         rig->showPage(2);
     }
+    if (scene == QLatin1String("ticks")) {
+        rig->audioOutput.setAvailability(Availability::unavailable(QStringLiteral("health_no_sound_device")));
+        rig->press(Qt::Key_T, Qt::ControlModifier);
+    }
     if (scene == QLatin1String("own"))
         rig->deepWork.setSelectedDuration(1440);
     if (scene == QLatin1String("break"))
@@ -158,7 +162,7 @@ void AppearanceTest::checkNames(const QString& scene) const {
 void AppearanceTest::nothingIsCutAndEverythingHasAName_data() {
     QTest::addColumn<QString>("scene");
     for (const char* scene : {"empty", "filled", "own", "started", "running", "paused", "resumed",
-                              "completed", "break", "blocklists", "health", "quit"})
+                              "completed", "break", "blocklists", "health", "quit", "ticks"})
         QTest::newRow(scene) << QString::fromLatin1(scene);
 }
 

@@ -10,6 +10,7 @@ FocusScope {
     id: root
 
     required property DeepWorkScreen screen
+    required property TickSoundSettings tickSounds
     /// Whether anybody can see the screen.
     required property bool live
     /// Whether the tasks are wanted already: they are left out of the first picture, which is there sooner so.
@@ -34,6 +35,16 @@ FocusScope {
         const holder = root.Window.activeFocusItem;
         if (root.visible && (!holder || !holder.visible || holder === nowhere || holder === root))
             root.focusStart();
+    }
+
+    function openTickSounds(): void {
+        if (tickSoundSheet.item)
+            return;
+        tickSoundSheet.keyboardBefore = root.Window.activeFocusItem;
+        tickSoundSheet.setSource("../sound/TickSoundSettingsSheet.qml", {
+            settings: root.tickSounds,
+            host: tickSoundSheet
+        });
     }
 
     function phaseName(): string {
@@ -63,6 +74,12 @@ FocusScope {
     onFurnishedChanged: tasksLoader.setSource("TaskPanel.qml", {
         screen: root.screen
     })
+
+    Shortcut {
+        sequences: ["Ctrl+T"]
+        enabled: root.visible
+        onActivated: root.openTickSounds()
+    }
 
     Keys.onSpacePressed: {
         if (!root.isCompleted)
@@ -100,6 +117,18 @@ FocusScope {
 
         function onStateChanged(): void {
             afterwards.start();
+        }
+    }
+
+    // Loaded when it is wanted, and gone when it is closed.
+    Loader {
+        id: tickSoundSheet
+
+        property Item keyboardBefore: null
+
+        onItemChanged: {
+            if (!tickSoundSheet.item && tickSoundSheet.keyboardBefore)
+                tickSoundSheet.keyboardBefore.forceActiveFocus(Qt.PopupFocusReason);
         }
     }
 
@@ -189,6 +218,8 @@ FocusScope {
                         Layout.alignment: Qt.AlignHCenter
                         visible: !root.isCompleted
                         screen: root.screen
+                        ticksAreOn: root.tickSounds.isEnabled
+                        onTickSoundsWanted: root.openTickSounds()
                     }
 
                     ThemedText {

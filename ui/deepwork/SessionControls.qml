@@ -9,7 +9,10 @@ RowLayout {
     id: root
 
     required property DeepWorkScreen screen
+    required property bool ticksAreOn
     readonly property string timerState: root.screen.state
+
+    signal tickSoundsWanted
 
     function toggle(): void {
         if (root.screen.state === "running")
@@ -25,6 +28,11 @@ RowLayout {
     }
 
     spacing: Theme.gap3
+
+    // Keeps the other buttons in the middle.
+    Item {
+        implicitWidth: Theme.controlHeightLarge
+    }
 
     PushButton {
         id: primary
@@ -43,5 +51,16 @@ RowLayout {
         symbol: "stop"
         text: qsTrId("stop_button")
         onClicked: root.screen.stop()
+    }
+
+    IconButton {
+        objectName: "tickSoundsButton"
+        implicitWidth: Theme.controlHeightLarge
+        implicitHeight: Theme.controlHeightLarge
+        symbol: root.ticksAreOn ? "metronome" : "metronome.slash"
+        symbolColor: hovered || visualFocus ? Theme.text : Theme.textMuted
+        symbolSize: 24
+        text: root.ticksAreOn ? qsTrId("tick_sounds_button_on") : qsTrId("tick_sounds_button_off")
+        onClicked: root.tickSoundsWanted()
     }
 }

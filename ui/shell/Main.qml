@@ -8,6 +8,7 @@ Window {
     id: root
 
     required property DeepWorkScreen deepWork
+    required property TickSoundSettings tickSounds
     required property ApplicationListModel applications
     required property TrackingHealthModel health
     property string storeProblem: ""
@@ -71,6 +72,7 @@ Window {
             height: content.height
             focus: true
             deepWork: root.deepWork
+            tickSounds: root.tickSounds
             applications: root.applications
             health: root.health
             storeProblem: root.storeProblem

@@ -9,6 +9,7 @@ FocusScope {
     id: root
 
     required property DeepWorkScreen deepWork
+    required property TickSoundSettings tickSounds
     required property ApplicationListModel applications
     required property TrackingHealthModel health
     /// Empty while the store is well.
@@ -60,6 +61,7 @@ FocusScope {
 
                     focus: true
                     screen: root.deepWork
+                    tickSounds: root.tickSounds
                     live: root.live && root.page === 0
                     furnished: root.furnished
                 }
