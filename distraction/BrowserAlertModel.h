@@ -11,7 +11,8 @@ class BrowserAlertModel final : public QObject {
     /// As it was read, in Unicode; empty before the first alert, and of the last one after it.
     Q_PROPERTY(QString domain READ domain WRITE setDomain NOTIFY domainChanged)
 public:
-    using QObject::QObject;
+    explicit BrowserAlertModel(QObject* parent)
+        : QObject(parent) {}
 
     [[nodiscard]] const QString& domain() const { return m_domain; }
     void setDomain(const QString& domain);

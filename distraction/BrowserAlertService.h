@@ -38,7 +38,7 @@ public:
 private:
     AlertOverlay& m_overlay;
     UserNotifications& m_notifications;
-    BrowserAlertModel m_model;
+    BrowserAlertModel m_model{this};
     std::optional<QString> m_shownDomain;
 };
 

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "distraction/AICoachService.h"
 #include "distraction/ApplicationListModel.h"
+#include "distraction/BrowserAlertModel.h"
 #include "distraction/TrackingHealthModel.h"
 #include "focus/DeepWorkScreen.h"
 #include "focus/TaskPickerModel.h"
@@ -59,6 +61,20 @@ struct TrackingHealthModelType {
     QML_FOREIGN(norvin::TrackingHealthModel)
     QML_NAMED_ELEMENT(TrackingHealthModel)
     QML_UNCREATABLE("Handed to the window")
+};
+
+struct AICoachServiceType {
+    Q_GADGET
+    QML_FOREIGN(norvin::AICoachService)
+    QML_NAMED_ELEMENT(AICoachService)
+    QML_UNCREATABLE("Handed to the window")
+};
+
+struct BrowserAlertModelType {
+    Q_GADGET
+    QML_FOREIGN(norvin::BrowserAlertModel)
+    QML_NAMED_ELEMENT(BrowserAlertModel)
+    QML_UNCREATABLE("Handed to the alert")
 };
 
 struct TextFormatsType {

@@ -3,6 +3,7 @@
 #include "platform/Log.h"
 #include "ui/ForeignTypes.h"
 #include "ui/ImageProviders.h"
+#include "ui/alert/OverlayWindow.h"
 
 #include <QFontDatabase>
 #include <QQmlComponent>
@@ -13,6 +14,14 @@
 extern void qml_register_types_NorvinFocus_Ui();
 
 namespace norvin {
+
+namespace {
+
+QUrl addressOf(const char* file) {
+    return QUrl(QStringLiteral("qrc:/NorvinFocus/Ui/") + QLatin1String(file));
+}
+
+} // namespace
 
 InterfaceEngine::InterfaceEngine() {
     // The first text that is laid out waits for the list of the machine's fonts, which is long in the making.
@@ -32,9 +41,7 @@ void InterfaceEngine::setSingletons(Localization& localization, MotionPreference
 }
 
 void InterfaceEngine::compileMeanwhile(const char* file) {
-    m_compiling = std::make_unique<QQmlComponent>(
-        &m_engine, QUrl(QStringLiteral("qrc:/NorvinFocus/Ui/") + QLatin1String(file)),
-        QQmlComponent::Asynchronous);
+    m_compiling = std::make_unique<QQmlComponent>(&m_engine, addressOf(file), QQmlComponent::Asynchronous);
 }
 
 void InterfaceEngine::finishCompiling() {
@@ -54,6 +61,20 @@ std::unique_ptr<QObject> InterfaceEngine::createWindow(const QVariantMap& proper
         logLine(
             QStringLiteral("InterfaceEngine: The window cannot be built: %1").arg(m_window->errorString()));
     return object;
+}
+
+std::unique_ptr<OverlayWindow> InterfaceEngine::createOverlay(const char* file,
+                                                              const QVariantMap& properties) {
+    QQmlComponent component(&m_engine, addressOf(file));
+    std::unique_ptr<QObject> object(component.createWithInitialProperties(properties));
+    std::unique_ptr<OverlayWindow> overlay(qobject_cast<OverlayWindow*>(object.get()));
+    if (!overlay) {
+        logLine(
+            QStringLiteral("InterfaceEngine: The overlay cannot be built: %1").arg(component.errorString()));
+        return nullptr;
+    }
+    static_cast<void>(object.release()); // the same object as overlay
+    return overlay;
 }
 
 } // namespace norvin

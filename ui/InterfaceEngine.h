@@ -10,6 +10,7 @@ namespace norvin {
 
 class Localization;
 class MotionPreference;
+class OverlayWindow;
 
 /// Compiles the window's QML, which takes longer than anything else at the start: it begins when this is
 /// made, on a thread of its own, so that whatever the window is to show can be put together meanwhile. Needs
@@ -28,6 +29,10 @@ public:
     /// Makes the main window with these properties, hidden.
     /// @return null where it cannot be made; the reason is logged
     [[nodiscard]] std::unique_ptr<QObject> createWindow(const QVariantMap& properties);
+    /// Makes an overlay from its file, with these properties, hidden.
+    /// @return null where it cannot be made; the reason is logged
+    [[nodiscard]] std::unique_ptr<OverlayWindow> createOverlay(const char* file,
+                                                               const QVariantMap& properties);
     /// Evaluates all texts anew, after the language changed.
     void retranslate() { m_engine.retranslate(); }
 
