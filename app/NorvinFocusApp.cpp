@@ -2,6 +2,7 @@
 
 #include "distraction/AppBlockerService.h"
 #include "distraction/AppUsageService.h"
+#include "distraction/BrowserAlertService.h"
 #include "focus/MotionService.h"
 #include "platform/linux/LinuxPlatform.h"
 #include "platform/linux/SessionBus.h"
@@ -65,10 +66,13 @@ QList<TrackingHealthModel::Check> platformHealthChecks(LinuxPlatform& platform) 
     };
 }
 
-NorvinFocusApp::SharedServices::SharedServices(LinuxPlatform& platform) {
+NorvinFocusApp::SharedServices::SharedServices(LinuxPlatform& platform, AlertOverlay& alert) {
     SharedInstance<AppBlockerService>::setFactory([&platform] {
         return std::make_unique<AppBlockerService>(platform.preferences(), platform.workspace(),
                                                    platform.sounds());
+    });
+    SharedInstance<BrowserAlertService>::setFactory([&platform, &alert] {
+        return std::make_unique<BrowserAlertService>(alert, platform.notifications());
     });
     SharedInstance<AppUsageService>::setFactory([&platform] {
         return std::make_unique<AppUsageService>(platform.clock(), platform.workspace(),
@@ -82,6 +86,7 @@ NorvinFocusApp::SharedServices::SharedServices(LinuxPlatform& platform) {
 NorvinFocusApp::SharedServices::~SharedServices() {
     SharedInstance<MotionService>::reset();
     SharedInstance<AppUsageService>::reset();
+    SharedInstance<BrowserAlertService>::reset();
     SharedInstance<AppBlockerService>::reset();
 }
 
@@ -91,11 +96,14 @@ NorvinFocusApp::NorvinFocusApp(LinuxPlatform& platform, std::unique_ptr<ModelCon
     , m_appDelegate(platform.accessibilityTrust())
     , m_sharedModelContainer(std::move(container))
     , m_localization(platform.preferences())
-    , m_sharedServices(platform)
+    , m_alertWindows(platform.overlays(), platform.clock())
+    , m_sharedServices(platform, m_alertWindows)
     , m_soundService(platform.sounds())
     , m_tickSoundService(platform.audioOutput(), platform.preferences())
     , m_tickSoundSettings(m_tickSoundService, platform.audioOutput())
     , m_timerService(timerCollaborators(platform, m_soundService))
+    , m_interruptions(m_timerService)
+    , m_coachService(platform.clock(), AppBlockerService::shared())
     , m_deepWorkScreen(m_timerService, AppUsageService::shared(), MotionService::shared(),
                        m_sharedModelContainer->mainContext())
     , m_applications(platform.applications(), platform.workspace(), AppBlockerService::shared())
@@ -113,12 +121,24 @@ NorvinFocusApp::NorvinFocusApp(LinuxPlatform& platform, std::unique_ptr<ModelCon
     followPlatform();
 }
 
-NorvinFocusApp::~NorvinFocusApp() = default;
+NorvinFocusApp::~NorvinFocusApp() {
+    // The alert outlives what its windows are made by.
+    m_alertWindows.setContent(nullptr, nullptr);
+}
 
 bool NorvinFocusApp::launch() {
     m_appDelegate.applicationDidFinishLaunching();
+    m_userInterface.setCoach(m_coachService);
     if (!m_userInterface.load())
         return false;
+    m_alertWindows.setContent(&m_userInterface.engine(), &BrowserAlertService::shared().model());
+    m_coachBubble = std::make_unique<CoachBubble>(
+        CoachBubble::Collaborators{.coach = m_coachService,
+                                   .support = m_platform.overlays(),
+                                   .notifications = m_platform.notifications(),
+                                   .clock = m_platform.clock(),
+                                   .engine = m_userInterface.engine(),
+                                   .mainWindow = *m_userInterface.window()});
     wireServices();
     m_busService.setShowWindow([this] { showWindow(); });
     m_busAvailability = m_busService.publish();
@@ -134,6 +154,7 @@ void NorvinFocusApp::wireServices() {
     m_timerService.setModelContext(&context);
     m_timerService.setTickSoundService(&m_tickSoundService);
     AppUsageService::shared().setModelContext(&context);
+    m_coachService.setupSubscriptions(m_interruptions);
 }
 
 void NorvinFocusApp::followStore() {

@@ -2,16 +2,20 @@
 
 #include "app/AppDelegate.h"
 #include "app/FocusBusService.h"
+#include "distraction/AICoachService.h"
 #include "distraction/ApplicationListModel.h"
 #include "distraction/TrackingHealthModel.h"
 #include "focus/DeepWorkScreen.h"
 #include "focus/PomodoroTimerService.h"
+#include "focus/TimerInterruptions.h"
 #include "model/ModelContainer.h"
 #include "sound/SoundService.h"
 #include "sound/TickSoundService.h"
 #include "sound/TickSoundSettings.h"
 #include "ui/Localization.h"
 #include "ui/UserInterface.h"
+#include "ui/alert/AlertWindows.h"
+#include "ui/coach/CoachBubble.h"
 
 #include <QObject>
 #include <QString>
@@ -47,7 +51,7 @@ private:
     /// Says how the process-wide services are made, and ends them after everything that uses them.
     class SharedServices final {
     public:
-        explicit SharedServices(LinuxPlatform& platform);
+        SharedServices(LinuxPlatform& platform, AlertOverlay& alert);
         SharedServices(const SharedServices&) = delete;
         SharedServices& operator=(const SharedServices&) = delete;
         ~SharedServices();
@@ -63,17 +67,21 @@ private:
     AppDelegate m_appDelegate;
     std::unique_ptr<ModelContainer> m_sharedModelContainer;
     Localization m_localization;
+    AlertWindows m_alertWindows;
     SharedServices m_sharedServices;
     SoundService m_soundService;
     TickSoundService m_tickSoundService;
     TickSoundSettings m_tickSoundSettings;
     PomodoroTimerService m_timerService;
+    TimerInterruptions m_interruptions;
+    AICoachService m_coachService;
     DeepWorkScreen m_deepWorkScreen;
     ApplicationListModel m_applications;
     Availability m_busAvailability;
     Availability m_storeAvailability;
     TrackingHealthModel m_health;
     UserInterface m_userInterface;
+    std::unique_ptr<CoachBubble> m_coachBubble;
     FocusBusService m_busService;
 };
 

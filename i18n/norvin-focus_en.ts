@@ -146,6 +146,10 @@
         <source></source>
         <translation>System</translation>
     </message>
+    <message id="coach_dismiss_button">
+        <source></source>
+        <translation>Hide the message</translation>
+    </message>
     <message id="coach_distraction_1">
         <source></source>
         <translation>%1 can wait. First one small step on your task.</translation>

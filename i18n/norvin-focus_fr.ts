@@ -146,6 +146,10 @@
         <source></source>
         <translation>Système</translation>
     </message>
+    <message id="coach_dismiss_button">
+        <source></source>
+        <translation>Masquer le message</translation>
+    </message>
     <message id="coach_distraction_1">
         <source></source>
         <translation>%1 peut attendre. D’abord un petit pas dans votre tâche.</translation>

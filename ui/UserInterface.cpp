@@ -1,5 +1,6 @@
 #include "ui/UserInterface.h"
 
+#include "distraction/AICoachService.h"
 #include "distraction/ApplicationListModel.h"
 #include "distraction/TrackingHealthModel.h"
 #include "focus/DeepWorkScreen.h"
@@ -60,6 +61,7 @@ bool UserInterface::load() {
         {QStringLiteral("tickSounds"), QVariant::fromValue(&m_tickSounds)},
         {QStringLiteral("applications"), QVariant::fromValue(&m_applications)},
         {QStringLiteral("health"), QVariant::fromValue(&m_health)},
+        {QStringLiteral("coach"), QVariant::fromValue(m_coach)},
         {QStringLiteral("storeProblem"), m_storeProblem},
     });
     m_window.reset(qobject_cast<QQuickWindow*>(root.get()));

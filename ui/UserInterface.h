@@ -9,6 +9,7 @@ class QQuickWindow;
 
 namespace norvin {
 
+class AICoachService;
 class ApplicationListModel;
 class DeepWorkScreen;
 class InterfaceEngine;
@@ -32,6 +33,11 @@ public:
                   TickSoundSettings& tickSounds, ApplicationListModel& applications,
                   TrackingHealthModel& health, Localization& localization, QObject* parent = nullptr);
     ~UserInterface() override;
+
+    /// Whose messages the Deep Work screen shows, to be said before load(). @param coach must outlive this
+    void setCoach(AICoachService& coach) { m_coach = &coach; }
+    /// Lives as long as this.
+    [[nodiscard]] InterfaceEngine& engine() { return *m_engine; }
 
     /// Builds the window, hidden. @return whether it is there; a failure is logged
     [[nodiscard]] bool load();
@@ -66,6 +72,7 @@ private:
     ApplicationListModel& m_applications;
     TrackingHealthModel& m_health;
     Localization& m_localization;
+    AICoachService* m_coach = nullptr;
     std::unique_ptr<MotionPreference> m_motion;
     std::unique_ptr<InterfaceEngine> m_engine;
     std::unique_ptr<QQuickWindow> m_window;

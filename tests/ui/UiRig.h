@@ -1,5 +1,6 @@
 #pragma once
 
+#include "distraction/AICoachService.h"
 #include "distraction/ApplicationListModel.h"
 #include "distraction/TrackingHealthModel.h"
 #include "focus/DeepWorkScreen.h"
@@ -29,6 +30,7 @@ struct UiRig {
         userInterface =
             std::make_unique<UserInterface>(std::make_unique<InterfaceEngine>(), deepWork, tickSoundSettings,
                                             applications, health, *localization);
+        userInterface->setCoach(coach);
         loaded = userInterface->load();
     }
 
@@ -74,6 +76,7 @@ struct UiRig {
     FakeAudioOutput audioOutput{focus.clock};
     TickSoundService tickSounds{audioOutput, focus.preferences};
     TickSoundSettings tickSoundSettings{tickSounds, audioOutput};
+    AICoachService coach{focus.clock, focus.blocker};
     DeepWorkScreen deepWork{focus.timer, focus.usage, focus.motion, focus.context()};
     ApplicationListModel applications{focus.catalog, focus.workspace, focus.blocker};
     TrackingHealthModel health{

@@ -10,6 +10,7 @@ FocusScope {
     id: root
 
     required property DeepWorkScreen screen
+    required property AICoachService coach
     required property TickSoundSettings tickSounds
     /// Whether anybody can see the screen.
     required property bool live
@@ -257,15 +258,6 @@ FocusScope {
                         screen: root.screen
                         session: session
                     }
-
-                    // The coach speaks here.
-                    Item {
-                        objectName: "coachPlace"
-                        Layout.fillWidth: true
-                        Layout.topMargin: -Theme.gap5
-                        implicitHeight: 0
-                        enabled: false
-                    }
                 }
             }
         }
@@ -281,6 +273,24 @@ FocusScope {
                 anchors.fill: parent
                 onLoaded: root.focusStart()
             }
+        }
+    }
+
+    // The coach speaks over the page, which stays as it is. Loaded when there is a first message.
+    Loader {
+        id: coachLoader
+
+        readonly property bool wanted: root.coach !== null && root.coach.isVisible
+
+        objectName: "coachPlace"
+        x: Math.round((page.width - width) / 2)
+        y: Theme.gap4
+        width: Math.min(page.width - 2 * Theme.gap6, 560)
+        onWantedChanged: {
+            if (!coachLoader.item)
+                coachLoader.setSource("../coach/CoachOverlayView.qml", {
+                    coach: root.coach
+                });
         }
     }
 }

@@ -11,6 +11,7 @@ Window {
     required property TickSoundSettings tickSounds
     required property ApplicationListModel applications
     required property TrackingHealthModel health
+    property AICoachService coach: null
     property string storeProblem: ""
     /// What is there: 0 the bare window, 1 what the first picture shows, 2 everything.
     property int stage: 0
@@ -75,6 +76,7 @@ Window {
             tickSounds: root.tickSounds
             applications: root.applications
             health: root.health
+            coach: root.coach
             storeProblem: root.storeProblem
             page: root.page
             live: root.live

@@ -12,6 +12,7 @@ FocusScope {
     required property TickSoundSettings tickSounds
     required property ApplicationListModel applications
     required property TrackingHealthModel health
+    required property AICoachService coach
     /// Empty while the store is well.
     required property string storeProblem
     required property int page
@@ -26,6 +27,11 @@ FocusScope {
         deepWorkView.focusStart();
     }
 
+    Keys.onEscapePressed: event => {
+        event.accepted = root.page === 0 && root.coach !== null && root.coach.isVisible;
+        if (event.accepted)
+            root.coach.dismissMessage();
+    }
     Component.onCompleted: root.focusStart()
 
     RowLayout {
@@ -61,6 +67,7 @@ FocusScope {
 
                     focus: true
                     screen: root.deepWork
+                    coach: root.coach
                     tickSounds: root.tickSounds
                     live: root.live && root.page === 0
                     furnished: root.furnished
