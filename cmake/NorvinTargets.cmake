@@ -9,6 +9,7 @@ set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 
 option(BUILD_TESTING "Build the tests" ON)
 option(NORVIN_BENCH "Build the benchmarks" OFF)
+option(NORVIN_FUZZ "Let the fuzzers be built; needs Clang" OFF)
 set(NORVIN_SANITIZE "" CACHE STRING "Sanitizers to build with, as -fsanitize takes them; empty for none")
 
 find_program(NORVIN_CCACHE ccache)

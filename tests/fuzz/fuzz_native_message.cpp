@@ -1,0 +1,60 @@
+// A stream of messages with whatever may be on it, read as both ends read it.
+
+#include "platform/linux/webextension/BrowserMessage.h"
+#include "platform/linux/webextension/MessageStream.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <array>
+#include <cstdint>
+#include <cstdlib>
+
+using namespace norvin;
+
+namespace {
+
+constexpr quint32 largestMessage = 256;
+// A pipe takes this much without a reader.
+constexpr size_t largestInput = 32 * 1024;
+
+void require(bool condition) {
+    if (!condition)
+        std::abort();
+}
+
+void checkMessage(const QByteArray& text) {
+    require(text.size() <= largestMessage);
+    const auto message = decodeBrowserMessage(text);
+    if (!message)
+        return;
+    if (const auto* page = std::get_if<PageMessage>(&*message))
+        require(!page->domain || isHostName(*page->domain));
+    if (const auto* request = std::get_if<CloseRequest>(&*message))
+        require(isHostName(request->domain) && request->id > 0 && request->until > 0);
+    const QByteArray again = encodeBrowserMessage(*message);
+    require(again.size() < 512 && decodeBrowserMessage(again) == message);
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    if (size > largestInput)
+        return -1;
+    std::array<int, 2> pipe{};
+    require(::pipe2(pipe.data(), O_CLOEXEC | O_NONBLOCK) == 0);
+    // Cut in two, so that messages come in parts.
+    MessageStream stream(largestMessage);
+    const size_t first = size / 2;
+    for (const auto& [part, length] : {std::pair(data, first), std::pair(data + first, size - first)}) {
+        require(::write(pipe[1], part, length) == static_cast<ssize_t>(length));
+        if (stream.state() != MessageStream::State::open)
+            break;
+        require(stream.readFrom(pipe[0]) == MessageStream::State::open);
+        while (const auto message = stream.next())
+            checkMessage(*message);
+    }
+    ::close(pipe[0]);
+    ::close(pipe[1]);
+    return 0;
+}
