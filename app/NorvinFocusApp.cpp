@@ -106,7 +106,8 @@ NorvinFocusApp::NorvinFocusApp(LinuxPlatform& platform, std::unique_ptr<ModelCon
     , m_coachService(platform.clock(), AppBlockerService::shared())
     , m_deepWorkScreen(m_timerService, AppUsageService::shared(), MotionService::shared(),
                        m_sharedModelContainer->mainContext())
-    , m_applications(platform.applications(), platform.workspace(), AppBlockerService::shared())
+    , m_blockLists(platform.applications(), platform.workspace(), AppBlockerService::shared(),
+                   platform.preferences())
     , m_busAvailability(Availability::available())
     , m_storeAvailability(Availability::available())
     , m_health(platformHealthChecks(platform)
@@ -114,7 +115,7 @@ NorvinFocusApp::NorvinFocusApp(LinuxPlatform& platform, std::unique_ptr<ModelCon
                                              [this] { return m_busAvailability; }}
                << TrackingHealthModel::Check{QStringLiteral("health_store"),
                                              [this] { return m_storeAvailability; }})
-    , m_userInterface(std::move(engine), m_deepWorkScreen, m_tickSoundSettings, m_applications, m_health,
+    , m_userInterface(std::move(engine), m_deepWorkScreen, m_tickSoundSettings, m_blockLists, m_health,
                       m_localization)
     , m_busService(sessionBus(), m_deepWorkScreen, AppBlockerService::shared(), m_health) {
     followStore();

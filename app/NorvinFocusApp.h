@@ -3,7 +3,7 @@
 #include "app/AppDelegate.h"
 #include "app/FocusBusService.h"
 #include "distraction/AICoachService.h"
-#include "distraction/ApplicationListModel.h"
+#include "distraction/BlockListsScreen.h"
 #include "distraction/TrackingHealthModel.h"
 #include "focus/DeepWorkScreen.h"
 #include "focus/PomodoroTimerService.h"
@@ -76,7 +76,7 @@ private:
     TimerInterruptions m_interruptions;
     AICoachService m_coachService;
     DeepWorkScreen m_deepWorkScreen;
-    ApplicationListModel m_applications;
+    BlockListsScreen m_blockLists;
     Availability m_busAvailability;
     Availability m_storeAvailability;
     TrackingHealthModel m_health;

@@ -6,12 +6,15 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QStandardPaths>
 
 #include <algorithm>
 
 namespace norvin {
 
 namespace {
+
+using Subject = BlockListNotice::Subject;
 
 constexpr auto whitelistedList = QLatin1String("whitelisted");
 constexpr auto blockedList = QLatin1String("blocked");
@@ -110,7 +113,7 @@ QString BlockListsScreen::addSites(const QString& list, const QString& text) {
         }
     }
     if (!added.isEmpty()) {
-        change(lists, {.subject = Notice::Subject::sitesAdded,
+        change(lists, {.subject = Subject::sitesAdded,
                        .count = static_cast<int>(added.size()),
                        .detail = added.size() == 1 ? displayedSite(added.first()) : QString()});
     }
@@ -125,7 +128,7 @@ void BlockListsScreen::removeSite(const QString& list, const QString& pattern) {
     BlockLists removed;
     (removed.*sites)[m_browser].insert(pattern);
     change(listsWithout(m_blocker.lists(), removed),
-           {.subject = Notice::Subject::siteRemoved, .count = 1, .detail = displayedSite(pattern)});
+           {.subject = Subject::siteRemoved, .count = 1, .detail = displayedSite(pattern)});
 }
 
 void BlockListsScreen::moveSite(const QString& list, const QString& pattern) {
@@ -138,7 +141,7 @@ void BlockListsScreen::moveSite(const QString& list, const QString& pattern) {
     BlockLists added;
     (added.*to)[m_browser].insert(pattern);
     change(unitedLists(listsWithout(m_blocker.lists(), removed), added),
-           {.subject = Notice::Subject::siteMoved, .count = 1, .detail = displayedSite(pattern)});
+           {.subject = Subject::siteMoved, .count = 1, .detail = displayedSite(pattern)});
 }
 
 void BlockListsScreen::copySites() {
@@ -150,14 +153,14 @@ void BlockListsScreen::copySites() {
     }
     const BlockLists missing = listsWithout(added, m_blocker.lists());
     change(unitedLists(m_blocker.lists(), missing),
-           {.subject = Notice::Subject::sitesCopied, .count = missing.siteCount(), .detail = browserName()});
+           {.subject = Subject::sitesCopied, .count = missing.siteCount(), .detail = browserName()});
 }
 
 void BlockListsScreen::whitelistBrowser() {
     BlockLists lists = m_blocker.lists();
     lists.blockedAppBundleIDs.remove(m_browser);
     lists.whitelistedAppBundleIDs.insert(m_browser);
-    change(lists, {.subject = Notice::Subject::browserWhitelisted, .count = 1, .detail = browserName()});
+    change(lists, {.subject = Subject::browserWhitelisted, .count = 1, .detail = browserName()});
 }
 
 void BlockListsScreen::clearReport(const QString& list) {
@@ -166,9 +169,8 @@ void BlockListsScreen::clearReport(const QString& list) {
 
 void BlockListsScreen::addChosenSuggestions() {
     const BlockLists chosen = m_suggestions.chosenLists();
-    change(
-        unitedLists(m_blocker.lists(), chosen),
-        {.subject = Notice::Subject::suggestionsAdded, .count = m_suggestions.chosenCount(), .detail = {}});
+    change(unitedLists(m_blocker.lists(), chosen),
+           {.subject = Subject::suggestionsAdded, .count = m_suggestions.chosenCount(), .detail = {}});
 }
 
 void BlockListsScreen::dismissSuggestions() {
@@ -181,24 +183,37 @@ void BlockListsScreen::undo() {
         return;
     const BlockListChange last = m_changes.takeLast();
     m_blocker.replaceLists(last.takenBackFrom(m_blocker.lists()));
-    say({.subject = Notice::Subject::takenBack, .count = 0, .detail = {}});
+    say({.subject = Subject::takenBack, .count = 0, .detail = {}});
 }
 
 void BlockListsScreen::clearNotice() {
     say({});
 }
 
+QUrl BlockListsScreen::fileFolder() const {
+    const QString usual = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const QString folder = m_fileFolder.isEmpty() ? usual : m_fileFolder;
+    return QUrl::fromLocalFile(QFileInfo(folder).isDir() ? folder : QDir::homePath());
+}
+
+void BlockListsScreen::rememberFolder(const QString& path) {
+    m_fileFolder = QFileInfo(path).absolutePath();
+    Q_EMIT fileFolderChanged();
+}
+
 void BlockListsScreen::exportLists(const QUrl& file) {
     const QString path = file.toLocalFile();
+    rememberFolder(path);
     const QString problem = writeBlockListFile(path, m_blocker.lists());
     if (problem.isEmpty())
-        say({.subject = Notice::Subject::exported, .count = 0, .detail = QDir::toNativeSeparators(path)});
+        say({.subject = Subject::exported, .count = 0, .detail = QDir::toNativeSeparators(path)});
     else
-        say({.subject = Notice::Subject::exportFailed, .count = 0, .detail = problem});
+        say({.subject = Subject::exportFailed, .count = 0, .detail = problem});
 }
 
 void BlockListsScreen::examineImport(const QUrl& file) {
     dropImport();
+    rememberFolder(file.toLocalFile());
     m_importFileName = QFileInfo(file.toLocalFile()).fileName();
     auto read = readBlockListFile(file.toLocalFile());
     if (auto* error = std::get_if<BlockListFileError>(&read))
@@ -212,8 +227,8 @@ void BlockListsScreen::applyImport(bool replacing) {
     if (!m_import)
         return;
     const BlockLists lists = replacing ? *m_import : unitedLists(m_blocker.lists(), *m_import);
-    if (!change(lists, {.subject = Notice::Subject::imported, .count = 0, .detail = m_importFileName}))
-        say({.subject = Notice::Subject::importedNothing, .count = 0, .detail = m_importFileName});
+    if (!change(lists, {.subject = Subject::imported, .count = 0, .detail = m_importFileName}))
+        say({.subject = Subject::importedNothing, .count = 0, .detail = m_importFileName});
     dropImport();
 }
 
@@ -311,37 +326,6 @@ QString BlockListsScreen::testReason() const {
     return qtTrId("verdict_not_blocked");
 }
 
-QString BlockListsScreen::notice() const {
-    switch (m_notice.subject) {
-    case Notice::Subject::none:
-        return {};
-    case Notice::Subject::sitesAdded:
-        return m_notice.count == 1 ? qtTrId("notice_site_added").arg(m_notice.detail)
-                                   : qtTrId("notice_sites_added", m_notice.count);
-    case Notice::Subject::siteRemoved:
-        return qtTrId("notice_site_removed").arg(m_notice.detail);
-    case Notice::Subject::siteMoved:
-        return qtTrId("notice_site_moved").arg(m_notice.detail);
-    case Notice::Subject::sitesCopied:
-        return qtTrId("notice_sites_copied", m_notice.count).arg(m_notice.detail);
-    case Notice::Subject::browserWhitelisted:
-        return qtTrId("notice_browser_whitelisted").arg(m_notice.detail);
-    case Notice::Subject::suggestionsAdded:
-        return qtTrId("notice_suggestions_added", m_notice.count);
-    case Notice::Subject::imported:
-        return qtTrId("notice_imported").arg(m_notice.detail);
-    case Notice::Subject::importedNothing:
-        return qtTrId("notice_imported_nothing").arg(m_notice.detail);
-    case Notice::Subject::takenBack:
-        return qtTrId("notice_taken_back");
-    case Notice::Subject::exported:
-        return qtTrId("notice_exported").arg(m_notice.detail);
-    case Notice::Subject::exportFailed:
-        return qtTrId("notice_export_failed").arg(m_notice.detail);
-    }
-    return {};
-}
-
 QString BlockListsScreen::EntryReport::text() const {
     QStringList sentences;
     if (!refused.isEmpty())
@@ -369,20 +353,20 @@ BlockListsScreen::EntryReport& BlockListsScreen::reportOf(const QString& list) {
     return list == whitelistedList ? m_whitelistEntry : m_blockedEntry;
 }
 
-bool BlockListsScreen::change(const BlockLists& lists, const Notice& notice) {
+bool BlockListsScreen::change(const BlockLists& lists, const BlockListNotice& notice) {
     const BlockLists before = m_blocker.lists();
     if (!m_blocker.replaceLists(lists))
         return false;
     m_changes.append(BlockListChange::between(before, lists));
     if (m_changes.size() > mostChanges)
         m_changes.removeFirst();
-    Notice undoable = notice;
+    BlockListNotice undoable = notice;
     undoable.isUndoable = true;
     say(undoable);
     return true;
 }
 
-void BlockListsScreen::say(const Notice& notice) {
+void BlockListsScreen::say(const BlockListNotice& notice) {
     m_notice = notice;
     Q_EMIT noticeChanged();
 }

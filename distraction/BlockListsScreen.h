@@ -2,6 +2,7 @@
 
 #include "distraction/ApplicationListModel.h"
 #include "distraction/BlockListFile.h"
+#include "distraction/BlockListNotice.h"
 #include "distraction/BlockListSuggestions.h"
 #include "distraction/BlockLists.h"
 #include "distraction/BrowserListModel.h"
@@ -62,6 +63,8 @@ class BlockListsScreen final : public QObject {
     /// Whether undo() takes back what the notice is about.
     Q_PROPERTY(bool isNoticeUndoable READ isNoticeUndoable NOTIFY noticeChanged)
 
+    /// Folder to offer first when a file is asked for: that of the last one, or the user's documents.
+    Q_PROPERTY(QUrl fileFolder READ fileFolder NOTIFY fileFolderChanged)
     /// "none", "ready" (waits for applyImport()) or "refused".
     Q_PROPERTY(QString importState READ importState NOTIFY importChanged)
     Q_PROPERTY(QString importFileName READ importFileName NOTIFY importChanged)
@@ -102,10 +105,11 @@ public:
     [[nodiscard]] QString testOutcome() const;
     [[nodiscard]] QString testReason() const;
 
-    [[nodiscard]] QString notice() const;
-    [[nodiscard]] bool isNoticeProblem() const { return m_notice.subject == Notice::Subject::exportFailed; }
+    [[nodiscard]] QString notice() const { return m_notice.text(); }
+    [[nodiscard]] bool isNoticeProblem() const { return m_notice.isProblem(); }
     [[nodiscard]] bool isNoticeUndoable() const { return m_notice.isUndoable; }
 
+    [[nodiscard]] QUrl fileFolder() const;
     [[nodiscard]] QString importState() const;
     [[nodiscard]] const QString& importFileName() const { return m_importFileName; }
     [[nodiscard]] QString importProblem() const;
@@ -155,31 +159,10 @@ Q_SIGNALS:
     void testTextChanged();
     void testChanged();
     void noticeChanged();
+    void fileFolderChanged();
     void importChanged();
 
 private:
-    /// What was said to the user about the last thing done.
-    struct Notice {
-        enum class Subject {
-            none,
-            sitesAdded,
-            siteRemoved,
-            siteMoved,
-            sitesCopied,
-            browserWhitelisted,
-            suggestionsAdded,
-            imported,
-            importedNothing,
-            takenBack,
-            exported,
-            exportFailed,
-        };
-
-        Subject subject = Subject::none;
-        int count = 0;
-        QString detail;
-        bool isUndoable = false;
-    };
     /// What of a text was not put on a list.
     struct EntryReport {
         QStringList refused;
@@ -190,9 +173,10 @@ private:
 
     [[nodiscard]] static SiteLists BlockLists::*siteListsOf(const QString& list);
     [[nodiscard]] EntryReport& reportOf(const QString& list);
-    bool change(const BlockLists& lists, const Notice& notice);
-    void say(const Notice& notice);
+    bool change(const BlockLists& lists, const BlockListNotice& notice);
+    void say(const BlockListNotice& notice);
     void setReport(const QString& list, const EntryReport& report);
+    void rememberFolder(const QString& path);
     void handleListsChanged();
     void updateOffer();
 
@@ -208,8 +192,9 @@ private:
     EntryReport m_whitelistEntry;
     EntryReport m_blockedEntry;
     QString m_testText;
-    Notice m_notice;
+    BlockListNotice m_notice;
     QList<BlockListChange> m_changes; // the last one is the one to take back first
+    QString m_fileFolder;
     QString m_importFileName;
     std::optional<BlockLists> m_import;
     std::optional<BlockListFileError> m_importError;

@@ -71,6 +71,13 @@
         <source></source>
         <translation>Search by name or identifier</translation>
     </message>
+    <message id="applications_count" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n application</numerusform>
+            <numerusform>%n applications</numerusform>
+        </translation>
+    </message>
     <message id="applications_empty_subtitle">
         <source></source>
         <translation>No installed application was found.</translation>
@@ -82,6 +89,10 @@
     <message id="applications_no_match_subtitle">
         <source></source>
         <translation>Nothing matches this search. Escape clears it.</translation>
+    </message>
+    <message id="applications_tab">
+        <source></source>
+        <translation>Applications</translation>
     </message>
     <message id="balance_label">
         <source></source>
@@ -109,6 +120,33 @@
     <message id="break_subtitle">
         <source></source>
         <translation>Nothing is measured or blocked during a break. Look up, move, drink something.</translation>
+    </message>
+    <message id="browser_blocked_note">
+        <source></source>
+        <translation>%1 is a blocked application: it is hidden, so its pages never count.</translation>
+    </message>
+    <message id="browser_not_whitelisted_note">
+        <source></source>
+        <translation>%1 is not on the whitelist of applications, so it is never looked into: all its time counts as distracted, whatever the page.</translation>
+    </message>
+    <message id="browser_sites_name" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%1, %n site</numerusform>
+            <numerusform>%1, %n sites</numerusform>
+        </translation>
+    </message>
+    <message id="browser_whitelist_button">
+        <source></source>
+        <translation>Whitelist it</translation>
+    </message>
+    <message id="browsers_all_button">
+        <source></source>
+        <translation>Show all</translation>
+    </message>
+    <message id="browsers_fewer_button">
+        <source></source>
+        <translation>Show fewer</translation>
     </message>
     <message id="category_communication">
         <source></source>
@@ -460,6 +498,56 @@
         <source></source>
         <translation>Works</translation>
     </message>
+    <message id="import_add_button">
+        <source></source>
+        <translation>Add to the lists</translation>
+    </message>
+    <message id="import_added" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n entry is new and would be added.</numerusform>
+            <numerusform>%n entries are new and would be added.</numerusform>
+        </translation>
+    </message>
+    <message id="import_cancel_button">
+        <source></source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="import_close_button">
+        <source></source>
+        <translation>Close</translation>
+    </message>
+    <message id="import_contents">
+        <source></source>
+        <translation>The file holds %1 and %2.</translation>
+    </message>
+    <message id="import_nothing_new">
+        <source></source>
+        <translation>The lists hold exactly the same already.</translation>
+    </message>
+    <message id="import_refused_message">
+        <source></source>
+        <translation>Nothing was changed.</translation>
+    </message>
+    <message id="import_refused_title">
+        <source></source>
+        <translation>%1 was refused</translation>
+    </message>
+    <message id="import_removed" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Replacing would also take away %n entry that the file does not have.</numerusform>
+            <numerusform>Replacing would also take away %n entries that the file does not have.</numerusform>
+        </translation>
+    </message>
+    <message id="import_replace_button">
+        <source></source>
+        <translation>Replace the lists</translation>
+    </message>
+    <message id="import_title">
+        <source></source>
+        <translation>Import %1?</translation>
+    </message>
     <message id="inactivity_notice">
         <source></source>
         <translation>Keyboard and pointer have been still for a while. Inactive in this session: %1.</translation>
@@ -536,6 +624,34 @@
         <source></source>
         <translation>Whitelisted</translation>
     </message>
+    <message id="lists_export_button">
+        <source></source>
+        <translation>Export…</translation>
+    </message>
+    <message id="lists_export_title">
+        <source></source>
+        <translation>Export the block lists</translation>
+    </message>
+    <message id="lists_file_filter">
+        <source></source>
+        <translation>Block lists</translation>
+    </message>
+    <message id="lists_import_button">
+        <source></source>
+        <translation>Import…</translation>
+    </message>
+    <message id="lists_import_title">
+        <source></source>
+        <translation>Import block lists</translation>
+    </message>
+    <message id="lists_export_accept_button">
+        <source></source>
+        <translation>Save</translation>
+    </message>
+    <message id="lists_import_accept_button">
+        <source></source>
+        <translation>Open</translation>
+    </message>
     <message id="next_step_label">
         <source></source>
         <translation>What comes next?</translation>
@@ -543,6 +659,10 @@
     <message id="notice_browser_whitelisted">
         <source></source>
         <translation>%1 is on the whitelist of applications now.</translation>
+    </message>
+    <message id="notice_close_button">
+        <source></source>
+        <translation>Close</translation>
     </message>
     <message id="notice_export_failed">
         <source></source>
@@ -800,17 +920,100 @@
         <source></source>
         <translation>Pages</translation>
     </message>
+    <message id="site_add_button">
+        <source></source>
+        <translation>Add</translation>
+    </message>
+    <message id="site_covered">
+        <source></source>
+        <translation>Covered by %1</translation>
+    </message>
+    <message id="site_entry_hint">
+        <source></source>
+        <translation>Not listed here yet. Enter adds it.</translation>
+    </message>
     <message id="site_entry_listed_already">
         <source></source>
         <translation>Listed already: %1</translation>
+    </message>
+    <message id="site_entry_name">
+        <source></source>
+        <translation>%1: add sites, or search</translation>
+    </message>
+    <message id="site_entry_placeholder">
+        <source></source>
+        <translation>Add sites, or search</translation>
     </message>
     <message id="site_entry_refused">
         <source></source>
         <translation>Not a site: %1</translation>
     </message>
-    <message id="sites_command_line_note">
+    <message id="site_move">
         <source></source>
-        <translation>Sites are blocked from the command line for now: norvin-focus block --site</translation>
+        <translation>Move %1 to the other list</translation>
+    </message>
+    <message id="site_on_both_lists">
+        <source></source>
+        <translation>On both lists: its time is legitimate, its tab is closed</translation>
+    </message>
+    <message id="site_remove">
+        <source></source>
+        <translation>Remove %1</translation>
+    </message>
+    <message id="site_test_hint">
+        <source></source>
+        <translation>The answer names the rule that decides.</translation>
+    </message>
+    <message id="site_test_placeholder">
+        <source></source>
+        <translation>Would this site count in %1? Type or paste an address</translation>
+    </message>
+    <message id="sites_blocked_note">
+        <source></source>
+        <translation>Their tab is closed, even when they are whitelisted too.</translation>
+    </message>
+    <message id="sites_blocked_title">
+        <source></source>
+        <translation>Blocked sites</translation>
+    </message>
+    <message id="sites_copy_button">
+        <source></source>
+        <translation>Copy to others</translation>
+    </message>
+    <message id="sites_copy_name">
+        <source></source>
+        <translation>Copy the sites of %1 to the other browsers</translation>
+    </message>
+    <message id="sites_count" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n site</numerusform>
+            <numerusform>%n sites</numerusform>
+        </translation>
+    </message>
+    <message id="sites_empty">
+        <source></source>
+        <translation>No sites yet</translation>
+    </message>
+    <message id="sites_no_whitelist_note">
+        <source></source>
+        <translation>While this list is empty, every site counts as legitimate unless it is blocked.</translation>
+    </message>
+    <message id="sites_subtitle">
+        <source></source>
+        <translation>Sites count per browser. During a work phase the tab of a blocked site is closed, sub-domains included.</translation>
+    </message>
+    <message id="sites_tab">
+        <source></source>
+        <translation>Sites</translation>
+    </message>
+    <message id="sites_whitelist_mode_note">
+        <source></source>
+        <translation>Everything else counts as distracted in this browser.</translation>
+    </message>
+    <message id="sites_whitelisted_title">
+        <source></source>
+        <translation>Whitelisted sites</translation>
     </message>
     <message id="space_hint">
         <source></source>
@@ -840,13 +1043,40 @@
         <source></source>
         <translation>%1/%2 subtasks</translation>
     </message>
+    <message id="suggestions_add_button" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Add %n entry</numerusform>
+            <numerusform>Add %n entries</numerusform>
+        </translation>
+    </message>
+    <message id="suggestions_add_none_button">
+        <source></source>
+        <translation>Add what is chosen</translation>
+    </message>
     <message id="suggestions_browsers">
         <source></source>
         <translation>Browsers</translation>
     </message>
+    <message id="suggestions_dismiss_button">
+        <source></source>
+        <translation>Do not suggest again</translation>
+    </message>
+    <message id="suggestions_group_name">
+        <source></source>
+        <translation>%1: all for the list “%2”</translation>
+    </message>
     <message id="suggestions_sites">
         <source></source>
         <translation>Sites: %1</translation>
+    </message>
+    <message id="suggestions_subtitle">
+        <source></source>
+        <translation>Nothing is on a list yet. Choose what fits your work: nothing is listed before you add it, and all of it can be changed later.</translation>
+    </message>
+    <message id="suggestions_tab">
+        <source></source>
+        <translation>Suggestions</translation>
     </message>
     <message id="summary_attempts">
         <source></source>
@@ -995,6 +1225,10 @@
         <source></source>
         <translation>Tomorrow</translation>
     </message>
+    <message id="undo_button">
+        <source></source>
+        <translation>Undo</translation>
+    </message>
     <message id="verdict_blocked">
         <source></source>
         <translation>Matches “%1” on the blocked list. The tab is closed.</translation>
@@ -1003,6 +1237,10 @@
         <source></source>
         <translation>Matches “%1” on the blocked list: the tab is closed. Until then its time is legitimate, since “%2” is on the whitelist.</translation>
     </message>
+    <message id="verdict_blocked_word">
+        <source></source>
+        <translation>Blocked</translation>
+    </message>
     <message id="verdict_browser_blocked">
         <source></source>
         <translation>%1 itself is blocked: it is hidden before any page counts.</translation>
@@ -1010,6 +1248,14 @@
     <message id="verdict_browser_not_whitelisted">
         <source></source>
         <translation>%1 is not on the whitelist of applications: all its time is distracted, whatever the page.</translation>
+    </message>
+    <message id="verdict_distracted_word">
+        <source></source>
+        <translation>Distracted</translation>
+    </message>
+    <message id="verdict_legitimate_word">
+        <source></source>
+        <translation>Legitimate</translation>
     </message>
     <message id="verdict_no_lists">
         <source></source>

@@ -71,6 +71,13 @@
         <source></source>
         <translation>Chercher par nom ou identifiant</translation>
     </message>
+    <message id="applications_count" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n application</numerusform>
+            <numerusform>%n applications</numerusform>
+        </translation>
+    </message>
     <message id="applications_empty_subtitle">
         <source></source>
         <translation>Aucune application installée n’a été trouvée.</translation>
@@ -82,6 +89,10 @@
     <message id="applications_no_match_subtitle">
         <source></source>
         <translation>Rien ne correspond à cette recherche. Échap l’efface.</translation>
+    </message>
+    <message id="applications_tab">
+        <source></source>
+        <translation>Applications</translation>
     </message>
     <message id="balance_label">
         <source></source>
@@ -109,6 +120,33 @@
     <message id="break_subtitle">
         <source></source>
         <translation>Rien n’est mesuré ni bloqué pendant une pause. Levez les yeux, bougez, buvez un verre d’eau.</translation>
+    </message>
+    <message id="browser_blocked_note">
+        <source></source>
+        <translation>%1 est une application bloquée : il est masqué, donc ses pages ne comptent jamais.</translation>
+    </message>
+    <message id="browser_not_whitelisted_note">
+        <source></source>
+        <translation>%1 n’est pas sur la liste blanche des applications, donc ses pages ne sont jamais regardées : tout son temps compte comme distrait.</translation>
+    </message>
+    <message id="browser_sites_name" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%1, %n site</numerusform>
+            <numerusform>%1, %n sites</numerusform>
+        </translation>
+    </message>
+    <message id="browser_whitelist_button">
+        <source></source>
+        <translation>L’y mettre</translation>
+    </message>
+    <message id="browsers_all_button">
+        <source></source>
+        <translation>Tout afficher</translation>
+    </message>
+    <message id="browsers_fewer_button">
+        <source></source>
+        <translation>Afficher moins</translation>
     </message>
     <message id="category_communication">
         <source></source>
@@ -460,6 +498,56 @@
         <source></source>
         <translation>Fonctionne</translation>
     </message>
+    <message id="import_add_button">
+        <source></source>
+        <translation>Ajouter aux listes</translation>
+    </message>
+    <message id="import_added" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n élément est nouveau et serait ajouté.</numerusform>
+            <numerusform>%n éléments sont nouveaux et seraient ajoutés.</numerusform>
+        </translation>
+    </message>
+    <message id="import_cancel_button">
+        <source></source>
+        <translation>Annuler</translation>
+    </message>
+    <message id="import_close_button">
+        <source></source>
+        <translation>Fermer</translation>
+    </message>
+    <message id="import_contents">
+        <source></source>
+        <translation>Le fichier contient %1 et %2.</translation>
+    </message>
+    <message id="import_nothing_new">
+        <source></source>
+        <translation>Les listes contiennent déjà exactement la même chose.</translation>
+    </message>
+    <message id="import_refused_message">
+        <source></source>
+        <translation>Rien n’a été modifié.</translation>
+    </message>
+    <message id="import_refused_title">
+        <source></source>
+        <translation>%1 a été refusé</translation>
+    </message>
+    <message id="import_removed" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Remplacer retirerait aussi %n élément absent du fichier.</numerusform>
+            <numerusform>Remplacer retirerait aussi %n éléments absents du fichier.</numerusform>
+        </translation>
+    </message>
+    <message id="import_replace_button">
+        <source></source>
+        <translation>Remplacer les listes</translation>
+    </message>
+    <message id="import_title">
+        <source></source>
+        <translation>Importer %1 ?</translation>
+    </message>
     <message id="inactivity_notice">
         <source></source>
         <translation>Clavier et pointeur sont immobiles depuis un moment. Inactivité dans cette session : %1.</translation>
@@ -536,6 +624,34 @@
         <source></source>
         <translation>Liste blanche</translation>
     </message>
+    <message id="lists_export_button">
+        <source></source>
+        <translation>Exporter…</translation>
+    </message>
+    <message id="lists_export_title">
+        <source></source>
+        <translation>Exporter les listes de blocage</translation>
+    </message>
+    <message id="lists_file_filter">
+        <source></source>
+        <translation>Listes de blocage</translation>
+    </message>
+    <message id="lists_import_button">
+        <source></source>
+        <translation>Importer…</translation>
+    </message>
+    <message id="lists_import_title">
+        <source></source>
+        <translation>Importer des listes de blocage</translation>
+    </message>
+    <message id="lists_export_accept_button">
+        <source></source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message id="lists_import_accept_button">
+        <source></source>
+        <translation>Ouvrir</translation>
+    </message>
     <message id="next_step_label">
         <source></source>
         <translation>Et maintenant ?</translation>
@@ -543,6 +659,10 @@
     <message id="notice_browser_whitelisted">
         <source></source>
         <translation>%1 est maintenant sur la liste blanche des applications.</translation>
+    </message>
+    <message id="notice_close_button">
+        <source></source>
+        <translation>Fermer</translation>
     </message>
     <message id="notice_export_failed">
         <source></source>
@@ -800,17 +920,100 @@
         <source></source>
         <translation>Pages</translation>
     </message>
+    <message id="site_add_button">
+        <source></source>
+        <translation>Ajouter</translation>
+    </message>
+    <message id="site_covered">
+        <source></source>
+        <translation>Déjà compris dans %1</translation>
+    </message>
+    <message id="site_entry_hint">
+        <source></source>
+        <translation>Pas encore sur cette liste. Entrée l’ajoute.</translation>
+    </message>
     <message id="site_entry_listed_already">
         <source></source>
         <translation>Déjà sur la liste : %1</translation>
+    </message>
+    <message id="site_entry_name">
+        <source></source>
+        <translation>%1 : ajouter des sites ou chercher</translation>
+    </message>
+    <message id="site_entry_placeholder">
+        <source></source>
+        <translation>Ajouter des sites ou chercher</translation>
     </message>
     <message id="site_entry_refused">
         <source></source>
         <translation>Ce n’est pas un site : %1</translation>
     </message>
-    <message id="sites_command_line_note">
+    <message id="site_move">
         <source></source>
-        <translation>Pour l’instant, les sites se bloquent en ligne de commande : norvin-focus block --site</translation>
+        <translation>Déplacer %1 sur l’autre liste</translation>
+    </message>
+    <message id="site_on_both_lists">
+        <source></source>
+        <translation>Sur les deux listes : son temps est légitime, son onglet est fermé</translation>
+    </message>
+    <message id="site_remove">
+        <source></source>
+        <translation>Retirer %1</translation>
+    </message>
+    <message id="site_test_hint">
+        <source></source>
+        <translation>La réponse nomme la règle qui décide.</translation>
+    </message>
+    <message id="site_test_placeholder">
+        <source></source>
+        <translation>Ce site compterait-il dans %1 ? Tapez ou collez une adresse</translation>
+    </message>
+    <message id="sites_blocked_note">
+        <source></source>
+        <translation>Leur onglet est fermé, même s’ils sont aussi en liste blanche.</translation>
+    </message>
+    <message id="sites_blocked_title">
+        <source></source>
+        <translation>Sites bloqués</translation>
+    </message>
+    <message id="sites_copy_button">
+        <source></source>
+        <translation>Copier aux autres</translation>
+    </message>
+    <message id="sites_copy_name">
+        <source></source>
+        <translation>Copier les sites de %1 aux autres navigateurs</translation>
+    </message>
+    <message id="sites_count" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n site</numerusform>
+            <numerusform>%n sites</numerusform>
+        </translation>
+    </message>
+    <message id="sites_empty">
+        <source></source>
+        <translation>Aucun site pour l’instant</translation>
+    </message>
+    <message id="sites_no_whitelist_note">
+        <source></source>
+        <translation>Tant que cette liste est vide, tout site compte comme légitime, sauf s’il est bloqué.</translation>
+    </message>
+    <message id="sites_subtitle">
+        <source></source>
+        <translation>Les sites comptent par navigateur. Pendant une phase de travail, l’onglet d’un site bloqué est fermé, sous-domaines compris.</translation>
+    </message>
+    <message id="sites_tab">
+        <source></source>
+        <translation>Sites</translation>
+    </message>
+    <message id="sites_whitelist_mode_note">
+        <source></source>
+        <translation>Tout le reste compte comme distrait dans ce navigateur.</translation>
+    </message>
+    <message id="sites_whitelisted_title">
+        <source></source>
+        <translation>Sites en liste blanche</translation>
     </message>
     <message id="space_hint">
         <source></source>
@@ -840,13 +1043,40 @@
         <source></source>
         <translation>%1/%2 sous-tâches</translation>
     </message>
+    <message id="suggestions_add_button" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Ajouter %n élément</numerusform>
+            <numerusform>Ajouter %n éléments</numerusform>
+        </translation>
+    </message>
+    <message id="suggestions_add_none_button">
+        <source></source>
+        <translation>Ajouter ce qui est choisi</translation>
+    </message>
     <message id="suggestions_browsers">
         <source></source>
         <translation>Navigateurs</translation>
     </message>
+    <message id="suggestions_dismiss_button">
+        <source></source>
+        <translation>Ne plus rien suggérer</translation>
+    </message>
+    <message id="suggestions_group_name">
+        <source></source>
+        <translation>%1 : tout pour la liste « %2 »</translation>
+    </message>
     <message id="suggestions_sites">
         <source></source>
         <translation>Sites : %1</translation>
+    </message>
+    <message id="suggestions_subtitle">
+        <source></source>
+        <translation>Rien n’est encore sur une liste. Choisissez ce qui convient à votre travail : rien n’est ajouté sans votre accord, et tout peut être changé plus tard.</translation>
+    </message>
+    <message id="suggestions_tab">
+        <source></source>
+        <translation>Suggestions</translation>
     </message>
     <message id="summary_attempts">
         <source></source>
@@ -995,6 +1225,10 @@
         <source></source>
         <translation>Demain</translation>
     </message>
+    <message id="undo_button">
+        <source></source>
+        <translation>Annuler</translation>
+    </message>
     <message id="verdict_blocked">
         <source></source>
         <translation>Correspond à « %1 » sur la liste des sites bloqués. L’onglet est fermé.</translation>
@@ -1003,6 +1237,10 @@
         <source></source>
         <translation>Correspond à « %1 » sur la liste des sites bloqués : l’onglet est fermé. D’ici là, son temps est légitime, car « %2 » est sur la liste blanche.</translation>
     </message>
+    <message id="verdict_blocked_word">
+        <source></source>
+        <translation>Bloqué</translation>
+    </message>
     <message id="verdict_browser_blocked">
         <source></source>
         <translation>%1 est lui-même bloqué : il est masqué avant qu’une page ne compte.</translation>
@@ -1010,6 +1248,14 @@
     <message id="verdict_browser_not_whitelisted">
         <source></source>
         <translation>%1 n’est pas sur la liste blanche des applications : tout son temps est distrait, quelle que soit la page.</translation>
+    </message>
+    <message id="verdict_distracted_word">
+        <source></source>
+        <translation>Distrait</translation>
+    </message>
+    <message id="verdict_legitimate_word">
+        <source></source>
+        <translation>Légitime</translation>
     </message>
     <message id="verdict_no_lists">
         <source></source>

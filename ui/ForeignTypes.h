@@ -2,7 +2,11 @@
 
 #include "distraction/AICoachService.h"
 #include "distraction/ApplicationListModel.h"
+#include "distraction/BlockListSuggestions.h"
+#include "distraction/BlockListsScreen.h"
 #include "distraction/BrowserAlertModel.h"
+#include "distraction/BrowserListModel.h"
+#include "distraction/SiteListModel.h"
 #include "distraction/TrackingHealthModel.h"
 #include "focus/DeepWorkScreen.h"
 #include "focus/TaskPickerModel.h"
@@ -42,11 +46,39 @@ struct TaskPickerModelType {
     QML_UNCREATABLE("Belongs to the Deep Work screen")
 };
 
+struct BlockListsScreenType {
+    Q_GADGET
+    QML_FOREIGN(norvin::BlockListsScreen)
+    QML_NAMED_ELEMENT(BlockListsScreen)
+    QML_UNCREATABLE("Handed to the window")
+};
+
 struct ApplicationListModelType {
     Q_GADGET
     QML_FOREIGN(norvin::ApplicationListModel)
     QML_NAMED_ELEMENT(ApplicationListModel)
-    QML_UNCREATABLE("Handed to the window")
+    QML_UNCREATABLE("Belongs to the block-list screen")
+};
+
+struct BrowserListModelType {
+    Q_GADGET
+    QML_FOREIGN(norvin::BrowserListModel)
+    QML_NAMED_ELEMENT(BrowserListModel)
+    QML_UNCREATABLE("Belongs to the block-list screen")
+};
+
+struct SiteListModelType {
+    Q_GADGET
+    QML_FOREIGN(norvin::SiteListModel)
+    QML_NAMED_ELEMENT(SiteListModel)
+    QML_UNCREATABLE("Belongs to the block-list screen")
+};
+
+struct BlockListSuggestionsType {
+    Q_GADGET
+    QML_FOREIGN(norvin::BlockListSuggestions)
+    QML_NAMED_ELEMENT(BlockListSuggestions)
+    QML_UNCREATABLE("Belongs to the block-list screen")
 };
 
 struct TickSoundSettingsType {

@@ -1,7 +1,7 @@
 #include "ui/UserInterface.h"
 
 #include "distraction/AICoachService.h"
-#include "distraction/ApplicationListModel.h"
+#include "distraction/BlockListsScreen.h"
 #include "distraction/TrackingHealthModel.h"
 #include "focus/DeepWorkScreen.h"
 #include "sound/TickSoundSettings.h"
@@ -30,12 +30,12 @@ constexpr int bodyPixelSize = 14;
 } // namespace
 
 UserInterface::UserInterface(std::unique_ptr<InterfaceEngine> engine, DeepWorkScreen& deepWork,
-                             TickSoundSettings& tickSounds, ApplicationListModel& applications,
+                             TickSoundSettings& tickSounds, BlockListsScreen& blockLists,
                              TrackingHealthModel& health, Localization& localization, QObject* parent)
     : QObject(parent)
     , m_deepWork(deepWork)
     , m_tickSounds(tickSounds)
-    , m_applications(applications)
+    , m_blockLists(blockLists)
     , m_health(health)
     , m_localization(localization)
     , m_motion(std::make_unique<MotionPreference>())
@@ -43,6 +43,7 @@ UserInterface::UserInterface(std::unique_ptr<InterfaceEngine> engine, DeepWorkSc
     m_engine->setSingletons(localization, *m_motion);
     connect(&localization, &Localization::languageChanged, this, [this] {
         m_health.retranslate();
+        m_blockLists.retranslate();
         m_engine->retranslate();
     });
 }
@@ -59,7 +60,7 @@ bool UserInterface::load() {
     std::unique_ptr<QObject> root = m_engine->createWindow({
         {QStringLiteral("deepWork"), QVariant::fromValue(&m_deepWork)},
         {QStringLiteral("tickSounds"), QVariant::fromValue(&m_tickSounds)},
-        {QStringLiteral("applications"), QVariant::fromValue(&m_applications)},
+        {QStringLiteral("blockLists"), QVariant::fromValue(&m_blockLists)},
         {QStringLiteral("health"), QVariant::fromValue(&m_health)},
         {QStringLiteral("coach"), QVariant::fromValue(m_coach)},
         {QStringLiteral("storeProblem"), m_storeProblem},

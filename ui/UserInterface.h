@@ -10,7 +10,7 @@ class QQuickWindow;
 namespace norvin {
 
 class AICoachService;
-class ApplicationListModel;
+class BlockListsScreen;
 class DeepWorkScreen;
 class InterfaceEngine;
 class Localization;
@@ -30,8 +30,8 @@ class UserInterface final : public QObject {
 public:
     /// Everything given by reference must outlive this.
     UserInterface(std::unique_ptr<InterfaceEngine> engine, DeepWorkScreen& deepWork,
-                  TickSoundSettings& tickSounds, ApplicationListModel& applications,
-                  TrackingHealthModel& health, Localization& localization, QObject* parent = nullptr);
+                  TickSoundSettings& tickSounds, BlockListsScreen& blockLists, TrackingHealthModel& health,
+                  Localization& localization, QObject* parent = nullptr);
     ~UserInterface() override;
 
     /// Whose messages the Deep Work screen shows, to be said before load(). @param coach must outlive this
@@ -69,7 +69,7 @@ private:
 
     DeepWorkScreen& m_deepWork;
     TickSoundSettings& m_tickSounds;
-    ApplicationListModel& m_applications;
+    BlockListsScreen& m_blockLists;
     TrackingHealthModel& m_health;
     Localization& m_localization;
     AICoachService* m_coach = nullptr;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "distraction/AICoachService.h"
-#include "distraction/ApplicationListModel.h"
+#include "distraction/BlockListsScreen.h"
 #include "distraction/TrackingHealthModel.h"
 #include "focus/DeepWorkScreen.h"
 #include "platform/fake/FakeAudioOutput.h"
@@ -27,9 +27,8 @@ struct UiRig {
         for (const char* name : {"Archive Manager", "Calculator", "Editor", "Game", "Terminal"})
             install(QString::fromLatin1(name));
         health.refresh();
-        userInterface =
-            std::make_unique<UserInterface>(std::make_unique<InterfaceEngine>(), deepWork, tickSoundSettings,
-                                            applications, health, *localization);
+        userInterface = std::make_unique<UserInterface>(std::make_unique<InterfaceEngine>(), deepWork,
+                                                        tickSoundSettings, blockLists, health, *localization);
         userInterface->setCoach(coach);
         loaded = userInterface->load();
     }
@@ -78,7 +77,7 @@ struct UiRig {
     TickSoundSettings tickSoundSettings{tickSounds, audioOutput};
     AICoachService coach{focus.clock, focus.blocker};
     DeepWorkScreen deepWork{focus.timer, focus.usage, focus.motion, focus.context()};
-    ApplicationListModel applications{focus.catalog, focus.workspace, focus.blocker};
+    BlockListsScreen blockLists{focus.catalog, focus.workspace, focus.blocker, focus.preferences};
     TrackingHealthModel health{
         {{QStringLiteral("health_frontmost_application"), [] { return Availability::available(); }},
          {QStringLiteral("health_idle_time"), [this] { return idleTime; }},

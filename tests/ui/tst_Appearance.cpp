@@ -3,6 +3,7 @@
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQmlProperty>
+#include <QTemporaryDir>
 
 #include <cmath>
 
@@ -23,6 +24,7 @@ private Q_SLOTS:
 
 private:
     void bringAbout(const QString& scene);
+    void showBlockLists(const QString& scene);
     void checkTexts(const QString& scene) const;
     void checkNames(const QString& scene) const;
 
@@ -80,8 +82,8 @@ void AppearanceTest::bringAbout(const QString& scene) {
         FocusRig::settle();
         rig->item("queue")->forceActiveFocus(Qt::TabFocusReason);
     }
-    if (scene == QLatin1String("blocklists"))
-        rig->showPage(1);
+    if (scene.startsWith(QLatin1String("blocklists")))
+        showBlockLists(scene);
     if (scene == QLatin1String("health")) {
         rig->idleTime =
             Availability::unavailable(QStringLiteral("health_wayland_idle"), QStringLiteral("detail"));
@@ -116,6 +118,36 @@ void AppearanceTest::bringAbout(const QString& scene) {
         focus.pass(std::chrono::seconds(1501));
     if (scene == QLatin1String("quit"))
         rig->press(Qt::Key_Q, Qt::ControlModifier);
+}
+
+void AppearanceTest::showBlockLists(const QString& scene) {
+    BlockListsScreen& lists = rig->blockLists;
+    if (scene == QLatin1String("blocklists_suggestions")) {
+        rig->focus.catalog.install(
+            {QStringLiteral("org.mozilla.firefox"), QStringLiteral("Firefox"), QString(), {}});
+        rig->focus.blocker.replaceLists({});
+    }
+    rig->showPage(1);
+    if (scene == QLatin1String("blocklists_suggestions")) {
+        lists.suggestions()->toggle(0);
+        return;
+    }
+    if (scene != QLatin1String("blocklists_sites") && scene != QLatin1String("blocklists_import"))
+        return;
+    QMetaObject::invokeMethod(rig->item("listPanes"), "chosen", Q_ARG(QString, QStringLiteral("sites")));
+    lists.addSites(QStringLiteral("whitelisted"), QStringLiteral("docs.example.org example.net"));
+    lists.addSites(QStringLiteral("blocked"), QStringLiteral("example.org news.example.org example.net"));
+    lists.setTestText(QStringLiteral("docs.example.org"));
+    lists.addSites(QStringLiteral("blocked"), QStringLiteral("two%words example.org"));
+    rig->item("blockedSites")->forceActiveFocus(Qt::TabFocusReason);
+    if (scene == QLatin1String("blocklists_sites"))
+        return;
+    QTemporaryDir folder;
+    const QUrl file = QUrl::fromLocalFile(folder.filePath(QStringLiteral("my-own-block-lists.json")));
+    lists.exportLists(file);
+    lists.removeSite(QStringLiteral("blocked"), QStringLiteral("example.org"));
+    lists.addSites(QStringLiteral("blocked"), QStringLiteral("other.org"));
+    lists.examineImport(file);
 }
 
 void AppearanceTest::checkTexts(const QString& scene) const {
@@ -162,7 +194,8 @@ void AppearanceTest::checkNames(const QString& scene) const {
 void AppearanceTest::nothingIsCutAndEverythingHasAName_data() {
     QTest::addColumn<QString>("scene");
     for (const char* scene : {"empty", "filled", "own", "started", "running", "paused", "resumed",
-                              "completed", "break", "blocklists", "health", "quit", "ticks"})
+                              "completed", "break", "blocklists", "blocklists_suggestions",
+                              "blocklists_sites", "blocklists_import", "health", "quit", "ticks"})
         QTest::newRow(scene) << QString::fromLatin1(scene);
 }
 

@@ -2,106 +2,173 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Layouts
-import QtQuick.Templates as T
 import NorvinFocus.Ui
 
-/// The applications with the list that each is on.
+/// The four lists: applications, and sites by browser. While nothing is listed, suggestions as well.
 Page {
     id: root
 
-    required property ApplicationListModel model
+    required property BlockListsScreen model
+    property string pane: "applications"
+    readonly property list<string> panes: root.model.offersSuggestions ? ["suggestions", "applications", "sites"] : ["applications", "sites"]
+
+    function paneNames(): list<string> {
+        const names = [qsTrId("applications_tab"), qsTrId("sites_tab")];
+        return root.model.offersSuggestions ? [qsTrId("suggestions_tab"), ...names] : names;
+    }
+
+    function paneIntroduction(): string {
+        if (root.pane === "suggestions")
+            return qsTrId("suggestions_subtitle");
+        return root.pane === "sites" ? qsTrId("sites_subtitle") : qsTrId("block_lists_subtitle");
+    }
+
+    function focusPane(): void {
+        if (root.pane === "suggestions")
+            suggestions.focusStart();
+        else if (root.pane === "sites")
+            sites.focusStart();
+        else
+            applications.focusStart();
+    }
+
+    function chooseFile(saving: bool): void {
+        if (!files.item)
+            files.setSource("ListFileChooser.qml", {
+                screen: root.model
+            });
+        (files.item as ListFileChooser).choose(saving);
+    }
 
     heading: qsTrId("block_lists_title")
-    introduction: qsTrId("block_lists_subtitle")
+    introduction: root.paneIntroduction()
 
     onEntered: {
         root.model.refresh();
-        search.forceActiveFocus(Qt.OtherFocusReason);
+        if (root.model.offersSuggestions)
+            root.pane = "suggestions";
+        root.focusPane();
+    }
+
+    Keys.onPressed: event => {
+        event.accepted = event.matches(StandardKey.Undo);
+        if (event.accepted)
+            root.model.undo();
     }
 
     headingContent: [
-        CountChip {
-            symbol: "hand.raised"
-            color: Theme.distracted
-            text: qsTrId("blocked_count", root.model.blockedCount)
+        PushButton {
+            objectName: "importButton"
+            symbol: "square.and.arrow.down"
+            text: qsTrId("lists_import_button")
+            onClicked: root.chooseFile(false)
         },
-        CountChip {
-            symbol: "checkmark.shield"
-            color: Theme.legitimate
-            text: qsTrId("whitelisted_count", root.model.whitelistedCount)
+        PushButton {
+            objectName: "exportButton"
+            symbol: "square.and.arrow.up"
+            text: qsTrId("lists_export_button")
+            onClicked: root.chooseFile(true)
         }
     ]
 
-    EntryField {
-        id: search
-
-        objectName: "applicationSearch"
-        Layout.fillWidth: true
-        symbol: "magnifyingglass"
-        placeholderText: qsTrId("application_search_placeholder")
-        onTextEdited: root.model.filterText = search.text
-
-        Keys.onEscapePressed: {
-            search.clear();
-            root.model.filterText = "";
+    Connections {
+        function onOffersSuggestionsChanged(): void {
+            if (root.model.offersSuggestions || root.pane !== "suggestions")
+                return;
+            root.pane = "applications";
+            root.focusPane();
         }
-        Keys.onDownPressed: list.forceActiveFocus(Qt.TabFocusReason)
+
+        function onImportChanged(): void {
+            importQuestion.active = root.model.importState !== "none";
+        }
+
+        target: root.model
     }
 
-    ListView {
-        id: list
+    RowLayout {
+        spacing: Theme.gap4
+
+        SegmentedChoice {
+            objectName: "listPanes"
+            name: qsTrId("block_lists_title")
+            values: root.panes
+            labels: root.paneNames()
+            value: root.pane
+            onChosen: value => root.pane = value
+        }
+
+        Item {
+            Layout.fillWidth: true
+        }
+
+        CountChip {
+            visible: root.pane === "applications"
+            symbol: "checkmark.shield"
+            color: Theme.legitimate
+            text: qsTrId("whitelisted_count", root.model.applications.whitelistedCount)
+        }
+
+        CountChip {
+            visible: root.pane === "applications"
+            symbol: "hand.raised"
+            color: Theme.distracted
+            text: qsTrId("blocked_count", root.model.applications.blockedCount)
+        }
+    }
+
+    SuggestionsPane {
+        id: suggestions
 
         Layout.fillWidth: true
         Layout.fillHeight: true
-        objectName: "applicationList"
-        visible: list.count > 0
-        clip: true
-        spacing: 2
-        reuseItems: true
-        activeFocusOnTab: true
-        boundsBehavior: Flickable.StopAtBounds
-        highlightMoveDuration: 0
-        model: root.model
-        Accessible.role: Accessible.List
-        Accessible.name: qsTrId("block_lists_title")
-
-        T.ScrollBar.vertical: ScrollBarThin {}
-
-        onActiveFocusChanged: {
-            list.forceLayout();
-            if (list.currentIndex < 0)
-                list.currentIndex = 0;
-        }
-
-        Keys.onPressed: event => {
-            const row = list.currentItem as ApplicationRow;
-            event.accepted = row !== null && (event.key === Qt.Key_Left || event.key === Qt.Key_Right);
-            if (event.accepted)
-                row.step(event.key === Qt.Key_Right ? 1 : -1);
-        }
-
-        delegate: ApplicationRow {
-            width: list.width - Theme.gap3
-            hasKeyboard: list.activeFocus
-            onListChosen: (bundleId, listName) => root.model.setList(bundleId, listName)
-        }
+        visible: root.pane === "suggestions"
+        screen: root.model
     }
 
-    EmptyState {
+    ApplicationsPane {
+        id: applications
+
         Layout.fillWidth: true
         Layout.fillHeight: true
-        visible: list.count === 0
-        symbol: "magnifyingglass"
-        title: qsTrId("applications_empty_title")
-        message: root.model.filterText.length > 0 ? qsTrId("applications_no_match_subtitle") : qsTrId("applications_empty_subtitle")
+        visible: root.pane === "applications"
+        model: root.model.applications
     }
 
-    ThemedText {
+    SitesPane {
+        id: sites
+
         Layout.fillWidth: true
-        Layout.bottomMargin: Theme.gap4
-        text: qsTrId("sites_command_line_note")
-        color: Theme.textFaint
-        font.pixelSize: Theme.caption
-        wrapMode: Text.WordWrap
+        Layout.fillHeight: true
+        visible: root.pane === "sites"
+        screen: root.model
+    }
+
+    NoticeBar {
+        Layout.fillWidth: true
+        visible: root.model.notice.length > 0
+        screen: root.model
+        onActed: root.focusPane()
+    }
+
+    Item {
+        implicitHeight: 0
+    }
+
+    Loader {
+        id: files
+
+        visible: false
+    }
+
+    Deferred {
+        id: importQuestion
+
+        visible: false
+
+        ImportDialog {
+            screen: root.model
+            onClosed: root.model.dropImport()
+        }
     }
 }

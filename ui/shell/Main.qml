@@ -9,7 +9,7 @@ Window {
 
     required property DeepWorkScreen deepWork
     required property TickSoundSettings tickSounds
-    required property ApplicationListModel applications
+    required property BlockListsScreen blockLists
     required property TrackingHealthModel health
     property AICoachService coach: null
     property string storeProblem: ""
@@ -74,7 +74,7 @@ Window {
             focus: true
             deepWork: root.deepWork
             tickSounds: root.tickSounds
-            applications: root.applications
+            blockLists: root.blockLists
             health: root.health
             coach: root.coach
             storeProblem: root.storeProblem

@@ -10,7 +10,7 @@ FocusScope {
 
     required property DeepWorkScreen deepWork
     required property TickSoundSettings tickSounds
-    required property ApplicationListModel applications
+    required property BlockListsScreen blockLists
     required property TrackingHealthModel health
     required property AICoachService coach
     /// Empty while the store is well.
@@ -76,7 +76,7 @@ FocusScope {
                 LazyPage {
                     wanted: root.page === 1
                     file: "../blocklists/BlockListsView.qml"
-                    model: root.applications
+                    model: root.blockLists
                 }
 
                 LazyPage {
