@@ -91,8 +91,14 @@ class Application:
     # Windows
 
     def windows(self):
-        """The windows on the screen of the program that was launched."""
-        return self.desktop.visible_windows("--pid", str(self.process.pid))
+        """The windows on the screen of the program that was launched, without those that lie over all others."""
+        return [window for window in self.desktop.visible_windows("--pid", str(self.process.pid))
+                if not self.desktop.is_overlay(window)]
+
+    def overlays(self):
+        """The windows of the program that lie over all others."""
+        return [window for window in self.desktop.visible_windows("--pid", str(self.process.pid))
+                if self.desktop.is_overlay(window)]
 
     def close_windows(self):
         """Closes each window as its user does."""

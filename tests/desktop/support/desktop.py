@@ -227,6 +227,10 @@ class Desktop:
     def visible_windows(self, *criteria):
         return [int(line) for line in self.run("xdotool", "search", "--onlyvisible", *criteria).split()]
 
+    def is_overlay(self, window):
+        """Whether the window keeps away from the window manager."""
+        return "Override Redirect State: yes" in self.run("xwininfo", "-id", str(window))
+
     def active_window(self):
         match = re.search(r"# (0x[0-9a-f]+)", self.run("xprop", "-root", "_NET_ACTIVE_WINDOW"))
         return int(match.group(1), 16) if match else 0

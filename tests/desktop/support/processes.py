@@ -30,8 +30,9 @@ class ProcessGroup:
     def start(self, name, arguments, environment, **options):
         path = os.path.join(self._logs, f"{name}.log")
         with open(path, "ab") as log:
+            options.setdefault("stdin", subprocess.DEVNULL)
             options.setdefault("stdout", log)
-            process = subprocess.Popen(arguments, env=environment, stdin=subprocess.DEVNULL,
+            process = subprocess.Popen(arguments, env=environment,
                                        stderr=subprocess.STDOUT if options["stdout"] is log else log,
                                        **options)
         process.log_path = path
@@ -49,7 +50,7 @@ class ProcessGroup:
             except subprocess.TimeoutExpired:
                 process.kill()
                 process.wait(10)
-        for stream in (process.stdout, process.stderr):
+        for stream in (process.stdin, process.stdout, process.stderr):
             if stream:
                 stream.close()
 
