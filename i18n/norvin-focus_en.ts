@@ -190,27 +190,27 @@
     </message>
     <message id="coach_distraction_1">
         <source></source>
-        <translation>%1 can wait. First one small step on your task.</translation>
+        <translation>%1 can wait. One more small step first.</translation>
     </message>
     <message id="coach_distraction_2">
         <source></source>
-        <translation>Was opening %1 a reflex? Take a breath, then carry on.</translation>
+        <translation>%1 out of habit? Take a breath, then carry on.</translation>
     </message>
     <message id="coach_distraction_3">
         <source></source>
-        <translation>%1 will still be there later. Right now your task comes first.</translation>
+        <translation>%1 will still be there later. Your task comes first.</translation>
     </message>
     <message id="coach_interrupt_abandoned">
         <source></source>
-        <translation>Stopped before the end, and that is fine. Start again whenever you like.</translation>
+        <translation>Stopped for now, and that is fine. Start again any time.</translation>
     </message>
     <message id="coach_interrupt_inactivity">
         <source></source>
-        <translation>You have been away for a while. Carry on whenever you like.</translation>
+        <translation>You have been away for a while. Carry on when you like.</translation>
     </message>
     <message id="coach_interrupt_pause">
         <source></source>
-        <translation>Paused. Catch your breath, then pick up where you left off.</translation>
+        <translation>Paused. Catch your breath, then carry on.</translation>
     </message>
     <message id="completed_break_title">
         <source></source>

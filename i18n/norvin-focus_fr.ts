@@ -190,19 +190,19 @@
     </message>
     <message id="coach_distraction_1">
         <source></source>
-        <translation>%1 peut attendre. D’abord un petit pas dans votre tâche.</translation>
+        <translation>%1 peut attendre. D’abord encore un petit pas.</translation>
     </message>
     <message id="coach_distraction_2">
         <source></source>
-        <translation>Ouvrir %1, c’était un réflexe ? Respirez un instant, puis reprenez.</translation>
+        <translation>%1, par habitude ? Respirez un instant, puis reprenez.</translation>
     </message>
     <message id="coach_distraction_3">
         <source></source>
-        <translation>%1 sera encore là plus tard. Pour l’instant, votre tâche d’abord.</translation>
+        <translation>%1 sera encore là plus tard. Votre tâche d’abord.</translation>
     </message>
     <message id="coach_interrupt_abandoned">
         <source></source>
-        <translation>Arrêt avant la fin, et ce n’est pas grave. Recommencez quand vous voulez.</translation>
+        <translation>Ce n’est que partie remise. Recommencez quand vous voulez.</translation>
     </message>
     <message id="coach_interrupt_inactivity">
         <source></source>
@@ -210,7 +210,7 @@
     </message>
     <message id="coach_interrupt_pause">
         <source></source>
-        <translation>C’est en pause. Soufflez un peu, puis reprenez là où vous en étiez.</translation>
+        <translation>En pause. Soufflez un peu, puis reprenez le fil.</translation>
     </message>
     <message id="completed_break_title">
         <source></source>

@@ -285,7 +285,7 @@ FocusScope {
         objectName: "coachPlace"
         x: Math.round((page.width - width) / 2)
         y: Theme.gap4
-        width: Math.min(page.width - 2 * Theme.gap6, 560)
+        width: column.width
         onWantedChanged: {
             if (!coachLoader.item)
                 coachLoader.setSource("../coach/CoachOverlayView.qml", {
