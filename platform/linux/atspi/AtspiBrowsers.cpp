@@ -13,8 +13,8 @@ constexpr qsizetype mostBrowsers = 64;
 AtspiBrowsers::AtspiBrowsers(QDBusConnection sessionBus, Clock& clock, QObject* parent)
     : QObject(parent)
     , m_clock(clock)
-    , m_bus(std::move(sessionBus), clock)
-    , m_reader(clock) {
+    , m_reader(clock)
+    , m_bus(std::move(sessionBus), clock) {
     connect(&m_bus, &AtspiBus::enabledChanged, this, &AtspiBrowsers::accessibilityEnabledChanged);
     connect(&m_bus, &AtspiBus::switchFailed, this, &AtspiBrowsers::accessibilitySwitchFailed);
     connect(&m_bus, &AtspiBus::connectionChanged, this, [this] { m_reader.forgetBus(); });

@@ -67,8 +67,8 @@ private:
     void setState(qint64 processId, ReadState state);
 
     Clock& m_clock;
+    AtspiReader m_reader; // answers that the bus still waits for reach it
     AtspiBus m_bus;
-    AtspiReader m_reader;
     QHash<qint64, ReadState> m_states;
 };
 

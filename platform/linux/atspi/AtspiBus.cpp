@@ -10,6 +10,7 @@
 #include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
 #include <QDBusVariant>
+#include <QSignalBlocker>
 
 namespace norvin {
 
@@ -66,6 +67,7 @@ AtspiBus::AtspiBus(QDBusConnection sessionBus, Clock& clock, QObject* parent)
 }
 
 AtspiBus::~AtspiBus() {
+    const QSignalBlocker quiet(this);
     drop();
 }
 
@@ -200,6 +202,8 @@ void AtspiBus::connectTo(const QString& address) {
 }
 
 void AtspiBus::onDisconnected() {
+    if (m_connectionName.isEmpty())
+        return; // left by ourselves
     logLine(QStringLiteral("AtspiBus: The accessibility bus has left"));
     drop();
     m_nextTry = {};
@@ -211,7 +215,8 @@ void AtspiBus::drop() {
     if (m_connectionName.isEmpty())
         return;
     m_transport.reset();
-    QDBusConnection::disconnectFromBus(std::exchange(m_connectionName, QString()));
+    const QString name = std::exchange(m_connectionName, QString());
+    QDBusConnection::disconnectFromBus(name);
     m_address.clear();
     Q_EMIT connectionChanged();
 }
