@@ -27,8 +27,8 @@ void TickSoundSettings::setEnabled(bool enabled) {
     m_service.setEnabled(enabled);
 }
 
-QStringList TickSoundSettings::types() const {
-    QStringList values;
+QList<QString> TickSoundSettings::types() const {
+    QList<QString> values;
     for (const TickSoundType type : allTickSoundTypes)
         values.append(rawValue(type));
     return values;

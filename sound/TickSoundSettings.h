@@ -1,8 +1,8 @@
 #pragma once
 
+#include <QList>
 #include <QObject>
 #include <QString>
-#include <QStringList>
 
 namespace norvin {
 
@@ -14,7 +14,7 @@ class TickSoundSettings final : public QObject {
     Q_OBJECT
     Q_PROPERTY(bool isEnabled READ isEnabled WRITE setEnabled NOTIFY isEnabledChanged)
     /// Raw values of all characters, in the order in which they are offered.
-    Q_PROPERTY(QStringList types READ types CONSTANT)
+    Q_PROPERTY(QList<QString> types READ types CONSTANT)
     /// Raw value. Choosing another one plays a tick of it.
     Q_PROPERTY(QString selectedType READ selectedType WRITE setSelectedType NOTIFY selectedTypeChanged)
     /// 0 to 100.
@@ -29,7 +29,7 @@ public:
 
     [[nodiscard]] bool isEnabled() const;
     void setEnabled(bool enabled);
-    [[nodiscard]] QStringList types() const;
+    [[nodiscard]] QList<QString> types() const;
     [[nodiscard]] QString selectedType() const;
     /// A text that is no raw value changes nothing.
     void setSelectedType(const QString& type);

@@ -11,7 +11,8 @@ FocusScope {
     id: root
 
     required property TickSoundSettings settings
-    readonly property int index: root.settings.types.indexOf(root.settings.selectedType)
+    readonly property list<string> types: root.settings.types
+    readonly property int index: root.types.indexOf(root.settings.selectedType)
 
     function nameOf(type: string): string {
         switch (type) {
@@ -40,8 +41,7 @@ FocusScope {
     }
 
     function choose(position: int): void {
-        const last = root.settings.types.length - 1;
-        root.settings.selectedType = root.settings.types[Math.max(0, Math.min(position, last))];
+        root.settings.selectedType = root.types[Math.max(0, Math.min(position, root.types.length - 1))];
     }
 
     implicitHeight: column.implicitHeight
@@ -74,7 +74,7 @@ FocusScope {
         spacing: 0
 
         Repeater {
-            model: root.settings.types
+            model: root.types
 
             T.AbstractButton {
                 id: row
