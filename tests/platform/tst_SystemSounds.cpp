@@ -11,8 +11,11 @@
 #include <sys/ioctl.h>
 
 #include <algorithm>
+#include <cmath>
 #include <csignal>
+#include <cstring>
 #include <linux/sockios.h>
+#include <vector>
 
 using namespace norvin;
 
@@ -68,9 +71,12 @@ private Q_SLOTS:
         sounds.play(QStringLiteral("Ping"), 0.0);
         int expected = 0;
         for (const char* name : {"Ping", "Blow", "Bottle", "Pop", "Glass", "Submarine"}) {
+            QVERIFY(startRecording());
             sounds.play(QString::fromLatin1(name), 1.0);
             ++expected;
             QTRY_COMPARE(streamsPlayed(), expected);
+            QTRY_VERIFY2(loudestHeard() > 0.05F, name);
+            QTRY_VERIFY_WITH_TIMEOUT(sinkInputs().isEmpty(), 15'000);
         }
         sounds.beep();
         sounds.play(QStringLiteral("Submarine"), 1.0); // after the beep has been reported on
@@ -115,10 +121,28 @@ private:
             {QStringLiteral("-n"), QStringLiteral("--daemonize=no"), QStringLiteral("--exit-idle-time=-1"),
              QStringLiteral("-L"),
              QStringLiteral("module-native-protocol-unix auth-anonymous=1 srbchannel=0 socket=") + m_socket,
-             QStringLiteral("-L"), QStringLiteral("module-null-sink")});
+             QStringLiteral("-L"), QStringLiteral("module-null-sink sink_name=norvin norewinds=1")});
         const bool started = QTest::qWaitFor(
             [] { return !DesktopRig::run(QStringLiteral("pactl"), {QStringLiteral("info")}).isEmpty(); });
         return started ? server : nullptr;
+    }
+
+    /// Records what is played from now on.
+    bool startRecording() {
+        m_recording = QStringLiteral("recording-%1").arg(m_streams.size());
+        m_rig->start(QStringLiteral("parec"),
+                     {QStringLiteral("--device=norvin.monitor"), QStringLiteral("--raw"),
+                      QStringLiteral("--format=float32le"), QStringLiteral("--latency-msec=20"),
+                      m_rig->filePath(m_recording)});
+        return QTest::qWaitFor([this] { return !m_rig->readFile(m_recording).isEmpty(); });
+    }
+    [[nodiscard]] float loudestHeard() const {
+        const QByteArray bytes = m_rig->readFile(m_recording);
+        std::vector<float> samples(static_cast<size_t>(bytes.size()) / sizeof(float));
+        std::memcpy(samples.data(), bytes.constData(), samples.size() * sizeof(float));
+        const auto loudest = std::max_element(samples.cbegin(), samples.cend(),
+                                              [](float a, float b) { return std::abs(a) < std::abs(b); });
+        return loudest == samples.cend() ? 0 : std::abs(*loudest);
     }
 
     static qsizetype threadCount() {
@@ -153,6 +177,7 @@ private:
     QString m_socket;
     qsizetype m_ownThreads = 0;
     QSet<QByteArray> m_streams;
+    QString m_recording;
 };
 
 QTEST_GUILESS_MAIN(SystemSoundsTest)
