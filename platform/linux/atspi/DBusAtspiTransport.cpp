@@ -8,6 +8,7 @@
 #include <QDBusPendingReply>
 #include <QDBusSignature>
 #include <QDBusVariant>
+#include <QElapsedTimer>
 #include <QVariantMap>
 
 namespace norvin {
@@ -114,9 +115,14 @@ std::vector<AtspiReply> DBusAtspiTransport::call(const std::vector<AtspiCall>& c
     }
     std::vector<AtspiReply> replies;
     replies.reserve(calls.size());
+    QElapsedTimer waiting;
+    waiting.start();
     for (QDBusPendingCall& call : pending) {
         call.waitForFinished();
         replies.push_back(replyOf(call.reply()));
+        // The bus says the same of a program that ended while it was asked.
+        if (replies.back().status == AtspiReply::Status::silent && waiting.elapsed() < timeout.count() / 2)
+            replies.back().status = AtspiReply::Status::gone;
     }
     return replies;
 }
