@@ -238,9 +238,14 @@ class Firefox(Browser):
         """Pins the first tab of the window in front, through the menu that a right click on it opens."""
         window = self.desktop.active_window()
         self.desktop.run("xdotool", "mousemove", "--window", str(window), "110", "22", "click", "3", check=True)
-        menu = wait_until(lambda: self._menu(), "the tab's menu is open", 30)
-        self.press("p")
-        wait_until(lambda: menu not in self.desktop.visible_windows("--class", "."), "the tab's menu is closed", 30)
+        menu = wait_until(self._menu, "the tab's menu is open", 30)
+
+        def chosen():
+            # A menu that has just opened does not listen yet.
+            self.press("p")
+            return menu not in self.windows()
+
+        wait_until(chosen, "the tab's menu is closed", 30, interval=0.5)
 
     def _menu(self):
         for window in self.windows():
