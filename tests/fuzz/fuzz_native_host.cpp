@@ -5,6 +5,7 @@
 #include "browser-host/BrowserHost.h"
 #include "platform/linux/webextension/BrowserMessage.h"
 #include "platform/linux/webextension/MessageStream.h"
+#include "tests/fuzz/NativeInput.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -21,8 +22,8 @@ using namespace norvin;
 
 namespace {
 
-// A pipe takes this much without a reader.
-constexpr size_t largestInput = 32 * 1024;
+// A pipe takes five times this, which it may become on a stream, without a reader.
+constexpr size_t largestInput = 8 * 1024;
 
 /// The application's socket, on which the host's messages arrive.
 struct Application {
@@ -65,7 +66,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
 
     std::array<int, 2> pipe{};
     require(::pipe2(pipe.data(), O_CLOEXEC) == 0);
-    require(::write(pipe[1], data, size) == static_cast<ssize_t>(size));
+    const QByteArray bytes = nativeStream(data, size);
+    require(::write(pipe[1], bytes.constData(), static_cast<size_t>(bytes.size())) == bytes.size());
     ::close(pipe[1]);
     {
         BrowserHost host(pipe[0], application.discarded, application.socket);

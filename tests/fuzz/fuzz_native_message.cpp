@@ -2,6 +2,7 @@
 
 #include "platform/linux/webextension/BrowserMessage.h"
 #include "platform/linux/webextension/MessageStream.h"
+#include "tests/fuzz/NativeInput.h"
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -15,8 +16,8 @@ using namespace norvin;
 namespace {
 
 constexpr quint32 largestMessage = 256;
-// A pipe takes this much without a reader.
-constexpr size_t largestInput = 32 * 1024;
+// A pipe takes five times this, which it may become on a stream, without a reader.
+constexpr size_t largestInput = 8 * 1024;
 
 void require(bool condition) {
     if (!condition)
@@ -43,11 +44,12 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         return -1;
     std::array<int, 2> pipe{};
     require(::pipe2(pipe.data(), O_CLOEXEC | O_NONBLOCK) == 0);
+    const QByteArray bytes = nativeStream(data, size);
     // Cut in two, so that messages come in parts.
     MessageStream stream(largestMessage);
-    const size_t first = size / 2;
-    for (const auto& [part, length] : {std::pair(data, first), std::pair(data + first, size - first)}) {
-        require(::write(pipe[1], part, length) == static_cast<ssize_t>(length));
+    const qsizetype half = bytes.size() / 2;
+    for (const QByteArray& part : {bytes.first(half), bytes.sliced(half)}) {
+        require(::write(pipe[1], part.constData(), static_cast<size_t>(part.size())) == part.size());
         if (stream.state() != MessageStream::State::open)
             break;
         require(stream.readFrom(pipe[0]) == MessageStream::State::open);
