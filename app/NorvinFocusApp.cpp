@@ -14,6 +14,8 @@ namespace norvin {
 
 namespace {
 
+constexpr std::chrono::milliseconds healthRefreshDelay{300};
+
 PomodoroCollaborators timerCollaborators(LinuxPlatform& platform, SoundService& sounds) {
     return {.clock = platform.clock(),
             .blocker = AppBlockerService::shared(),
@@ -61,8 +63,6 @@ QList<TrackingHealthModel::Check> platformHealthChecks(LinuxPlatform& platform) 
         {QStringLiteral("health_sounds"), [&platform] { return platform.sounds().availability(); }},
         {QStringLiteral("health_ticks"), [&platform] { return platform.audioOutput().availability(); }},
         {QStringLiteral("health_preferences"), [&platform] { return platform.preferences().availability(); }},
-        {QStringLiteral("health_browser_pages"),
-         [] { return Availability::unavailable(QStringLiteral("health_browser_pages_missing")); }},
     };
 }
 
@@ -75,8 +75,10 @@ NorvinFocusApp::SharedServices::SharedServices(LinuxPlatform& platform, AlertOve
         return std::make_unique<BrowserAlertService>(alert, platform.notifications());
     });
     SharedInstance<AppUsageService>::setFactory([&platform] {
-        return std::make_unique<AppUsageService>(platform.clock(), platform.workspace(),
-                                                 AppBlockerService::shared());
+        return std::make_unique<AppUsageService>(
+            platform.clock(), platform.workspace(), AppBlockerService::shared(),
+            BrowserDomainProbe(platform.browserScripting(), platform.accessibility()),
+            BrowserAlertService::shared());
     });
     SharedInstance<MotionService>::setFactory([&platform] {
         return std::make_unique<MotionService>(platform.clock(), platform.idleTime(), platform.preferences());
@@ -110,7 +112,10 @@ NorvinFocusApp::NorvinFocusApp(LinuxPlatform& platform, std::unique_ptr<ModelCon
                    platform.preferences())
     , m_busAvailability(Availability::available())
     , m_storeAvailability(Availability::available())
+    , m_extensionAvailability(Availability::available())
+    , m_browserHealth(platform.browserAccess(), AppBlockerService::shared(), platform.preferences())
     , m_health(platformHealthChecks(platform)
+               << m_browserHealth.accessCheck()
                << TrackingHealthModel::Check{QStringLiteral("health_session_bus"),
                                              [this] { return m_busAvailability; }}
                << TrackingHealthModel::Check{QStringLiteral("health_store"),
@@ -118,6 +123,7 @@ NorvinFocusApp::NorvinFocusApp(LinuxPlatform& platform, std::unique_ptr<ModelCon
     , m_userInterface(std::move(engine), m_deepWorkScreen, m_tickSoundSettings, m_blockLists, m_health,
                       m_localization)
     , m_busService(sessionBus(), m_deepWorkScreen, AppBlockerService::shared(), m_health) {
+    m_blockLists.setBrowserHealth(&m_browserHealth);
     followStore();
     followPlatform();
 }
@@ -133,17 +139,20 @@ bool NorvinFocusApp::launch() {
     if (!m_userInterface.load())
         return false;
     m_alertWindows.setContent(&m_userInterface.engine(), &BrowserAlertService::shared().model());
-    m_coachBubble = std::make_unique<CoachBubble>(
-        CoachBubble::Collaborators{.coach = m_coachService,
-                                   .support = m_platform.overlays(),
-                                   .notifications = m_platform.notifications(),
-                                   .clock = m_platform.clock(),
-                                   .engine = m_userInterface.engine(),
-                                   .mainWindow = *m_userInterface.window()});
+    m_coachBubble =
+        std::make_unique<CoachBubble>(CoachBubble::Collaborators{.coach = m_coachService,
+                                                                 .support = m_platform.overlays(),
+                                                                 .notifications = m_platform.notifications(),
+                                                                 .clock = m_platform.clock(),
+                                                                 .engine = m_userInterface.engine(),
+                                                                 .mainWindow = *m_userInterface.window()});
     wireServices();
     m_busService.setShowWindow([this] { showWindow(); });
     m_busAvailability = m_busService.publish();
+    m_extensionAvailability = m_platform.listenToExtensions();
     m_health.refresh();
+    // Not asked at the start, which has no time for other programs.
+    m_health.setPassingChecks([this] { return passingHealthChecks(); });
     connect(&m_userInterface, &UserInterface::quitRequested, this, &NorvinFocusApp::quit);
     connect(qApp, &QCoreApplication::aboutToQuit, &AppUsageService::shared(),
             &AppUsageService::applicationWillTerminate);
@@ -183,11 +192,31 @@ void NorvinFocusApp::followPlatform() {
     connect(&m_platform.sounds(), &SystemSounds::availabilityChanged, this, refresh);
     connect(&m_platform.audioOutput(), &AudioOutput::availabilityChanged, this, refresh);
     connect(&m_platform.preferences(), &Preferences::availabilityChanged, this, refresh);
+    connect(&m_browserHealth, &BrowserHealth::changed, this, &NorvinFocusApp::refreshHealthSoon);
     connect(&m_platform.notifications(), &UserNotifications::activated, this, &NorvinFocusApp::showWindow);
     connect(&m_userInterface, &UserInterface::windowClosedWhileRunning, this, [this] {
         m_platform.notifications().post(qtTrId("window_closed_running_title"),
                                         qtTrId("window_closed_running_body"));
     });
+}
+
+// What browsers say comes in bursts, and in the midst of asking them.
+void NorvinFocusApp::refreshHealthSoon() {
+    if (m_healthRefresh)
+        return;
+    m_healthRefresh = m_platform.clock().after(healthRefreshDelay, [this] {
+        m_healthRefresh.reset();
+        m_health.refresh();
+        m_browserHealth.refreshBanner();
+    });
+}
+
+QList<TrackingHealthModel::Check> NorvinFocusApp::passingHealthChecks() {
+    QList<TrackingHealthModel::Check> checks = m_browserHealth.browserChecks();
+    if (!m_extensionAvailability.isAvailable()) {
+        checks.append({QStringLiteral("health_extensions"), [this] { return m_extensionAvailability; }});
+    }
+    return checks;
 }
 
 void NorvinFocusApp::showWindow() {

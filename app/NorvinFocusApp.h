@@ -4,6 +4,7 @@
 #include "app/FocusBusService.h"
 #include "distraction/AICoachService.h"
 #include "distraction/BlockListsScreen.h"
+#include "distraction/BrowserHealth.h"
 #include "distraction/TrackingHealthModel.h"
 #include "focus/DeepWorkScreen.h"
 #include "focus/PomodoroTimerService.h"
@@ -60,6 +61,8 @@ private:
     void wireServices();
     void followStore();
     void followPlatform();
+    void refreshHealthSoon();
+    [[nodiscard]] QList<TrackingHealthModel::Check> passingHealthChecks();
     void quit();
 
     LinuxPlatform& m_platform;
@@ -79,10 +82,13 @@ private:
     BlockListsScreen m_blockLists;
     Availability m_busAvailability;
     Availability m_storeAvailability;
+    Availability m_extensionAvailability;
+    BrowserHealth m_browserHealth;
     TrackingHealthModel m_health;
     UserInterface m_userInterface;
     std::unique_ptr<CoachBubble> m_coachBubble;
     FocusBusService m_busService;
+    std::unique_ptr<ClockTimer> m_healthRefresh;
 };
 
 /// Name of the symbol for a state and phase of the timer.

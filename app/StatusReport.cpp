@@ -95,6 +95,7 @@ QJsonArray healthReport(const TrackingHealthModel& health) {
         const std::optional<Unavailable>& reason = health.availability(row).reason();
         report.append(QJsonObject{
             {QStringLiteral("capability"), health.capabilityKey(row)},
+            {QStringLiteral("subject"), textOrNull(health.subject(row))},
             {QStringLiteral("available"), !reason.has_value()},
             {QStringLiteral("reason"), reason ? QJsonValue(reason->reasonKey) : QJsonValue()},
             {QStringLiteral("detail"), reason ? textOrNull(reason->detail) : QJsonValue()},
@@ -171,14 +172,18 @@ QString healthText(const QJsonArray& health, QString (*translated)(const QString
     QString text;
     for (const QJsonValue& value : health) {
         const QJsonObject check = value.toObject();
+        const QString subject = check[QStringLiteral("subject")].toString();
+        const auto sentence = [&subject, translated](const QString& key) {
+            return translated(key).replace(QLatin1String("%1"), subject);
+        };
         const bool available = check[QStringLiteral("available")].toBool();
         text += (available ? QStringLiteral("ok       ") : QStringLiteral("missing  ")) +
-                translated(check[QStringLiteral("capability")].toString()) + u'\n';
+                sentence(check[QStringLiteral("capability")].toString()) + u'\n';
         if (available)
             continue;
         const QString reason = check[QStringLiteral("reason")].toString();
-        text += QStringLiteral("         %1\n         %2\n")
-                    .arg(translated(reason), translated(reason + QStringLiteral("_remedy")));
+        for (const QString& key : {reason, reason + QStringLiteral("_remedy")})
+            text += QStringLiteral("         ") + sentence(key) + u'\n';
         if (const QString detail = check[QStringLiteral("detail")].toString(); !detail.isEmpty())
             text += QStringLiteral("         (%1)\n").arg(detail);
     }

@@ -4,6 +4,8 @@
 #include "app/RemoteControl.h"
 #include "app/StatusReport.h"
 #include "app/UnixSignals.h"
+#include "distraction/AppBlockerService.h"
+#include "distraction/BrowserHealth.h"
 #include "platform/linux/LinuxPlatform.h"
 #include "platform/linux/SessionBus.h"
 #include "platform/linux/display/DisplayProbe.h"
@@ -78,6 +80,9 @@ int runOwnDoctor() {
     QCoreApplication::exec();
 
     QList<TrackingHealthModel::Check> checks = platformHealthChecks(platform);
+    AppBlockerService blocker(platform.preferences(), platform.workspace(), platform.sounds());
+    BrowserHealth browsers(platform.browserAccess(), blocker, platform.preferences());
+    checks << browsers.accessCheck() << browsers.browserChecks();
     const bool hasBus = sessionBus().isConnected();
     checks.append({QStringLiteral("health_session_bus"), [hasBus] {
                        return hasBus ? Availability::available()

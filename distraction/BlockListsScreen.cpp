@@ -337,6 +337,8 @@ QString BlockListsScreen::EntryReport::text() const {
 
 void BlockListsScreen::retranslate() {
     m_suggestions.retranslate();
+    if (m_browserHealth)
+        m_browserHealth->retranslate();
     Q_EMIT reportsChanged();
     Q_EMIT testChanged();
     Q_EMIT noticeChanged();

@@ -5,6 +5,7 @@
 #include "distraction/BlockListNotice.h"
 #include "distraction/BlockListSuggestions.h"
 #include "distraction/BlockLists.h"
+#include "distraction/BrowserHealth.h"
 #include "distraction/BrowserListModel.h"
 #include "distraction/SiteListModel.h"
 
@@ -32,6 +33,8 @@ class BlockListsScreen final : public QObject {
     Q_PROPERTY(norvin::SiteListModel* whitelistedSites READ whitelistedSites CONSTANT)
     Q_PROPERTY(norvin::SiteListModel* blockedSites READ blockedSites CONSTANT)
     Q_PROPERTY(norvin::BlockListSuggestions* suggestions READ suggestions CONSTANT)
+    /// What keeps pages from being told apart; null where nothing is to be said about it.
+    Q_PROPERTY(norvin::BrowserHealth* browserHealth READ browserHealth CONSTANT)
     /// While all four lists are empty and suggestions were not refused for good.
     Q_PROPERTY(bool offersSuggestions READ offersSuggestions NOTIFY offersSuggestionsChanged)
     /// Sites on the lists of all browsers.
@@ -89,6 +92,9 @@ public:
     [[nodiscard]] SiteListModel* whitelistedSites() { return &m_whitelistedSites; }
     [[nodiscard]] SiteListModel* blockedSites() { return &m_blockedSites; }
     [[nodiscard]] BlockListSuggestions* suggestions() { return &m_suggestions; }
+    [[nodiscard]] BrowserHealth* browserHealth() const { return m_browserHealth; }
+    /// To be called before the screen is shown. @param health must outlive this
+    void setBrowserHealth(BrowserHealth* health) { m_browserHealth = health; }
     [[nodiscard]] bool offersSuggestions() const { return m_offersSuggestions; }
     [[nodiscard]] int siteCount() const;
 
@@ -187,6 +193,7 @@ private:
     SiteListModel m_whitelistedSites;
     SiteListModel m_blockedSites;
     BlockListSuggestions m_suggestions;
+    BrowserHealth* m_browserHealth = nullptr;
     bool m_offersSuggestions = false;
     QString m_browser;
     EntryReport m_whitelistEntry;

@@ -32,6 +32,7 @@ BrowserHealth::BrowserHealth(BrowserAccess& access, AppBlockerService& blocker, 
     , m_blocker(blocker)
     , m_preferences(preferences) {
     connect(&m_access, &BrowserAccess::changed, this, &BrowserHealth::changed);
+    connect(&m_blocker, &AppBlockerService::listsChanged, this, &BrowserHealth::refreshBanner);
 }
 
 BrowserHealth::~BrowserHealth() = default;

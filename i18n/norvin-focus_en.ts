@@ -3,6 +3,18 @@
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
     <name></name>
+    <message id="accessibility_turn_off_button">
+        <source></source>
+        <translation>Turn off</translation>
+    </message>
+    <message id="accessibility_turn_on_button">
+        <source></source>
+        <translation>Turn on</translation>
+    </message>
+    <message id="accessibility_turned_on">
+        <source></source>
+        <translation>Accessibility is on. A browser that was open may have to be closed and opened once.</translation>
+    </message>
     <message id="active_task_next">
         <source></source>
         <translation>First up: %1</translation>
@@ -275,25 +287,97 @@
         <source></source>
         <translation>%1 s</translation>
     </message>
+    <message id="extension_firefox_system">
+        <source></source>
+        <translation>One step is left: Firefox takes this extension from a system folder only. An administrator copies %1 to /usr/share/mozilla/extensions/{ec8030f7-c20a-464f-9b0e-13a3a9e97384}; then restart Firefox.</translation>
+    </message>
+    <message id="extension_foreign_file">
+        <source></source>
+        <translation>Another program has put its own file where ours belongs: %1. It was left as it is.</translation>
+    </message>
+    <message id="extension_host_missing">
+        <source></source>
+        <translation>The extension needs the program norvin-focus-browser-host, which is not installed.</translation>
+    </message>
+    <message id="extension_install_button">
+        <source></source>
+        <translation>Install the extension</translation>
+    </message>
+    <message id="extension_load_unpacked">
+        <source></source>
+        <translation>One step is left: open the extensions page of the browser, switch on its developer mode, and load the folder %1.</translation>
+    </message>
+    <message id="extension_not_removed">
+        <source></source>
+        <translation>The extension could not be removed: %1</translation>
+    </message>
+    <message id="extension_not_written">
+        <source></source>
+        <translation>The extension could not be written: %1</translation>
+    </message>
+    <message id="extension_remove_button">
+        <source></source>
+        <translation>Remove the extension</translation>
+    </message>
+    <message id="extension_removed">
+        <source></source>
+        <translation>The extension is removed.</translation>
+    </message>
+    <message id="extension_restart_browser">
+        <source></source>
+        <translation>The extension is in place. Close the browser and open it again.</translation>
+    </message>
+    <message id="health_accessibility_missing">
+        <source></source>
+        <translation>This desktop has no accessibility service, so the pages of a browser cannot be told apart.</translation>
+    </message>
+    <message id="health_accessibility_missing_remedy">
+        <source></source>
+        <translation>Install the package at-spi2-core, or put the extension into your browser.</translation>
+    </message>
+    <message id="health_accessibility_off">
+        <source></source>
+        <translation>Norvin Focus cannot tell which site is in front in your browsers.</translation>
+    </message>
+    <message id="health_accessibility_off_remedy">
+        <source></source>
+        <translation>It can once accessibility is on for your desktop, which lets programs read one another’s windows. Norvin Focus reads the address of the page in front, nothing else, and only while a session runs. You can turn it off again in “Tracking health”.</translation>
+    </message>
     <message id="health_all_good">
         <source></source>
         <translation>Everything works.</translation>
+    </message>
+    <message id="health_browser">
+        <source></source>
+        <translation>Pages of %1</translation>
     </message>
     <message id="health_browser_alert">
         <source></source>
         <translation>Alert over blocked sites</translation>
     </message>
+    <message id="health_browser_by_extension">
+        <source></source>
+        <translation>Pages of %1, by the extension</translation>
+    </message>
+    <message id="health_browser_not_answering">
+        <source></source>
+        <translation>%1 does not answer.</translation>
+    </message>
+    <message id="health_browser_not_answering_remedy">
+        <source></source>
+        <translation>It is asked again in a moment. If it stays so, close %1 and open it again.</translation>
+    </message>
     <message id="health_browser_pages">
         <source></source>
         <translation>Telling the pages in browsers apart</translation>
     </message>
-    <message id="health_browser_pages_missing">
+    <message id="health_browser_restart">
         <source></source>
-        <translation>Pages in browsers are not told apart yet. All the time in a whitelisted browser counts as legitimate.</translation>
+        <translation>%1 was opened before accessibility was on.</translation>
     </message>
-    <message id="health_browser_pages_missing_remedy">
+    <message id="health_browser_restart_remedy">
         <source></source>
-        <translation>Take a browser off the whitelist if its time is to count as distracted.</translation>
+        <translation>Close %1 once and open it again.</translation>
     </message>
     <message id="health_bus_name_taken">
         <source></source>
@@ -306,6 +390,26 @@
     <message id="health_check_again">
         <source></source>
         <translation>Check again</translation>
+    </message>
+    <message id="health_extension_not_connected">
+        <source></source>
+        <translation>The extension is installed, but %1 has not connected.</translation>
+    </message>
+    <message id="health_extension_not_connected_remedy">
+        <source></source>
+        <translation>Close %1 and open it again, and make sure that the extension is switched on there.</translation>
+    </message>
+    <message id="health_extension_socket">
+        <source></source>
+        <translation>The extension in your browsers cannot reach Norvin Focus.</translation>
+    </message>
+    <message id="health_extension_socket_remedy">
+        <source></source>
+        <translation>Norvin Focus needs a runtime directory of your own (XDG_RUNTIME_DIR), which a login usually makes.</translation>
+    </message>
+    <message id="health_extensions">
+        <source></source>
+        <translation>Connection to the browser extension</translation>
     </message>
     <message id="health_fails">
         <source></source>
@@ -624,6 +728,10 @@
         <source></source>
         <translation>Whitelisted</translation>
     </message>
+    <message id="lists_export_accept_button">
+        <source></source>
+        <translation>Save</translation>
+    </message>
     <message id="lists_export_button">
         <source></source>
         <translation>Export…</translation>
@@ -636,6 +744,10 @@
         <source></source>
         <translation>Block lists</translation>
     </message>
+    <message id="lists_import_accept_button">
+        <source></source>
+        <translation>Open</translation>
+    </message>
     <message id="lists_import_button">
         <source></source>
         <translation>Import…</translation>
@@ -643,14 +755,6 @@
     <message id="lists_import_title">
         <source></source>
         <translation>Import block lists</translation>
-    </message>
-    <message id="lists_export_accept_button">
-        <source></source>
-        <translation>Save</translation>
-    </message>
-    <message id="lists_import_accept_button">
-        <source></source>
-        <translation>Open</translation>
     </message>
     <message id="next_step_label">
         <source></source>

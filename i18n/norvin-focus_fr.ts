@@ -3,6 +3,18 @@
 <TS version="2.1" language="fr_FR" sourcelanguage="en">
 <context>
     <name></name>
+    <message id="accessibility_turn_off_button">
+        <source></source>
+        <translation>Désactiver</translation>
+    </message>
+    <message id="accessibility_turn_on_button">
+        <source></source>
+        <translation>Activer</translation>
+    </message>
+    <message id="accessibility_turned_on">
+        <source></source>
+        <translation>L’accessibilité est active. Un navigateur déjà ouvert doit peut-être être fermé puis rouvert une fois.</translation>
+    </message>
     <message id="active_task_next">
         <source></source>
         <translation>Pour commencer : %1</translation>
@@ -275,25 +287,97 @@
         <source></source>
         <translation>%1 s</translation>
     </message>
+    <message id="extension_firefox_system">
+        <source></source>
+        <translation>Il reste une étape : Firefox n’accepte cette extension que depuis un dossier du système. Un administrateur copie %1 dans /usr/share/mozilla/extensions/{ec8030f7-c20a-464f-9b0e-13a3a9e97384} ; relancez ensuite Firefox.</translation>
+    </message>
+    <message id="extension_foreign_file">
+        <source></source>
+        <translation>Un autre programme a mis son propre fichier à la place du nôtre : %1. Il a été laissé tel quel.</translation>
+    </message>
+    <message id="extension_host_missing">
+        <source></source>
+        <translation>L’extension a besoin du programme norvin-focus-browser-host, qui n’est pas installé.</translation>
+    </message>
+    <message id="extension_install_button">
+        <source></source>
+        <translation>Installer l’extension</translation>
+    </message>
+    <message id="extension_load_unpacked">
+        <source></source>
+        <translation>Il reste une étape : ouvrez la page des extensions du navigateur, activez son mode développeur et chargez le dossier %1.</translation>
+    </message>
+    <message id="extension_not_removed">
+        <source></source>
+        <translation>L’extension n’a pas pu être retirée : %1</translation>
+    </message>
+    <message id="extension_not_written">
+        <source></source>
+        <translation>L’extension n’a pas pu être écrite : %1</translation>
+    </message>
+    <message id="extension_remove_button">
+        <source></source>
+        <translation>Retirer l’extension</translation>
+    </message>
+    <message id="extension_removed">
+        <source></source>
+        <translation>L’extension est retirée.</translation>
+    </message>
+    <message id="extension_restart_browser">
+        <source></source>
+        <translation>L’extension est en place. Fermez le navigateur, puis rouvrez-le.</translation>
+    </message>
+    <message id="health_accessibility_missing">
+        <source></source>
+        <translation>Ce bureau n’a pas de service d’accessibilité : les pages d’un navigateur ne peuvent pas être distinguées.</translation>
+    </message>
+    <message id="health_accessibility_missing_remedy">
+        <source></source>
+        <translation>Installez le paquet at-spi2-core, ou ajoutez l’extension à votre navigateur.</translation>
+    </message>
+    <message id="health_accessibility_off">
+        <source></source>
+        <translation>Norvin Focus ne voit pas quel site est devant vous dans vos navigateurs.</translation>
+    </message>
+    <message id="health_accessibility_off_remedy">
+        <source></source>
+        <translation>Il le peut dès que l’accessibilité du bureau est active : les programmes peuvent alors lire les fenêtres les uns des autres. Norvin Focus lit l’adresse de la page affichée, rien d’autre, et seulement pendant une session. Vous pourrez la désactiver dans « État du suivi ».</translation>
+    </message>
     <message id="health_all_good">
         <source></source>
         <translation>Tout fonctionne.</translation>
+    </message>
+    <message id="health_browser">
+        <source></source>
+        <translation>Pages de %1</translation>
     </message>
     <message id="health_browser_alert">
         <source></source>
         <translation>Alerte devant les sites bloqués</translation>
     </message>
+    <message id="health_browser_by_extension">
+        <source></source>
+        <translation>Pages de %1, par l’extension</translation>
+    </message>
+    <message id="health_browser_not_answering">
+        <source></source>
+        <translation>%1 ne répond pas.</translation>
+    </message>
+    <message id="health_browser_not_answering_remedy">
+        <source></source>
+        <translation>Il sera interrogé de nouveau dans un instant. Si cela dure, fermez %1 et rouvrez-le.</translation>
+    </message>
     <message id="health_browser_pages">
         <source></source>
         <translation>Distinguer les pages dans les navigateurs</translation>
     </message>
-    <message id="health_browser_pages_missing">
+    <message id="health_browser_restart">
         <source></source>
-        <translation>Les pages dans les navigateurs ne sont pas encore distinguées. Tout le temps passé dans un navigateur en liste blanche compte comme légitime.</translation>
+        <translation>%1 a été ouvert avant l’activation de l’accessibilité.</translation>
     </message>
-    <message id="health_browser_pages_missing_remedy">
+    <message id="health_browser_restart_remedy">
         <source></source>
-        <translation>Retirez un navigateur de la liste blanche si son temps doit compter comme distrait.</translation>
+        <translation>Fermez %1 une fois, puis rouvrez-le.</translation>
     </message>
     <message id="health_bus_name_taken">
         <source></source>
@@ -306,6 +390,26 @@
     <message id="health_check_again">
         <source></source>
         <translation>Vérifier à nouveau</translation>
+    </message>
+    <message id="health_extension_not_connected">
+        <source></source>
+        <translation>L’extension est installée, mais %1 ne s’est pas connecté.</translation>
+    </message>
+    <message id="health_extension_not_connected_remedy">
+        <source></source>
+        <translation>Fermez %1 et rouvrez-le, et vérifiez que l’extension y est activée.</translation>
+    </message>
+    <message id="health_extension_socket">
+        <source></source>
+        <translation>L’extension de vos navigateurs ne peut pas joindre Norvin Focus.</translation>
+    </message>
+    <message id="health_extension_socket_remedy">
+        <source></source>
+        <translation>Norvin Focus a besoin d’un répertoire d’exécution à vous (XDG_RUNTIME_DIR), que l’ouverture de session crée d’ordinaire.</translation>
+    </message>
+    <message id="health_extensions">
+        <source></source>
+        <translation>Connexion à l’extension des navigateurs</translation>
     </message>
     <message id="health_fails">
         <source></source>
@@ -624,6 +728,10 @@
         <source></source>
         <translation>Liste blanche</translation>
     </message>
+    <message id="lists_export_accept_button">
+        <source></source>
+        <translation>Enregistrer</translation>
+    </message>
     <message id="lists_export_button">
         <source></source>
         <translation>Exporter…</translation>
@@ -636,6 +744,10 @@
         <source></source>
         <translation>Listes de blocage</translation>
     </message>
+    <message id="lists_import_accept_button">
+        <source></source>
+        <translation>Ouvrir</translation>
+    </message>
     <message id="lists_import_button">
         <source></source>
         <translation>Importer…</translation>
@@ -643,14 +755,6 @@
     <message id="lists_import_title">
         <source></source>
         <translation>Importer des listes de blocage</translation>
-    </message>
-    <message id="lists_export_accept_button">
-        <source></source>
-        <translation>Enregistrer</translation>
-    </message>
-    <message id="lists_import_accept_button">
-        <source></source>
-        <translation>Ouvrir</translation>
     </message>
     <message id="next_step_label">
         <source></source>

@@ -5,6 +5,7 @@
 #include "distraction/BlockListSuggestions.h"
 #include "distraction/BlockListsScreen.h"
 #include "distraction/BrowserAlertModel.h"
+#include "distraction/BrowserHealth.h"
 #include "distraction/BrowserListModel.h"
 #include "distraction/SiteListModel.h"
 #include "distraction/TrackingHealthModel.h"
@@ -71,6 +72,13 @@ struct SiteListModelType {
     Q_GADGET
     QML_FOREIGN(norvin::SiteListModel)
     QML_NAMED_ELEMENT(SiteListModel)
+    QML_UNCREATABLE("Belongs to the block-list screen")
+};
+
+struct BrowserHealthType {
+    Q_GADGET
+    QML_FOREIGN(norvin::BrowserHealth)
+    QML_NAMED_ELEMENT(BrowserHealth)
     QML_UNCREATABLE("Belongs to the block-list screen")
 };
 

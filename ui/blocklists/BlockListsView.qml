@@ -45,6 +45,7 @@ Page {
 
     onEntered: {
         root.model.refresh();
+        root.model.browserHealth?.refreshBanner();
         if (root.model.offersSuggestions)
             root.pane = "suggestions";
         root.focusPane();
@@ -84,6 +85,18 @@ Page {
         }
 
         target: root.model
+    }
+
+    Banner {
+        objectName: "browserAccessBanner"
+        Layout.fillWidth: true
+        visible: root.model.browserHealth !== null && root.model.browserHealth.hasBanner
+        symbol: "globe"
+        text: root.model.browserHealth?.bannerText ?? ""
+        actionText: root.model.browserHealth?.bannerActionText ?? ""
+        isDismissible: true
+        onActionChosen: root.model.browserHealth.bannerAct()
+        onDismissed: root.model.browserHealth.declineBanner()
     }
 
     RowLayout {

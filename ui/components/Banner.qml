@@ -11,6 +11,12 @@ Rectangle {
     required property string text
     property string symbol: "exclamationmark.triangle"
     property color foreground: Theme.amber
+    /// Label of a button; none while empty.
+    property string actionText: ""
+    property bool isDismissible: false
+
+    signal actionChosen
+    signal dismissed
 
     implicitHeight: row.implicitHeight + 2 * Theme.gap3
     radius: Theme.radius
@@ -36,6 +42,19 @@ Rectangle {
             text: root.text
             wrapMode: Text.WordWrap
             Accessible.ignored: true
+        }
+
+        PushButton {
+            visible: root.actionText.length > 0
+            text: root.actionText
+            onClicked: root.actionChosen()
+        }
+
+        IconButton {
+            visible: root.isDismissible
+            symbol: "xmark"
+            text: qsTrId("notice_close_button")
+            onClicked: root.dismissed()
         }
     }
 }

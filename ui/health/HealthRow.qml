@@ -13,7 +13,10 @@ Card {
     required property string reason
     required property string remedy
     required property string detail
+    required property list<string> actions
     required property bool hasKeyboard
+
+    signal actionChosen(action: int)
 
     implicitHeight: Math.max(row.implicitHeight + 2 * Theme.gap3, 52)
     radius: Theme.radius
@@ -71,6 +74,19 @@ Card {
                 color: Theme.textFaint
                 font.pixelSize: Theme.caption
                 wrapMode: Text.WrapAnywhere
+            }
+        }
+
+        Repeater {
+            model: root.actions
+
+            PushButton {
+                required property string modelData
+                required property int index
+
+                Layout.alignment: root.isAvailable ? Qt.AlignVCenter : Qt.AlignTop
+                text: modelData
+                onClicked: root.actionChosen(index)
             }
         }
 

@@ -55,6 +55,18 @@ Page {
         }
     }
 
+    Banner {
+        objectName: "healthNotice"
+        Layout.fillWidth: true
+        visible: root.model.notice.length > 0
+        symbol: "globe"
+        foreground: Theme.accentText
+        color: Theme.accentSurface
+        text: root.model.notice
+        isDismissible: true
+        onDismissed: root.model.dismissNotice()
+    }
+
     ListView {
         id: list
 
@@ -74,8 +86,11 @@ Page {
         T.ScrollBar.vertical: ScrollBarThin {}
 
         delegate: HealthRow {
+            required property int index
+
             width: list.width - Theme.gap3
             hasKeyboard: list.activeFocus
+            onActionChosen: action => root.model.act(index, action)
         }
     }
 }
