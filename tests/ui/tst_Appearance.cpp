@@ -102,8 +102,12 @@ void AppearanceTest::bringAbout(const QString& scene) {
              .contains(scene))
         return;
     rig->deepWork.start();
-    if (scene == QLatin1String("started"))
+    if (scene == QLatin1String("started")) {
+        rig->coach.addMessage({.text = qtTrId("coach_distraction_3").arg(QStringLiteral("Archive Manager")),
+                               .timestamp = focus.clock.now()});
+        QTRY_VERIFY(rig->item("coachMessage") && rig->item("coachMessage")->isVisible());
         return;
+    }
     focus.pass(std::chrono::seconds(75));
     focus.workspace.setFrontmost(focus.game);
     focus.idle.setTimeSinceLastInput(std::chrono::minutes(5));

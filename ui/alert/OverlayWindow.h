@@ -10,6 +10,7 @@ namespace norvin {
 /// nothing of. Main thread only.
 ///
 /// Where nothing shows through it (isBlended false), it is cut down to its card and a frame along its edge.
+/// (Not final: QML derives from what it makes.)
 class OverlayWindow : public QQuickWindow {
     Q_OBJECT
     QML_ELEMENT
