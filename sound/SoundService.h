@@ -7,7 +7,14 @@ namespace norvin {
 class SystemSounds;
 
 /// The one-shot sounds of the program, each a named sound of the desktop.
-enum class SoundEffect { ping, blow, bottle, pop, glass, submarine };
+enum class SoundEffect {
+    ping,      ///< something begins: a phase starts or goes on, or the rearming is over and work is next
+    blow,      ///< a pause
+    bottle,    ///< a stop
+    pop,       ///< a task was added
+    glass,     ///< the work is done
+    submarine, ///< the break is over; the longest, for somebody who has left the desk
+};
 
 /// Plays one-shot sounds; returns before they are heard. Main thread only.
 class SoundService final {

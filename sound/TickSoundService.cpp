@@ -4,6 +4,7 @@
 #include "platform/Preferences.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <numbers>
 
@@ -37,6 +38,21 @@ constexpr Character characterOf(TickSoundType type) {
         return {.tickFrequency = 1450, .tockFrequency = 1100, .frames = 1543, .decay = 30};
     }
     return {};
+}
+
+// By frame. The same for every tick of a character, and as dear as its wave: made once.
+const std::vector<double>& envelopeOf(TickSoundType type) {
+    static std::array<std::vector<double>, allTickSoundTypes.size()> envelopes;
+    std::vector<double>& envelope = envelopes[static_cast<size_t>(type)];
+    if (envelope.empty()) {
+        const Character character = characterOf(type);
+        for (int i = 0; i < attackFrames; ++i)
+            envelope.push_back(static_cast<double>(static_cast<float>(i) / static_cast<float>(attackFrames)));
+        for (int i = attackFrames; i < character.frames; ++i)
+            envelope.push_back(
+                std::exp(-character.decay * (i - attackFrames) / (character.frames - attackFrames)));
+    }
+    return envelope;
 }
 
 double clampedVolume(double volume) {
@@ -119,14 +135,11 @@ std::vector<float> TickSoundService::generateBuffer(TickSoundType type, bool isO
     const double angularFrequency =
         2.0 * std::numbers::pi * (isOdd ? character.tickFrequency : character.tockFrequency);
     const auto volume = static_cast<float>(m_volume);
-    std::vector<float> samples(static_cast<size_t>(character.frames));
-    for (int i = 0; i < character.frames; ++i) {
-        const double envelope =
-            i < attackFrames
-                ? static_cast<float>(i) / static_cast<float>(attackFrames)
-                : std::exp(-character.decay * (i - attackFrames) / (character.frames - attackFrames));
-        const double wave = std::sin(angularFrequency * (i / sampleRate));
-        samples[static_cast<size_t>(i)] = static_cast<float>(wave * envelope * volume);
+    const std::vector<double>& envelope = envelopeOf(type);
+    std::vector<float> samples(envelope.size());
+    for (size_t i = 0; i < samples.size(); ++i) {
+        const double wave = std::sin(angularFrequency * (static_cast<double>(i) / sampleRate));
+        samples[i] = static_cast<float>(wave * envelope[i] * volume);
     }
     return samples;
 }
