@@ -8,7 +8,7 @@ const api = globalThis.browser ?? globalThis.chrome;
 
 const HOST = "com.norvin.focus";
 const FIRST_RETRY = 5_000; // ms
-const LONGEST_RETRY = 300_000; // ms
+const LONGEST_RETRY = 60_000; // ms
 const CLOSING_TIME = 250; // ms that a tab may take to go once it was told to
 
 // The host and the application accept no other names. An IPv6 literal is none, so such a page has no domain.
@@ -16,7 +16,6 @@ const DOMAIN = /^[a-z0-9._-]{1,253}$/;
 
 let port = null;
 let retryDelay = FIRST_RETRY;
-let retryTimer = null;
 let lastReport = null;
 let isReporting = false;
 let isReportDue = false;
@@ -137,8 +136,6 @@ async function answer(request) {
 // The native host, which waits for the application by itself
 
 function connect() {
-    clearTimeout(retryTimer);
-    retryTimer = null;
     const connectedAt = Date.now();
     port = api.runtime.connectNative(HOST);
     port.onMessage.addListener(answer);
@@ -148,9 +145,11 @@ function connect() {
         port = null;
         lastReport = null;
         // A host that was there and went comes back soon; one that is not installed is asked for ever less.
-        const hadWorked = Date.now() - connectedAt > FIRST_RETRY;
-        retryDelay = hadWorked ? FIRST_RETRY : Math.min(retryDelay * 2, LONGEST_RETRY);
-        retryTimer = setTimeout(connect, hadWorked ? FIRST_RETRY : retryDelay / 2);
+        if (Date.now() - connectedAt > FIRST_RETRY) {
+            retryDelay = FIRST_RETRY;
+        }
+        setTimeout(connect, retryDelay);
+        retryDelay = Math.min(retryDelay * 2, LONGEST_RETRY);
     });
     report();
 }

@@ -34,7 +34,8 @@ struct ExtensionPlaces {
 
 /// Puts the extension and its native host into a user's browsers, and takes them out again. Only to be called
 /// at the user's explicit wish. Writes nothing but what remove() removes, and replaces no file of the native
-/// host's name that names another program than ours. Main thread only.
+/// host's name that names another program than ours. Browsers from Flatpak and Snap keep their configuration
+/// elsewhere, and are not served. Main thread only.
 class ExtensionInstaller final {
 public:
     explicit ExtensionInstaller(ExtensionPlaces places = ExtensionPlaces::standard());

@@ -1,5 +1,6 @@
 """Browsers that the extension is installed in, and the application's end towards it."""
 
+import glob
 import json
 import os
 import shutil
@@ -63,12 +64,22 @@ class ExtensionEnd:
 
     def hosts(self, browser):
         """Process ids of the native hosts that a browser has started."""
-        output = self.desktop.run("pgrep", "-P", str(browser.pid), "-f", "norvin-focus-browser-host")
-        return [int(line) for line in output.split()]
+        hosts = []
+        for path in glob.glob(f"/proc/{browser.pid}/task/*/children"):
+            with open(path, encoding="ascii") as children:
+                hosts += [int(child) for child in children.read().split() if _is_host(child)]
+        return hosts
 
     def kill_host(self, browser):
         [host] = self.hosts(browser)
         os.kill(host, signal.SIGKILL)
+
+
+def _is_host(process):
+    try:
+        return os.path.basename(os.readlink(f"/proc/{process}/exe")) == "norvin-focus-browser-host"
+    except FileNotFoundError:
+        return False
 
 
 class FirefoxWithExtension(Firefox):
