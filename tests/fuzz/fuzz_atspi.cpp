@@ -60,16 +60,68 @@ public:
 
 private:
     AtspiReply reply(const AtspiCall& call) {
-        // The bus itself knows whose process is whose.
+        // Mostly a browser as it should be, so that what follows on its answers is reached. The bus itself
+        // knows whose process is whose.
         const bool isOfBus = call.target.service == QStringLiteral("org.freedesktop.DBus");
-        const auto kind = m_data.ConsumeIntegralInRange<int>(isOfBus ? 8 : 0, 31);
-        if (kind < 3)
-            return {.status = static_cast<AtspiReply::Status>(kind + 1)};
+        const auto kind = m_data.ConsumeIntegralInRange<int>(0, isOfBus ? 0 : 255);
+        if (kind > 252)
+            return {.status = static_cast<AtspiReply::Status>(kind - 252)};
         AtspiReply answer{.status = AtspiReply::Status::answered};
-        if (kind == 3)
+        if (kind == 252)
             return answer;
-        answer.values.append(kind < 8 ? anything(0) : expected(call));
+        answer.values.append(kind > 248 ? anything(0) : kind > 236 ? expected(call) : proper(call));
         return answer;
+    }
+
+    static QVariant list(std::initializer_list<const char*> paths) {
+        QVariantList references;
+        for (const char* path : paths)
+            references.append(QVariant(QVariantList{browser, QString::fromLatin1(path)}));
+        return references;
+    }
+
+    // A window with a page, an address bar and two tabs.
+    QVariant proper(const AtspiCall& call) {
+        const QString& path = call.target.path;
+        if (call.member == QLatin1String("GetChildren")) {
+            if (path == QStringLiteral("/w"))
+                return list({"/bar", "/tabs", "/page"});
+            if (path == QStringLiteral("/tabs"))
+                return list({"/tab", "/tab-behind"});
+            if (path == QStringLiteral("/tab"))
+                return list({"/close"});
+            if (path == QStringLiteral("/bar"))
+                return list({"/field"});
+            return path.endsWith(QStringLiteral("/root")) ? list({"/w"}) : list({});
+        }
+        if (call.member == QLatin1String("GetRelationSet"))
+            return QVariantList{QVariant(QVariantList{13U, list({"/page"})})};
+        if (call.member == QLatin1String("GetState")) {
+            quint64 states = AtspiState::showing;
+            if (path == QStringLiteral("/tab"))
+                states |= AtspiState::selected;
+            if (path == QStringLiteral("/field"))
+                states |= AtspiState::editable;
+            return QVariantList{static_cast<quint32>(states), 0U};
+        }
+        if (call.member == QLatin1String("GetRole"))
+            return path == QStringLiteral("/w")       ? AtspiRole::frame
+                   : path == QStringLiteral("/tabs")  ? AtspiRole::pageTabList
+                   : path == QStringLiteral("/page")  ? AtspiRole::documentWeb
+                   : path == QStringLiteral("/close") ? AtspiRole::pushButton
+                   : path == QStringLiteral("/bar")   ? AtspiRole::toolBar
+                   : path == QStringLiteral("/field") ? AtspiRole::entry
+                                                      : AtspiRole::pageTab;
+        if (call.member == QLatin1String("GetAttributes"))
+            return QVariantMap{{QStringLiteral("class"), QStringLiteral("tab-close-button")}};
+        if (call.member == QLatin1String("GetAttributeValue"))
+            return QStringLiteral("http://example.org/");
+        if (call.member == QLatin1String("Get"))
+            return path == QStringLiteral("/page") ? QStringLiteral("Page")
+                                                   : QStringLiteral("Page - Browser");
+        if (call.member == QLatin1String("DoAction"))
+            return true;
+        return expected(call);
     }
 
     QString text() {
@@ -90,7 +142,9 @@ private:
     }
 
     QVariant reference() {
-        const QString path = QStringLiteral("/%1").arg(m_data.ConsumeIntegralInRange<int>(0, 40));
+        constexpr const char* paths[] = {"/w",     "/tabs", "/tab",  "/tab-behind",
+                                         "/close", "/bar",  "/page", "/gone"};
+        const QString path = QString::fromLatin1(m_data.PickValueInArray(paths));
         return QVariantList{m_data.ConsumeIntegralInRange<int>(0, 7) == 0 ? text() : browser, path};
     }
 
