@@ -18,7 +18,7 @@ OverlayWindow {
 
     Rectangle {
         anchors.fill: parent
-        radius: root.isBlended ? root.cardRadius : 0
+        radius: root.cardRadius
         color: area.containsMouse ? Theme.surfaceRaised : Theme.surface
         border.width: 1
         border.color: Theme.accent

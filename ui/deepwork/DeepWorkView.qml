@@ -258,6 +258,12 @@ FocusScope {
                         screen: root.screen
                         session: session
                     }
+
+                    // Keeps what is centred in the middle while nothing else is as wide as the page.
+                    Item {
+                        Layout.fillWidth: true
+                        Layout.topMargin: -Theme.gap5
+                    }
                 }
             }
         }
@@ -284,7 +290,8 @@ FocusScope {
 
         objectName: "coachPlace"
         x: Math.round((page.width - width) / 2)
-        y: Theme.gap4
+        // Instead of the heading, where there is one, rather than over half of it.
+        y: heading.visible ? Math.max(Theme.gap2, Math.round(column.y + heading.y + (heading.height - height) / 2 - page.contentY)) : Theme.gap4
         width: column.width
         onWantedChanged: {
             if (!coachLoader.item)
