@@ -8,7 +8,10 @@ from support.extension import ChromiumWithExtension, ExtensionEnd, FirefoxWithEx
 from support.pages import ASKS_BEFORE_LEAVING, Pages
 from support.processes import wait_until
 
-GOES_TO_THE_GAME = 'addEventListener("keydown", event => { if (event.key === "g") location = "http://play.games.example/"; });'
+GOES_TO_THE_GAME = """addEventListener("keydown", event => {
+    if (event.key === "g")
+        location = "http://play.games.example/";
+});"""
 
 
 class ExtensionTestCase:
