@@ -217,6 +217,7 @@ void MainWindowTest::theScoreIsExplainedOnDemand() {
 }
 
 void MainWindowTest::anApplicationIsPutOnAListByKeyboard() {
+    rig->blockLists.dismissSuggestions();
     rig->showPage(1);
     QTRY_COMPARE(focusName(), QStringLiteral("applicationSearch"));
     rig->type(QStringLiteral("gam"));

@@ -25,10 +25,11 @@ Item {
         palette.window = Theme.surfaceRaised;
         palette.base = Theme.surface;
         palette.alternateBase = Theme.surfaceRaised;
-        palette.button = Theme.surfacePressed;
+        // Its path stands on white whatever the palette says, in the ink of buttons.
+        palette.button = Theme.text;
         palette.windowText = Theme.text;
         palette.text = Theme.text;
-        palette.buttonText = Theme.text;
+        palette.buttonText = Theme.background;
         palette.placeholderText = Theme.textFaint;
         palette.highlight = Theme.accent;
         palette.highlightedText = Theme.accentInk;
