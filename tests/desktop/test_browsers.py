@@ -4,11 +4,11 @@ import unittest
 
 from support.application import DesktopTestCase
 from support.browsers import Accessibility, Chromium, Firefox
+from support.extension import ChromiumWithExtension, ExtensionEnd, FirefoxWithExtension
 from support.pages import Pages
 from support.processes import wait_until
 
-IDENTIFIERS = {Firefox: "org.mozilla.firefox", Chromium: "com.google.Chrome"}
-ALERT = "^Norvin Focus alert"
+IDENTIFIERS = {"firefox": "org.mozilla.firefox", "chromium": "com.google.Chrome"}
 
 
 class BrowserTestCase(DesktopTestCase):
@@ -26,12 +26,17 @@ class BrowserTestCase(DesktopTestCase):
     def start_browser(self, kind, url, title):
         browser = kind(self.desktop, self.pages)
         self.addCleanup(browser.close)
+        self.prepare(browser)
         return browser.start(url, title=title)
 
+    def prepare(self, browser):
+        """What is done to a browser before it starts."""
+
     def start_session(self, kind):
+        identifier = IDENTIFIERS[kind.name]
         self.app.launch("--hidden")
-        self.app.do("allow", "--app", IDENTIFIERS[kind])
-        self.app.do("block", "--site", "games.example", "--browser", IDENTIFIERS[kind])
+        self.app.do("allow", "--app", identifier)
+        self.app.do("block", "--site", "games.example", "--browser", identifier)
         self.app.do("start")
 
     def wait_for_domain(self, domain):
@@ -44,7 +49,7 @@ class BrowserTestCase(DesktopTestCase):
         return self.app.command("doctor")[1]
 
     def alert_is_shown(self):
-        return bool(self.desktop.visible_windows("--name", ALERT))
+        return bool(self.app.overlays())
 
     def open_unwaited(self, browser, url, how=None):
         """Opens a page that may be closed before anybody sees it."""
@@ -136,6 +141,30 @@ class ByAccessibility(BrowserTestCase):
         self.assertIn("does not answer", self.report())
         browser.resume()
         self.app.wait_for(lambda s: s["activity"]["domain"] == "work.example", "it is asked again", 90)
+
+
+class ByExtension(BrowserTestCase):
+    """There are no accessibility services; the extension is installed as the health screen does it."""
+
+    def prepare(self, browser):
+        end = ExtensionEnd(self.desktop)
+        self.end = end
+        browser.install(end)
+        end.stop()
+
+    def outlive_the_host(self, browser):
+        """The connection breaks, and comes back by itself."""
+        self.end.kill_host(browser)
+        self.wait_for_domain(None)
+        self.wait_for_domain("work.example" if browser.is_in_front("Work page") else "news.example")
+        self.app.do("stop")
+        self.assert_seconds_add_up()
+
+    def test_firefox_keeps_all_tabs_but_the_blocked_one(self):
+        self.outlive_the_host(self.work_and_play(FirefoxWithExtension))
+
+    def test_chromium_keeps_all_tabs_but_the_blocked_one(self):
+        self.outlive_the_host(self.work_and_play(ChromiumWithExtension))
 
 
 class Consent(BrowserTestCase):
