@@ -95,7 +95,7 @@ public:
     /// Name of the toolkit that a program's windows are made with; empty when it does not say.
     [[nodiscard]] QString toolkit(const AtspiReference& application);
     /// Address of a document; empty where it gives none.
-    [[nodiscard]] QString documentUrl(const AtspiReference& document);
+    [[nodiscard]] QString documentUrl(const AtspiReference& object);
     /// The text that an input field holds.
     [[nodiscard]] QString text(const AtspiReference& object);
     /// Does what a click on the object does.

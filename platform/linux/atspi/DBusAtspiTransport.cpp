@@ -24,16 +24,19 @@ QVariant plain(const QVariant& value, int depth, int& count);
 
 QVariant plainArgument(const QDBusArgument& argument, int depth, int& count) {
     QVariantList list;
+    // What was begun is ended also where not all of it was taken: its memory goes with that only.
     switch (argument.currentType()) {
     case QDBusArgument::ArrayType:
         argument.beginArray();
         while (!argument.atEnd() && count < mostValues)
             list.append(plain(argument.asVariant(), depth, count));
+        argument.endArray();
         return list;
     case QDBusArgument::StructureType:
         argument.beginStructure();
         while (!argument.atEnd() && count < mostValues)
             list.append(plain(argument.asVariant(), depth, count));
+        argument.endStructure();
         return list;
     case QDBusArgument::MapType: {
         QVariantMap map;
@@ -44,6 +47,7 @@ QVariant plainArgument(const QDBusArgument& argument, int depth, int& count) {
             map.insert(key, plain(argument.asVariant(), depth, count));
             argument.endMapEntry();
         }
+        argument.endMap();
         return map;
     }
     default:
