@@ -50,10 +50,11 @@ QString menuBarIconName(TimerState state, PomodoroPhase phase) {
     return {};
 }
 
-QList<TrackingHealthModel::Check> platformHealthChecks(LinuxPlatform& platform) {
+QList<TrackingHealthModel::Check> platformHealthChecks(LinuxPlatform& platform, BrowserHealth& browsers) {
     return {
         {QStringLiteral("health_frontmost_application"),
          [&platform] { return platform.workspace().availability(); }},
+        browsers.accessCheck(),
         {QStringLiteral("health_hiding"), [&platform] { return platform.workspace().availability(); }},
         {QStringLiteral("health_idle_time"), [&platform] { return platform.idleTime().availability(); }},
         {QStringLiteral("health_sleep"), [&platform] { return platform.sleepMonitor().availability(); }},
@@ -114,8 +115,7 @@ NorvinFocusApp::NorvinFocusApp(LinuxPlatform& platform, std::unique_ptr<ModelCon
     , m_storeAvailability(Availability::available())
     , m_extensionAvailability(Availability::available())
     , m_browserHealth(platform.browserAccess(), AppBlockerService::shared(), platform.preferences())
-    , m_health(platformHealthChecks(platform)
-               << m_browserHealth.accessCheck()
+    , m_health(platformHealthChecks(platform, m_browserHealth)
                << TrackingHealthModel::Check{QStringLiteral("health_session_bus"),
                                              [this] { return m_busAvailability; }}
                << TrackingHealthModel::Check{QStringLiteral("health_store"),
@@ -152,7 +152,7 @@ bool NorvinFocusApp::launch() {
     m_extensionAvailability = m_platform.listenToExtensions();
     m_health.refresh();
     // Not asked at the start, which has no time for other programs.
-    m_health.setPassingChecks([this] { return passingHealthChecks(); });
+    m_health.setPassingChecks(browserHealthRow, [this] { return passingHealthChecks(); });
     connect(&m_userInterface, &UserInterface::quitRequested, this, &NorvinFocusApp::quit);
     connect(qApp, &QCoreApplication::aboutToQuit, &AppUsageService::shared(),
             &AppUsageService::applicationWillTerminate);

@@ -94,8 +94,10 @@ private:
 /// Name of the symbol for a state and phase of the timer.
 [[nodiscard]] QString menuBarIconName(TimerState state, PomodoroPhase phase);
 
-/// The checks of the tracking-health panel that need nothing but the platform. @param platform must outlive
-/// them
-[[nodiscard]] QList<TrackingHealthModel::Check> platformHealthChecks(LinuxPlatform& platform);
+/// The checks of the tracking-health panel that need nothing but the platform and its browsers, which must
+/// outlive them. The checks of the browsers that run belong at browserHealthRow.
+[[nodiscard]] QList<TrackingHealthModel::Check> platformHealthChecks(LinuxPlatform& platform,
+                                                                     BrowserHealth& browsers);
+inline constexpr int browserHealthRow = 2;
 
 } // namespace norvin

@@ -79,16 +79,17 @@ int runOwnDoctor() {
     QTimer::singleShot(patience, qApp, &QCoreApplication::quit);
     QCoreApplication::exec();
 
-    QList<TrackingHealthModel::Check> checks = platformHealthChecks(platform);
     AppBlockerService blocker(platform.preferences(), platform.workspace(), platform.sounds());
     BrowserHealth browsers(platform.browserAccess(), blocker, platform.preferences());
-    checks << browsers.accessCheck() << browsers.browserChecks();
+    QList<TrackingHealthModel::Check> checks = platformHealthChecks(platform, browsers);
     const bool hasBus = sessionBus().isConnected();
     checks.append({QStringLiteral("health_session_bus"), [hasBus] {
                        return hasBus ? Availability::available()
                                      : Availability::unavailable(QStringLiteral("health_no_session_bus"));
                    }});
-    const TrackingHealthModel health(checks);
+    TrackingHealthModel health(checks);
+    health.setPassingChecks(browserHealthRow, [&browsers] { return browsers.browserChecks(); });
+    health.refresh();
     print(stdout, QStringLiteral("Norvin Focus is not running; this is what it would find.\n") +
                       healthText(healthReport(health), &textForKey));
     return toInt(health.problemCount() == 0 ? ExitCode::done : ExitCode::refused);

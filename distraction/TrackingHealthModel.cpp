@@ -36,8 +36,7 @@ QStringList labelKeys(const QList<TrackingHealthModel::Action>& actions) {
 } // namespace
 
 TrackingHealthModel::TrackingHealthModel(QList<Check> checks, QObject* parent)
-    : QAbstractListModel(parent)
-    , m_steadyCount(checks.size()) {
+    : QAbstractListModel(parent) {
     for (Check& check : checks)
         m_rows.append({std::move(check), Availability::available(), {}});
     refresh();
@@ -45,7 +44,8 @@ TrackingHealthModel::TrackingHealthModel(QList<Check> checks, QObject* parent)
 
 TrackingHealthModel::~TrackingHealthModel() = default;
 
-void TrackingHealthModel::setPassingChecks(std::function<QList<Check>()> passingChecks) {
+void TrackingHealthModel::setPassingChecks(int row, std::function<QList<Check>()> passingChecks) {
+    m_passingRow = row;
     m_passingChecks = std::move(passingChecks);
 }
 
@@ -88,20 +88,22 @@ QString TrackingHealthModel::notice() const {
 
 void TrackingHealthModel::replacePassingChecks() {
     QList<Check> checks = m_passingChecks ? m_passingChecks() : QList<Check>();
-    const bool isSame = std::equal(checks.cbegin(), checks.cend(), m_rows.cbegin() + m_steadyCount,
-                                   m_rows.cend(), [](const Check& check, const Row& row) {
+    const auto passing = m_rows.begin() + m_passingRow;
+    const bool isSame = std::equal(checks.cbegin(), checks.cend(), passing, passing + m_passingCount,
+                                   [](const Check& check, const Row& row) {
                                        return check.capabilityKey == row.check.capabilityKey &&
                                               check.subject == row.check.subject;
                                    });
     if (isSame) {
         for (qsizetype i = 0; i < checks.size(); ++i)
-            m_rows[m_steadyCount + i].check = std::move(checks[i]);
+            passing[i].check = std::move(checks[i]);
         return;
     }
     beginResetModel();
-    m_rows.resize(m_steadyCount);
-    for (Check& check : checks)
-        m_rows.append({std::move(check), Availability::available(), {}});
+    m_rows.remove(m_passingRow, m_passingCount);
+    m_passingCount = checks.size();
+    for (qsizetype i = 0; i < m_passingCount; ++i)
+        m_rows.insert(m_passingRow + i, {std::move(checks[i]), Availability::available(), {}});
     endResetModel();
 }
 

@@ -52,9 +52,9 @@ public:
     explicit TrackingHealthModel(QList<Check> checks, QObject* parent = nullptr);
     ~TrackingHealthModel() override;
 
-    /// Checks that come and go with what runs on the desktop; they follow the others from the next refresh()
-    /// on.
-    void setPassingChecks(std::function<QList<Check>()> passingChecks);
+    /// Checks that come and go with what runs on the desktop; from the next refresh() on they stand at that
+    /// row, among the others. To be called once. @param row 0 to the number of the others
+    void setPassingChecks(int row, std::function<QList<Check>()> passingChecks);
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
@@ -90,8 +90,9 @@ private:
     void replacePassingChecks();
     void setNotice(Notice notice);
 
-    const qsizetype m_steadyCount;
     QList<Row> m_rows;
+    qsizetype m_passingRow = 0;
+    qsizetype m_passingCount = 0;
     std::function<QList<Check>()> m_passingChecks;
     int m_problemCount = 0;
     Notice m_notice;

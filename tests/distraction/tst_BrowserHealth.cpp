@@ -36,7 +36,7 @@ BrowserAccess::Browser browser(const QString& identifier, const QString& name,
 
 struct Rig {
     Rig() {
-        model.setPassingChecks([this] { return health.browserChecks(); });
+        model.setPassingChecks(1, [this] { return health.browserChecks(); });
         model.refresh();
     }
     [[nodiscard]] QStringList actions(int row) const {
