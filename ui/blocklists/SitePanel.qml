@@ -80,6 +80,8 @@ Card {
             }
 
             ThemedText {
+                Layout.preferredWidth: 48
+                horizontalAlignment: Text.AlignRight
                 text: root.model.total > 0 ? root.model.total : ""
                 color: Theme.textMuted
                 Accessible.name: qsTrId("sites_count", root.model.total)

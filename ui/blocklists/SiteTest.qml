@@ -53,42 +53,46 @@ Card {
             Keys.onEscapePressed: root.screen.testText = ""
         }
 
-        RowLayout {
-            spacing: Theme.gap2
+        Item {
+            Layout.fillWidth: true
+            // Two lines, so that nothing moves while one types.
+            implicitHeight: Math.max(40, reason.implicitHeight)
             Accessible.role: Accessible.StaticText
             Accessible.name: reason.text
 
-            // Two lines, so that nothing moves while one types.
-            Item {
-                implicitHeight: 40
-            }
+            Row {
+                id: verdict
 
-            Symbol {
-                Layout.alignment: Qt.AlignVCenter
+                anchors.verticalCenter: parent.verticalCenter
+                spacing: Theme.gap2
                 visible: root.outcome.length > 0
-                name: root.symbol()
-                color: root.wordColor()
-            }
 
-            ThemedText {
-                objectName: "testOutcome"
-                visible: root.outcome.length > 0 && root.outcome !== "unreadable"
-                text: root.word()
-                color: root.wordColor()
-                font.weight: Font.DemiBold
+                Symbol {
+                    name: root.symbol()
+                    color: root.wordColor()
+                }
+
+                ThemedText {
+                    objectName: "testOutcome"
+                    height: 20
+                    visible: root.outcome !== "unreadable"
+                    verticalAlignment: Text.AlignVCenter
+                    text: root.word()
+                    color: root.wordColor()
+                    font.weight: Font.DemiBold
+                }
             }
 
             ThemedText {
                 id: reason
 
                 objectName: "testReason"
-                Layout.fillWidth: true
-                Layout.leftMargin: root.outcome.length > 0 ? Theme.gap1 : 0
+                x: verdict.visible ? verdict.width + Theme.gap3 : 0
+                width: parent.width - x
+                anchors.verticalCenter: parent.verticalCenter
                 text: root.outcome.length > 0 ? root.screen.testReason : qsTrId("site_test_hint")
                 color: root.outcome.length > 0 ? Theme.text : Theme.textFaint
                 wrapMode: Text.Wrap
-                maximumLineCount: 3
-                elide: Text.ElideRight
             }
         }
     }
