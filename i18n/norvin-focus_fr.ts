@@ -289,11 +289,11 @@
     </message>
     <message id="extension_firefox_system">
         <source></source>
-        <translation>Il reste une étape : Firefox n’accepte cette extension que depuis un dossier du système. Un administrateur copie %1 dans /usr/share/mozilla/extensions/{ec8030f7-c20a-464f-9b0e-13a3a9e97384} ; relancez ensuite Firefox.</translation>
+        <translation>Il reste une étape : Firefox n’accepte cette extension que depuis un dossier du système. Un administrateur copie %1 dans /usr/share/mozilla/extensions/{ec8030f7-c20a-464f-9b0e-13a3a9e97384} ; relancez ensuite Firefox.</translation>
     </message>
     <message id="extension_foreign_file">
         <source></source>
-        <translation>Un autre programme a mis son propre fichier à la place du nôtre : %1. Il a été laissé tel quel.</translation>
+        <translation>Un autre programme a mis son propre fichier à la place du nôtre : %1. Il a été laissé tel quel.</translation>
     </message>
     <message id="extension_host_missing">
         <source></source>
@@ -305,15 +305,15 @@
     </message>
     <message id="extension_load_unpacked">
         <source></source>
-        <translation>Il reste une étape : ouvrez la page des extensions du navigateur, activez son mode développeur et chargez le dossier %1.</translation>
+        <translation>Il reste une étape : ouvrez la page des extensions du navigateur, activez son mode développeur et chargez le dossier %1.</translation>
     </message>
     <message id="extension_not_removed">
         <source></source>
-        <translation>L’extension n’a pas pu être retirée : %1</translation>
+        <translation>L’extension n’a pas pu être retirée : %1</translation>
     </message>
     <message id="extension_not_written">
         <source></source>
-        <translation>L’extension n’a pas pu être écrite : %1</translation>
+        <translation>L’extension n’a pas pu être écrite : %1</translation>
     </message>
     <message id="extension_remove_button">
         <source></source>
@@ -329,7 +329,7 @@
     </message>
     <message id="health_accessibility_missing">
         <source></source>
-        <translation>Ce bureau n’a pas de service d’accessibilité : les pages d’un navigateur ne peuvent pas être distinguées.</translation>
+        <translation>Ce bureau n’a pas de service d’accessibilité : les pages d’un navigateur ne peuvent pas être distinguées.</translation>
     </message>
     <message id="health_accessibility_missing_remedy">
         <source></source>
@@ -341,7 +341,7 @@
     </message>
     <message id="health_accessibility_off_remedy">
         <source></source>
-        <translation>Il le peut dès que l’accessibilité du bureau est active : les programmes peuvent alors lire les fenêtres les uns des autres. Norvin Focus lit l’adresse de la page affichée, rien d’autre, et seulement pendant une session. Vous pourrez la désactiver dans « État du suivi ».</translation>
+        <translation>Il le peut dès que l’accessibilité du bureau est active : les programmes peuvent alors lire les fenêtres les uns des autres. Norvin Focus lit l’adresse de la page affichée, rien d’autre, et seulement pendant une session. Vous pourrez la désactiver dans « État du suivi ».</translation>
     </message>
     <message id="health_all_good">
         <source></source>
