@@ -52,6 +52,7 @@ AppUsageService::~AppUsageService() = default;
 void AppUsageService::startTracking() {
     logLine(QStringLiteral("AppUsageService: Starting tracking for Deep Work session"));
     // What is still open belongs to the session before.
+    endEnforcement();
     closeBrowserDomainSession();
     stopBrowserURLPolling();
     closeCurrentSession();
