@@ -11,8 +11,8 @@
 namespace norvin {
 
 /// Whether the pages of the browsers that run here can be told apart, and what opens the ways to them.
-/// Nothing is opened but by the set and install functions, which are for the user's own decision. Main thread
-/// only.
+/// Nothing is opened but by the set and install functions, which are for the user's own decision, as is
+/// restart(). Main thread only.
 class BrowserAccess : public QObject {
     Q_OBJECT
 public:
@@ -54,8 +54,17 @@ public:
     /// Takes back what installExtension() has written, and nothing else.
     [[nodiscard]] virtual ExtensionStep removeExtension(const QString& bundleIdentifier) = 0;
 
+    /// Asks that browser to end as a logout would, and opens it again the way it was started, without the
+    /// pages it was given then. Returns at once; restartEnded() follows. A browser that has not ended after
+    /// 20 s is left as it is.
+    virtual void restart(const QString& bundleIdentifier) = 0;
+
 Q_SIGNALS:
     void changed();
+    /// What came of restart(), after changed(). @param textKey localisation key of why it was not opened
+    /// again
+    /// (%1 stands for the browser); empty where it was
+    void restartEnded(const QString& bundleIdentifier, const QString& textKey);
 };
 
 } // namespace norvin

@@ -3,6 +3,7 @@
 #include "platform/BrowserAccess.h"
 
 #include <QSet>
+#include <QStringList>
 
 namespace norvin {
 
@@ -37,6 +38,8 @@ public:
         return {true, QStringLiteral("extension_removed"), {}};
     }
 
+    void restart(const QString& bundleIdentifier) override { m_restarting.append(bundleIdentifier); }
+
     void setBrowsers(const QList<Browser>& browsers) {
         m_browsers = browsers;
         Q_EMIT changed();
@@ -46,12 +49,15 @@ public:
         Q_EMIT changed();
     }
     void setInstallable(const QSet<QString>& bundleIdentifiers) { m_installable = bundleIdentifiers; }
+    /// The browsers whose restart was asked for, oldest first.
+    [[nodiscard]] const QStringList& restarting() const { return m_restarting; }
 
 private:
     QList<Browser> m_browsers;
     Availability m_accessibility = Availability::unavailable(QStringLiteral("health_accessibility_off"));
     QSet<QString> m_installable;
     QSet<QString> m_installed;
+    QStringList m_restarting;
 };
 
 } // namespace norvin

@@ -7,6 +7,7 @@
 #include "platform/linux/atspi/AtspiBrowsers.h"
 #include "platform/linux/atspi/AtspiTrust.h"
 #include "platform/linux/browsers/AtspiRoute.h"
+#include "platform/linux/browsers/BrowserRestarter.h"
 #include "platform/linux/browsers/BrowserRoutes.h"
 #include "platform/linux/browsers/ExtensionRoute.h"
 #include "platform/linux/browsers/LinuxBrowserAccess.h"
@@ -83,6 +84,7 @@ struct LinuxPlatform::Parts {
     ExtensionServer extensions{clock};
     ExtensionRoute extensionRoute{extensions};
     AtspiRoute accessibilityRoute{accessibleBrowsers};
+    BrowserRestarter browserRestarter{clock, entries, &GioDesktopEntries::launch};
     std::unique_ptr<Workspace> workspace;
     std::unique_ptr<BrowserRoutes> browserRoutes;
     std::unique_ptr<BrowserAccess> browserAccess;
@@ -100,8 +102,8 @@ struct LinuxPlatform::Parts {
         lookAtDisplay();
         browserRoutes = std::make_unique<BrowserRoutes>(
             *workspace, QList<BrowserRoute*>{&extensionRoute, &accessibilityRoute});
-        browserAccess =
-            std::make_unique<LinuxBrowserAccess>(*workspace, *browserRoutes, accessibleBrowsers, extensions);
+        browserAccess = std::make_unique<LinuxBrowserAccess>(*workspace, *browserRoutes, accessibleBrowsers,
+                                                             extensions, browserRestarter, clock);
     }
 
     void lookAtDisplay() {

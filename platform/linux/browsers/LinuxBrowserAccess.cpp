@@ -1,5 +1,6 @@
 #include "platform/linux/browsers/LinuxBrowserAccess.h"
 
+#include "platform/Clock.h"
 #include "platform/ScriptableBrowser.h"
 #include "platform/Workspace.h"
 #include "platform/linux/atspi/AtspiBrowsers.h"
@@ -16,6 +17,10 @@ namespace norvin {
 namespace {
 
 using State = BrowserRoute::State;
+
+// A browser that was opened is there a while before its pages are, and longest on a busy machine.
+constexpr std::chrono::seconds lookInterval{2};
+constexpr int looksAfterRestart = 10;
 
 // The browsers that go by an identifier here; each keeps its own settings.
 QList<ExtensionBrowser> browsersOf(const QString& bundleIdentifier) {
@@ -48,16 +53,20 @@ bool isReadable(State state) {
 
 LinuxBrowserAccess::LinuxBrowserAccess(Workspace& workspace, BrowserRoutes& routes,
                                        AtspiBrowsers& accessibility, ExtensionServer& extensions,
+                                       BrowserRestarter& restarter, Clock& clock,
                                        ExtensionInstaller installer, QObject* parent)
     : BrowserAccess(parent)
     , m_workspace(workspace)
     , m_routes(routes)
     , m_accessibility(accessibility)
     , m_extensions(extensions)
+    , m_restarter(restarter)
+    , m_clock(clock)
     , m_installer(std::move(installer)) {
     connect(&m_accessibility, &AtspiBrowsers::accessibilityEnabledChanged, this, &BrowserAccess::changed);
     connect(&m_accessibility, &AtspiBrowsers::stateChanged, this, &LinuxBrowserAccess::noteState);
     connect(&m_extensions, &ExtensionServer::connectionsChanged, this, &BrowserAccess::changed);
+    connect(&m_restarter, &BrowserRestarter::finished, this, &LinuxBrowserAccess::followRestart);
 }
 
 LinuxBrowserAccess::~LinuxBrowserAccess() = default;
@@ -160,6 +169,63 @@ BrowserAccess::ExtensionStep LinuxBrowserAccess::removeExtension(const QString& 
     }
     Q_EMIT changed();
     return step;
+}
+
+void LinuxBrowserAccess::restart(const QString& bundleIdentifier) {
+    std::optional<RunningApplication> browser;
+    for (const RunningApplication& application : m_workspace.runningApplications()) {
+        if (application.bundleIdentifier != bundleIdentifier)
+            continue;
+        // Of several that share the identifier, one that cannot be looked into.
+        const bool isInTrouble = !pagesOf(bundleIdentifier, application.processId).isAvailable();
+        if (!browser || isInTrouble)
+            browser = application;
+        if (isInTrouble)
+            break;
+    }
+    if (!browser) {
+        // It was closed meanwhile, which leaves nothing to do.
+        QMetaObject::invokeMethod(
+            this, [this, bundleIdentifier] { endRestart(bundleIdentifier, {}); }, Qt::QueuedConnection);
+        return;
+    }
+    // Firefox finds its tabs again by itself after such an end.
+    const QList<ExtensionBrowser> browsers = browsersOf(bundleIdentifier);
+    const bool isFirefox = browsers.isEmpty() || browsers.contains(ExtensionBrowser::firefox);
+    m_restarter.restart(*browser,
+                        isFirefox ? QStringList() : QStringList{QStringLiteral("--restore-last-session")});
+}
+
+void LinuxBrowserAccess::followRestart(const QString& bundleIdentifier, BrowserRestarter::Outcome outcome) {
+    switch (outcome) {
+    case BrowserRestarter::Outcome::notClosed:
+        endRestart(bundleIdentifier, QStringLiteral("browser_restart_not_closed"));
+        return;
+    case BrowserRestarter::Outcome::notOpened:
+        endRestart(bundleIdentifier, QStringLiteral("browser_restart_not_opened"));
+        return;
+    case BrowserRestarter::Outcome::opened:
+        awaitPages(bundleIdentifier, looksAfterRestart);
+    }
+}
+
+void LinuxBrowserAccess::awaitPages(const QString& bundleIdentifier, int looksLeft) {
+    m_awaited[bundleIdentifier] = m_clock.after(lookInterval, [this, bundleIdentifier, looksLeft] {
+        const QList<Browser> browsers = runningBrowsers();
+        const bool isReached = std::any_of(browsers.cbegin(), browsers.cend(), [&](const Browser& browser) {
+            return browser.bundleIdentifier == bundleIdentifier && browser.pages.isAvailable();
+        });
+        if (isReached || looksLeft <= 1)
+            endRestart(QString(bundleIdentifier), {});
+        else
+            awaitPages(QString(bundleIdentifier), looksLeft - 1);
+    });
+}
+
+void LinuxBrowserAccess::endRestart(const QString& bundleIdentifier, const QString& textKey) {
+    m_awaited.erase(bundleIdentifier);
+    Q_EMIT changed();
+    Q_EMIT restartEnded(bundleIdentifier, textKey);
 }
 
 } // namespace norvin

@@ -1,9 +1,12 @@
 #include "platform/linux/gio/GioDesktopEntries.h"
 
+#include "platform/Log.h"
+
 // GIO has members of this name.
 #undef signals
 #include <gio/gdesktopappinfo.h>
 #include <gio/gio.h>
+#include <unistd.h>
 
 #include <memory>
 
@@ -94,6 +97,23 @@ const std::vector<DesktopEntry>& GioDesktopEntries::entries() const {
 quint64 GioDesktopEntries::generation() const {
     static_cast<void>(entries());
     return m_generation;
+}
+
+bool GioDesktopEntries::launch(const QString& desktopId) {
+    const QByteArray id = desktopId.toUtf8() + ".desktop";
+    const std::unique_ptr<GDesktopAppInfo, Unref> info(g_desktop_app_info_new(id.constData()));
+    if (!info)
+        return false;
+    constexpr auto flags = static_cast<GSpawnFlags>(G_SPAWN_SEARCH_PATH | G_SPAWN_STDOUT_TO_DEV_NULL |
+                                                    G_SPAWN_STDERR_TO_DEV_NULL);
+    GError* error = nullptr;
+    const bool isLaunched = g_desktop_app_info_launch_uris_as_manager(
+        info.get(), nullptr, nullptr, flags, [](gpointer) { static_cast<void>(::setsid()); }, nullptr,
+        nullptr, nullptr, &error);
+    const std::unique_ptr<GError, decltype(&g_error_free)> owned(error, g_error_free);
+    if (error)
+        logLine(QStringLiteral("GioDesktopEntries: %1").arg(fromUtf8(error->message)));
+    return isLaunched;
 }
 
 } // namespace norvin

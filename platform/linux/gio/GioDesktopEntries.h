@@ -16,6 +16,10 @@ public:
     [[nodiscard]] const std::vector<DesktopEntry>& entries() const override;
     [[nodiscard]] quint64 generation() const override;
 
+    /// Opens the application of that desktop id, without files, in a session of its own: it outlives this
+    /// program and the terminal this was started from. A failure is logged.
+    [[nodiscard]] static bool launch(const QString& desktopId);
+
 private:
     struct Monitor;
     std::unique_ptr<Monitor> m_monitor;
