@@ -25,7 +25,9 @@ constexpr int accessibilityDisabled = -25211;
 using Result = BrowserURLReadResult;
 
 bool meansDenied(std::optional<int> errorNumber) {
-    return errorNumber == notPermitted || errorNumber == privilegeError;
+    if (!errorNumber)
+        return false;
+    return *errorNumber == notPermitted || *errorNumber == privilegeError;
 }
 
 bool isAddressBar(AccessibilityElement& element) {
