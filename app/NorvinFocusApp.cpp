@@ -193,6 +193,7 @@ void NorvinFocusApp::followPlatform() {
     connect(&m_platform.audioOutput(), &AudioOutput::availabilityChanged, this, refresh);
     connect(&m_platform.preferences(), &Preferences::availabilityChanged, this, refresh);
     connect(&m_browserHealth, &BrowserHealth::changed, this, &NorvinFocusApp::refreshHealthSoon);
+    connect(&m_browserHealth, &BrowserHealth::noticed, &m_health, &TrackingHealthModel::setNotice);
     connect(&m_platform.notifications(), &UserNotifications::activated, this, &NorvinFocusApp::showWindow);
     connect(&m_userInterface, &UserInterface::windowClosedWhileRunning, this, [this] {
         m_platform.notifications().post(qtTrId("window_closed_running_title"),

@@ -2,7 +2,6 @@
 
 #include "distraction/AppBlockerService.h"
 #include "distraction/KnownBrowsers.h"
-#include "platform/BrowserAccess.h"
 #include "platform/Preferences.h"
 
 #include <QCoreApplication>
@@ -19,6 +18,14 @@ using Notice = TrackingHealthModel::Notice;
 constexpr auto declinedKey = QLatin1String("is_browser_access_declined");
 constexpr auto accessibilityOffKey = QLatin1String("health_accessibility_off");
 
+// What a browser looks at only when it starts.
+bool isMendedByRestart(const Availability& pages) {
+    static const QStringList reasons{QStringLiteral("health_browser_restart"),
+                                     QStringLiteral("health_browser_not_answering"),
+                                     QStringLiteral("health_extension_not_connected")};
+    return pages.reason() && reasons.contains(pages.reason()->reasonKey);
+}
+
 bool isKnownBrowser(const QString& bundleIdentifier) {
     return knownBrowserBundleIDs().contains(bundleIdentifier);
 }
@@ -32,6 +39,7 @@ BrowserHealth::BrowserHealth(BrowserAccess& access, AppBlockerService& blocker, 
     , m_blocker(blocker)
     , m_preferences(preferences) {
     connect(&m_access, &BrowserAccess::changed, this, &BrowserHealth::changed);
+    connect(&m_access, &BrowserAccess::restartEnded, this, &BrowserHealth::noteRestartEnd);
     connect(&m_blocker, &AppBlockerService::listsChanged, this, &BrowserHealth::refreshBanner);
 }
 
@@ -76,26 +84,45 @@ QList<TrackingHealthModel::Check> BrowserHealth::browserChecks() {
         checks.append({browser.isByExtension ? QStringLiteral("health_browser_by_extension")
                                              : QStringLiteral("health_browser"),
                        [pages = browser.pages] { return pages; }, browser.name,
-                       [this, bundleIdentifier = browser.bundleIdentifier] {
-                           return browserActions(bundleIdentifier);
-                       }});
+                       [this, browser] { return browserActions(browser); }});
     }
     return checks;
 }
 
-QList<Action> BrowserHealth::browserActions(const QString& bundleIdentifier) {
+QList<Action> BrowserHealth::browserActions(const BrowserAccess::Browser& browser) {
+    const QString bundleIdentifier = browser.bundleIdentifier;
+    QList<Action> actions;
+    if (isMendedByRestart(browser.pages))
+        actions.append(restartAction(bundleIdentifier, browser.name));
     if (m_access.isExtensionInstalled(bundleIdentifier)) {
-        return {{QStringLiteral("extension_remove_button"), [this, bundleIdentifier] {
-                     const auto step = m_access.removeExtension(bundleIdentifier);
-                     return Notice{step.textKey, step.detail};
-                 }}};
+        actions.append({QStringLiteral("extension_remove_button"), [this, bundleIdentifier] {
+                            const auto step = m_access.removeExtension(bundleIdentifier);
+                            return Notice{step.textKey, step.detail};
+                        }});
+    } else if (m_access.canInstallExtension(bundleIdentifier)) {
+        actions.append({QStringLiteral("extension_install_button"), [this, bundleIdentifier] {
+                            const auto step = m_access.installExtension(bundleIdentifier);
+                            return Notice{step.textKey, step.detail};
+                        }});
     }
-    if (!m_access.canInstallExtension(bundleIdentifier))
-        return {};
-    return {{QStringLiteral("extension_install_button"), [this, bundleIdentifier] {
-                 const auto step = m_access.installExtension(bundleIdentifier);
-                 return Notice{step.textKey, step.detail};
-             }}};
+    return actions;
+}
+
+Action BrowserHealth::restartAction(const QString& bundleIdentifier, const QString& name) {
+    const TrackingHealthModel::Question question{QStringLiteral("browser_restart_title"),
+                                                 QStringLiteral("browser_restart_message")};
+    return {QStringLiteral("browser_restart_button"),
+            [this, bundleIdentifier, name] {
+                m_restarting.insert(bundleIdentifier, name);
+                m_access.restart(bundleIdentifier);
+                return Notice{QStringLiteral("browser_restart_under_way"), name};
+            },
+            question};
+}
+
+void BrowserHealth::noteRestartEnd(const QString& bundleIdentifier, const QString& textKey) {
+    const QString name = m_restarting.take(bundleIdentifier);
+    Q_EMIT noticed(textKey.isEmpty() ? Notice{} : Notice{textKey, name});
 }
 
 void BrowserHealth::refreshBanner() {

@@ -1,14 +1,15 @@
 #pragma once
 
 #include "distraction/TrackingHealthModel.h"
+#include "platform/BrowserAccess.h"
 
+#include <QHash>
 #include <QObject>
 #include <QString>
 
 namespace norvin {
 
 class AppBlockerService;
-class BrowserAccess;
 class Preferences;
 
 /// What stands between the user and pages that can be told apart: the checks of the tracking-health screen,
@@ -48,14 +49,20 @@ Q_SIGNALS:
     void bannerChanged();
     /// What the checks answer may have changed.
     void changed();
+    /// There is something to say about an action of the checks, or nothing any more.
+    void noticed(const norvin::TrackingHealthModel::Notice& notice);
 
 private:
     [[nodiscard]] QList<TrackingHealthModel::Action> accessActions();
-    [[nodiscard]] QList<TrackingHealthModel::Action> browserActions(const QString& bundleIdentifier);
+    [[nodiscard]] QList<TrackingHealthModel::Action> browserActions(const BrowserAccess::Browser& browser);
+    [[nodiscard]] TrackingHealthModel::Action restartAction(const QString& bundleIdentifier,
+                                                            const QString& name);
+    void noteRestartEnd(const QString& bundleIdentifier, const QString& textKey);
 
     BrowserAccess& m_access;
     AppBlockerService& m_blocker;
     Preferences& m_preferences;
+    QHash<QString, QString> m_restarting; // names of browsers, by identifier
     QString m_bannerReasonKey;
     QString m_bannerBrowser;
 };

@@ -19,10 +19,10 @@ QString text(const QString& key, const QString& subject) {
     return subject.isEmpty() ? result : result.replace(QLatin1String("%1"), subject);
 }
 
-QStringList labels(const QList<TrackingHealthModel::Action>& actions) {
+QStringList labels(const QList<TrackingHealthModel::Action>& actions, const QString& subject) {
     QStringList result;
     for (const TrackingHealthModel::Action& action : actions)
-        result.append(text(action.labelKey));
+        result.append(text(action.labelKey, subject));
     return result;
 }
 
@@ -71,7 +71,7 @@ QVariant TrackingHealthModel::data(const QModelIndex& index, int role) const {
     case DetailRole:
         return reason ? reason->detail : QString();
     case ActionsRole:
-        return labels(row.actions);
+        return labels(row.actions, row.check.subject);
     default:
         return {};
     }
@@ -132,9 +132,38 @@ void TrackingHealthModel::refresh() {
 void TrackingHealthModel::act(int row, int action) {
     if (row < 0 || row >= m_rows.size() || action < 0 || action >= m_rows.at(row).actions.size())
         return;
-    const std::function<Notice()> run = m_rows.at(row).actions.at(action).run;
-    setNotice(run());
+    const Action chosen = m_rows.at(row).actions.at(action);
+    m_asked.reset();
+    if (!chosen.question) {
+        run(chosen);
+        return;
+    }
+    m_asked = chosen;
+    m_askedSubject = m_rows.at(row).check.subject;
+    Q_EMIT questionChanged();
+    Q_EMIT questionAsked();
+}
+
+void TrackingHealthModel::confirm() {
+    if (const std::optional<Action> asked = std::exchange(m_asked, std::nullopt))
+        run(*asked);
+}
+
+void TrackingHealthModel::run(const Action& action) {
+    setNotice(action.run());
     refresh();
+}
+
+QString TrackingHealthModel::questionTitle() const {
+    return m_asked ? text(m_asked->question->titleKey, m_askedSubject) : QString();
+}
+
+QString TrackingHealthModel::questionMessage() const {
+    return m_asked ? text(m_asked->question->messageKey, m_askedSubject) : QString();
+}
+
+QString TrackingHealthModel::questionAnswer() const {
+    return m_asked ? text(m_asked->labelKey, m_askedSubject) : QString();
 }
 
 void TrackingHealthModel::dismissNotice() {
@@ -150,6 +179,7 @@ void TrackingHealthModel::retranslate() {
     if (!m_rows.isEmpty())
         Q_EMIT dataChanged(index(0), index(static_cast<int>(m_rows.size()) - 1));
     Q_EMIT noticeChanged();
+    Q_EMIT questionChanged();
 }
 
 } // namespace norvin

@@ -8,6 +8,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <optional>
 
 namespace norvin {
 
@@ -19,6 +20,10 @@ class TrackingHealthModel final : public QAbstractListModel {
     Q_PROPERTY(int problemCount READ problemCount NOTIFY problemCountChanged)
     /// What came of the last action, in the user's language; empty for nothing worth saying.
     Q_PROPERTY(QString notice READ notice NOTIFY noticeChanged)
+    /// The question of questionAsked(), in the user's language, and what its yes is called; empty before.
+    Q_PROPERTY(QString questionTitle READ questionTitle NOTIFY questionChanged)
+    Q_PROPERTY(QString questionMessage READ questionMessage NOTIFY questionChanged)
+    Q_PROPERTY(QString questionAnswer READ questionAnswer NOTIFY questionChanged)
 public:
     enum Role {
         CapabilityRole = Qt::UserRole + 1, ///< what it is, in the user's language
@@ -35,15 +40,21 @@ public:
         /// File or address that the sentence names with %1; may be empty.
         QString detail;
     };
+    /// What is asked before an action that cannot be taken back.
+    struct Question {
+        QString titleKey;
+        QString messageKey;
+    };
     struct Action {
         QString labelKey;
         std::function<Notice()> run;
+        std::optional<Question> question = {};
     };
     struct Check {
         /// Localisation key ("health_frontmost_application").
         QString capabilityKey;
         std::function<Availability()> ask;
-        /// What the texts of the check name with %1 (a browser); empty for nothing.
+        /// What the texts of the check and of its actions name with %1 (a browser); empty for nothing.
         QString subject = {};
         /// What can be done, as things are now; may be empty.
         std::function<QList<Action>()> actions = {};
@@ -61,6 +72,9 @@ public:
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
     [[nodiscard]] int problemCount() const { return m_problemCount; }
     [[nodiscard]] QString notice() const;
+    [[nodiscard]] QString questionTitle() const;
+    [[nodiscard]] QString questionMessage() const;
+    [[nodiscard]] QString questionAnswer() const;
 
     /// Localisation key of a check; by row.
     [[nodiscard]] const QString& capabilityKey(int row) const { return m_rows.at(row).check.capabilityKey; }
@@ -70,8 +84,12 @@ public:
 
     /// Asks every check again.
     Q_INVOKABLE void refresh();
-    /// Does the action at that place of the row's list, and asks every check again.
+    /// Does the action at that place of the row's list, and asks every check again. An action with a question
+    /// is not done but asked about.
     Q_INVOKABLE void act(int row, int action);
+    /// Does what was asked about last, unless another action came between.
+    Q_INVOKABLE void confirm();
+    void setNotice(Notice notice);
     Q_INVOKABLE void dismissNotice();
     /// Gives the texts anew, for another language.
     void retranslate();
@@ -79,6 +97,9 @@ public:
 Q_SIGNALS:
     void problemCountChanged();
     void noticeChanged();
+    void questionChanged();
+    /// The user has to answer, with confirm() or by leaving it.
+    void questionAsked();
 
 private:
     struct Row {
@@ -88,7 +109,7 @@ private:
     };
 
     void replacePassingChecks();
-    void setNotice(Notice notice);
+    void run(const Action& action);
 
     QList<Row> m_rows;
     qsizetype m_passingRow = 0;
@@ -96,6 +117,9 @@ private:
     std::function<QList<Check>()> m_passingChecks;
     int m_problemCount = 0;
     Notice m_notice;
+    // The rows may be others by the time of the answer.
+    std::optional<Action> m_asked;
+    QString m_askedSubject;
 };
 
 } // namespace norvin

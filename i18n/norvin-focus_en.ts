@@ -141,6 +141,34 @@
         <source></source>
         <translation>%1 is not on the whitelist of applications, so it is never looked into: all its time counts as distracted, whatever the page.</translation>
     </message>
+    <message id="browser_restart_button">
+        <source></source>
+        <translation>Restart %1</translation>
+    </message>
+    <message id="browser_restart_cancel_button">
+        <source></source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="browser_restart_message">
+        <source></source>
+        <translation>%1 is closed and opened again. Text that you have typed into pages and not sent may be lost, and downloads that have not ended stop. %1 brings its tabs back, or offers to; private windows do not come back.</translation>
+    </message>
+    <message id="browser_restart_not_closed">
+        <source></source>
+        <translation>%1 did not close. Nothing was forced: close it yourself, then open it again.</translation>
+    </message>
+    <message id="browser_restart_not_opened">
+        <source></source>
+        <translation>%1 was closed but could not be opened again. Please open it yourself.</translation>
+    </message>
+    <message id="browser_restart_title">
+        <source></source>
+        <translation>Restart %1?</translation>
+    </message>
+    <message id="browser_restart_under_way">
+        <source></source>
+        <translation>%1 is being closed and opened again.</translation>
+    </message>
     <message id="browser_sites_name" numerus="yes">
         <source></source>
         <translation>

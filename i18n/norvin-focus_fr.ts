@@ -141,6 +141,34 @@
         <source></source>
         <translation>%1 n’est pas sur la liste blanche des applications, donc ses pages ne sont jamais regardées : tout son temps compte comme distrait.</translation>
     </message>
+    <message id="browser_restart_button">
+        <source></source>
+        <translation>Redémarrer %1</translation>
+    </message>
+    <message id="browser_restart_cancel_button">
+        <source></source>
+        <translation>Annuler</translation>
+    </message>
+    <message id="browser_restart_message">
+        <source></source>
+        <translation>%1 sera fermé puis rouvert. Le texte que vous avez saisi dans des pages sans l’envoyer peut être perdu, et les téléchargements en cours s’arrêtent. %1 rétablit ses onglets ou vous le propose ; les fenêtres privées ne reviennent pas.</translation>
+    </message>
+    <message id="browser_restart_not_closed">
+        <source></source>
+        <translation>%1 ne s’est pas fermé. Rien n’a été forcé : fermez-le vous-même, puis rouvrez-le.</translation>
+    </message>
+    <message id="browser_restart_not_opened">
+        <source></source>
+        <translation>%1 a été fermé mais n’a pas pu être rouvert. Veuillez l’ouvrir vous-même.</translation>
+    </message>
+    <message id="browser_restart_title">
+        <source></source>
+        <translation>Redémarrer %1 ?</translation>
+    </message>
+    <message id="browser_restart_under_way">
+        <source></source>
+        <translation>%1 est en cours de fermeture et sera rouvert.</translation>
+    </message>
     <message id="browser_sites_name" numerus="yes">
         <source></source>
         <translation>

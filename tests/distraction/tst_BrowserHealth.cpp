@@ -20,6 +20,7 @@ private Q_SLOTS:
     void accessIsTurnedOnAndOffInOnePlace();
     void browsersComeAndGo();
     void extensionIsInstalledAndRemoved();
+    void browserIsRestartedAfterAQuestion();
     void bannerAsksOnceForWhitelistedBrowsers();
 };
 
@@ -125,6 +126,45 @@ void tst_BrowserHealth::extensionIsInstalledAndRemoved() {
     QVERIFY(rig.model.notice().isEmpty());
     rig.model.act(1, 0);
     QVERIFY(!rig.access.isExtensionInstalled(firefox));
+}
+
+void tst_BrowserHealth::browserIsRestartedAfterAQuestion() {
+    Rig rig;
+    QObject::connect(&rig.health, &BrowserHealth::noticed, &rig.model, &Model::setNotice);
+    QSignalSpy questions(&rig.model, &Model::questionAsked);
+    rig.access.setInstallable({firefox});
+    for (const char* reason :
+         {"health_browser_not_answering", "health_extension_not_connected", "health_browser_restart"}) {
+        rig.access.setBrowsers({browser(firefox, "Firefox", reason)});
+        rig.model.refresh();
+        QCOMPARE(rig.actions(1), (QStringList{"browser_restart_button", "extension_install_button"}));
+    }
+    rig.model.confirm(); // nothing was asked
+    rig.model.act(1, 0);
+    QCOMPARE(questions.size(), 1);
+    QCOMPARE(rig.model.questionTitle(), QStringLiteral("browser_restart_title"));
+    QVERIFY(rig.access.restarting().isEmpty());
+    // Another action, and the old question is answered by nothing.
+    rig.model.act(1, 1);
+    rig.model.confirm();
+    QVERIFY(rig.access.restarting().isEmpty());
+
+    // The answer is for the browser that was asked about, whatever has become of the rows.
+    rig.model.act(1, 0);
+    rig.access.setBrowsers({browser(vivaldi, "Vivaldi", "health_browser_restart")});
+    rig.model.refresh();
+    rig.model.confirm();
+    rig.model.confirm();
+    QCOMPARE(rig.access.restarting(), QStringList{firefox});
+    QCOMPARE(rig.model.notice(), QStringLiteral("browser_restart_under_way"));
+    Q_EMIT rig.access.restartEnded(firefox, QStringLiteral("browser_restart_not_closed"));
+    QCOMPARE(rig.model.notice(), QStringLiteral("browser_restart_not_closed"));
+    Q_EMIT rig.access.restartEnded(firefox, {});
+    QVERIFY(rig.model.notice().isEmpty());
+
+    rig.access.setBrowsers({browser(vivaldi, "Vivaldi", "health_accessibility_off")});
+    rig.model.refresh();
+    QVERIFY(rig.actions(1).isEmpty());
 }
 
 void tst_BrowserHealth::bannerAsksOnceForWhitelistedBrowsers() {

@@ -20,6 +20,30 @@ Page {
         again.forceActiveFocus(Qt.OtherFocusReason);
     }
 
+    Connections {
+        target: root.model
+
+        function onQuestionAsked(): void {
+            question.active = true;
+        }
+    }
+
+    Deferred {
+        id: question
+
+        visible: false
+
+        QuestionDialog {
+            visible: true
+            title: root.model.questionTitle
+            message: root.model.questionMessage
+            acceptText: root.model.questionAnswer
+            rejectText: qsTrId("browser_restart_cancel_button")
+            onAccepted: root.model.confirm()
+            onClosed: question.active = false
+        }
+    }
+
     headingContent: PushButton {
         id: again
 
