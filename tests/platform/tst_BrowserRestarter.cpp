@@ -133,9 +133,10 @@ void tst_BrowserRestarter::commandLineIsReadWithoutPages_data() {
     QTest::newRow("profile in two words")
         << QByteArray("sh|--profile|/home/me/My profile|/home/me/page.html|")
         << QStringList{"--profile", "/home/me/My profile"};
-    QTest::newRow("one word for all") << QByteArray("/bin/sh --a --user-data-dir=/home/me/My profile --b=c,d "
-                                                    "http://a.example/|")
-                                      << QStringList{"--a", "--user-data-dir=/home/me/My profile", "--b=c,d"};
+    QTest::newRow("one word for all")
+        << QByteArray("/bin/sh --a --user-data-dir=/home/me/My profile --a --b=c,d "
+                      "http://a.example/|")
+        << QStringList{"--a", "--user-data-dir=/home/me/My profile", "--b=c,d"};
     QTest::newRow("one word, page only") << QByteArray("/bin/sh https://a.example/x y|") << QStringList();
 }
 

@@ -81,6 +81,14 @@ QString findProgram(const QString& name, const BrowserCommand& command, const QS
     return QFileInfo(path).isExecutable() ? path : executable;
 }
 
+// A distribution's browser is started by a script of its name, which makes the environment that it needs.
+QString findScript(const QString& program) {
+    if (!program.startsWith(QLatin1String("/usr/")))
+        return program;
+    const QString script = QStandardPaths::findExecutable(QFileInfo(program).fileName());
+    return script.isEmpty() ? program : script;
+}
+
 } // namespace
 
 BrowserCommand readBrowserCommand(qint64 processId, const QString& processRoot) {
@@ -89,14 +97,19 @@ BrowserCommand readBrowserCommand(qint64 processId, const QString& processRoot) 
     command.directory = QFileInfo(folder + QStringLiteral("cwd")).symLinkTarget();
     command.environment = environmentOf(readWords(folder + QStringLiteral("environ")));
     QStringList words = readWords(folder + QStringLiteral("cmdline"));
-    if (words.size() == 1 && !QFileInfo(words.constFirst()).isExecutable())
+    // The script gives its options again each time.
+    if (words.size() == 1 && !QFileInfo(words.constFirst()).isExecutable()) {
         words = splitTitle(words.constFirst());
+        words.removeDuplicates();
+    }
     if (words.isEmpty())
         return command;
     QString executable = QFileInfo(folder + QStringLiteral("exe")).symLinkTarget();
     if (!QFileInfo(executable).isExecutable())
         executable.clear();
     command.program = findProgram(words.takeFirst(), command, executable);
+    if (command.environment.isEmpty())
+        command.program = findScript(command.program);
     command.arguments = withoutPages(words);
     return command;
 }

@@ -17,6 +17,7 @@
 #include <cerrno>
 #include <csignal>
 #include <cstring>
+#include <iterator>
 #include <utility>
 
 namespace norvin {
@@ -28,7 +29,10 @@ constexpr std::chrono::seconds longestClosing{20};
 bool start(const BrowserCommand& command, const QStringList& moreArguments) {
     QProcess process;
     process.setProgram(command.program);
-    process.setArguments(command.arguments + moreArguments);
+    QStringList arguments = command.arguments;
+    std::copy_if(moreArguments.cbegin(), moreArguments.cend(), std::back_inserter(arguments),
+                 [&command](const QString& word) { return !command.arguments.contains(word); });
+    process.setArguments(arguments);
     process.setWorkingDirectory(command.directory);
     if (!command.environment.isEmpty())
         process.setProcessEnvironment(command.environment);
