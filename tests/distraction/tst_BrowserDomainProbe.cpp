@@ -285,7 +285,5 @@ void tst_BrowserDomainProbe::tabsWithoutScriptsAreClosedAnotherWay() {
     QVERIFY(scripting.scripts().isEmpty());
 }
 
-Q_DECLARE_METATYPE(norvin::ScriptAnswer)
-
 QTEST_GUILESS_MAIN(tst_BrowserDomainProbe)
 #include "tst_BrowserDomainProbe.moc"

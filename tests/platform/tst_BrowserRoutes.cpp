@@ -206,7 +206,5 @@ void tst_BrowserRoutes::elementsComeFromTheFirstRouteThatHasOne() {
     QCOMPARE(rig.routes.applicationElement(rig.browser), rig.extension.element);
 }
 
-Q_DECLARE_METATYPE(norvin::ScriptAnswer)
-
 QTEST_GUILESS_MAIN(tst_BrowserRoutes)
 #include "tst_BrowserRoutes.moc"
