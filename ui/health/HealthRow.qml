@@ -43,6 +43,7 @@ Card {
 
         ColumnLayout {
             Layout.fillWidth: true
+            Layout.alignment: root.isAvailable ? Qt.AlignVCenter : Qt.AlignTop
             spacing: Theme.gap1
 
             ThemedText {
@@ -77,16 +78,22 @@ Card {
             }
         }
 
-        Repeater {
-            model: root.actions
+        ColumnLayout {
+            Layout.fillWidth: false
+            Layout.alignment: root.isAvailable ? Qt.AlignVCenter : Qt.AlignTop
+            spacing: Theme.gap2
 
-            PushButton {
-                required property string modelData
-                required property int index
+            Repeater {
+                model: root.actions
 
-                Layout.alignment: root.isAvailable ? Qt.AlignVCenter : Qt.AlignTop
-                text: modelData
-                onClicked: root.actionChosen(index)
+                PushButton {
+                    required property string modelData
+                    required property int index
+
+                    Layout.fillWidth: true
+                    text: modelData
+                    onClicked: root.actionChosen(index)
+                }
             }
         }
 

@@ -11,6 +11,8 @@ Page {
 
     required property TrackingHealthModel model
     readonly property bool isAllGood: root.model.problemCount === 0
+    /// What had the keyboard when the question came.
+    property Item asker: null
 
     heading: qsTrId("health_title")
     introduction: qsTrId("health_subtitle")
@@ -24,6 +26,7 @@ Page {
         target: root.model
 
         function onQuestionAsked(): void {
+            root.asker = root.Window.activeFocusItem;
             question.active = true;
         }
     }
@@ -40,7 +43,11 @@ Page {
             acceptText: root.model.questionAnswer
             rejectText: qsTrId("browser_restart_cancel_button")
             onAccepted: root.model.confirm()
-            onClosed: question.active = false
+            onClosed: {
+                question.active = false;
+                const next = root.asker ? root.asker : again;
+                next.forceActiveFocus(Qt.TabFocusReason);
+            }
         }
     }
 
