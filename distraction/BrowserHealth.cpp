@@ -132,14 +132,15 @@ void BrowserHealth::refreshBanner() {
     for (const QString& identifier : m_blocker.whitelistedAppBundleIDs())
         isAnyWhitelisted = isAnyWhitelisted || isKnownBrowser(identifier);
     const bool isDeclined = m_preferences.value(declinedKey).value_or(QVariant(false)).toBool();
-    if (isAnyWhitelisted && !isDeclined) {
+    if (isAnyWhitelisted) {
         const Availability general = accessCheck().ask();
-        if (!general.isAvailable())
+        if (!general.isAvailable() && !isDeclined)
             reasonKey = general.reason()->reasonKey;
         const QList<BrowserAccess::Browser> browsers =
             reasonKey.isEmpty() ? m_access.runningBrowsers() : QList<BrowserAccess::Browser>();
         for (const BrowserAccess::Browser& browser : browsers) {
-            if (browser.pages.isAvailable() ||
+            if (browser.pages.isAvailable() || browser.pages == m_access.accessibility() ||
+                m_declined.contains({browser.pages.reason()->reasonKey, browser.name}) ||
                 !m_blocker.whitelistedAppBundleIDs().contains(browser.bundleIdentifier))
                 continue;
             reasonKey = browser.pages.reason()->reasonKey;
@@ -164,7 +165,13 @@ QString BrowserHealth::bannerText() const {
 }
 
 QString BrowserHealth::bannerActionText() const {
-    return m_bannerReasonKey == accessibilityOffKey ? qtTrId("accessibility_turn_on_button") : QString();
+    if (!hasBanner())
+        return {};
+    return bannerLeadsToHealth() ? qtTrId("health_title") : qtTrId("accessibility_turn_on_button");
+}
+
+bool BrowserHealth::bannerLeadsToHealth() const {
+    return hasBanner() && m_bannerReasonKey != accessibilityOffKey;
 }
 
 void BrowserHealth::bannerAct() {
@@ -174,7 +181,10 @@ void BrowserHealth::bannerAct() {
 }
 
 void BrowserHealth::declineBanner() {
-    m_preferences.setValue(declinedKey, true);
+    if (m_bannerBrowser.isEmpty())
+        m_preferences.setValue(declinedKey, true);
+    else
+        m_declined.insert({m_bannerReasonKey, m_bannerBrowser});
     refreshBanner();
 }
 

@@ -5,7 +5,10 @@
 
 #include <QHash>
 #include <QObject>
+#include <QSet>
 #include <QString>
+
+#include <utility>
 
 namespace norvin {
 
@@ -21,8 +24,10 @@ class BrowserHealth final : public QObject {
     Q_PROPERTY(bool hasBanner READ hasBanner NOTIFY bannerChanged)
     /// In the user's language; empty without a banner, as are the following.
     Q_PROPERTY(QString bannerText READ bannerText NOTIFY bannerChanged)
-    /// What the button does; empty where nothing can be done by a button.
+    /// What the button does.
     Q_PROPERTY(QString bannerActionText READ bannerActionText NOTIFY bannerChanged)
+    /// Whether the button leads to the tracking-health screen, instead of doing something here.
+    Q_PROPERTY(bool bannerLeadsToHealth READ bannerLeadsToHealth NOTIFY bannerChanged)
 public:
     /// All must outlive this.
     BrowserHealth(BrowserAccess& access, AppBlockerService& blocker, Preferences& preferences,
@@ -36,9 +41,11 @@ public:
     [[nodiscard]] bool hasBanner() const { return !m_bannerReasonKey.isEmpty(); }
     [[nodiscard]] QString bannerText() const;
     [[nodiscard]] QString bannerActionText() const;
-    /// Does what bannerActionText says.
+    [[nodiscard]] bool bannerLeadsToHealth() const;
+    /// Does what bannerActionText says; nothing where that leads to another screen.
     Q_INVOKABLE void bannerAct();
-    /// The user does not want to be asked again; the tracking-health screen still says what is missing.
+    /// The user does not want to be asked for accessibility again, or not again about that browser until the
+    /// program ends; the tracking-health screen still says what is missing.
     Q_INVOKABLE void declineBanner();
     /// Looks anew at what the banner has to say. May wait 300 ms for each browser that is new.
     Q_INVOKABLE void refreshBanner();
@@ -65,6 +72,7 @@ private:
     QHash<QString, QString> m_restarting; // names of browsers, by identifier
     QString m_bannerReasonKey;
     QString m_bannerBrowser;
+    QSet<std::pair<QString, QString>> m_declined; // reason and browser, until the program ends
 };
 
 } // namespace norvin

@@ -184,7 +184,13 @@ void tst_BrowserHealth::bannerAsksOnceForWhitelistedBrowsers() {
     rig.health.bannerAct();
     QVERIFY(rig.access.accessibility().isAvailable());
     QVERIFY(rig.health.bannerText().startsWith("health_browser_restart"));
-    QVERIFY(rig.health.bannerActionText().isEmpty());
+    QVERIFY(rig.health.bannerLeadsToHealth());
+    QCOMPARE(rig.health.bannerActionText(), QStringLiteral("health_title"));
+    rig.health.declineBanner(); // which is about that browser only
+    QVERIFY(!rig.health.hasBanner());
+    rig.access.setBrowsers({browser(firefox, "Firefox", "health_browser_not_answering")});
+    rig.health.refreshBanner();
+    QVERIFY(rig.health.hasBanner());
     rig.access.setBrowsers({browser(firefox, "Firefox")});
     rig.health.refreshBanner();
     QVERIFY(!rig.health.hasBanner());

@@ -95,7 +95,12 @@ Page {
         text: root.model.browserHealth?.bannerText ?? ""
         actionText: root.model.browserHealth?.bannerActionText ?? ""
         isDismissible: true
-        onActionChosen: root.model.browserHealth.bannerAct()
+        onActionChosen: {
+            if (root.model.browserHealth.bannerLeadsToHealth)
+                (root.Window.window as Main)?.showPage(2);
+            else
+                root.model.browserHealth.bannerAct();
+        }
         onDismissed: root.model.browserHealth.declineBanner()
     }
 
