@@ -96,7 +96,7 @@ def usage_of(pid):
 
 def sample(*pids):
     """Of each process: per cent of a core, voluntary context switches a second, proportional set size in MB."""
-    time.sleep(8)  # what was done just before settles, and threads that were needed for it end
+    time.sleep(10)  # what was done just before settles: threads that were needed for it end, the coach is silent again
     begin = time.perf_counter()
     before = [usage_of(pid) for pid in pids]
     time.sleep(SAMPLE_SECONDS)
