@@ -57,10 +57,11 @@ int beBrowser(int argc, char** argv) {
         report.write((told.join(u'|') + u'\n').toUtf8());
     report.close();
     int number = 0;
-    const bool isStubborn = told.contains(QStringLiteral("--stubborn"));
-    do
-        sigwait(&termination, &number);
-    while (isStubborn);
+    sigwait(&termination, &number);
+    if (told.contains(QStringLiteral("--stubborn"))) {
+        for (;;)
+            sigwait(&termination, &number);
+    }
     return 0;
 }
 
