@@ -61,6 +61,8 @@ class ExtensionTestCase:
         self.wait_for("play.games.example")
         self.browser.press("alt+Left")
         self.wait_for("work.example")
+        # The browser tells of the new page before it has let go of the old one, which must not be counted.
+        self.pages.wait_until_open(self.work, self.news)
         self.browser.open(self.game, self.browser.NEW_WINDOW, title="Game page")
         self.wait_for("play.games.example")
         self.browser.bring_to_front("Work page")
