@@ -40,10 +40,10 @@ class Screen(Desktop):
         return [colour(*point) for point in points]
 
     def geometry(self, window):
-        """Place and size on the screen: (x, y, width, height)."""
+        """Place and size on the screen, (x, y, width, height); empty for a window that is gone."""
         text = self.run("xwininfo", "-id", str(window))
-        return tuple(int(re.search(rf"{name}: +(-?\d+)", text).group(1))
-                     for name in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
+        return tuple(int(value) for name in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height")
+                     for value in re.findall(rf"{name}: +(-?\d+)", text))
 
     def managed_windows(self):
         """All windows that the window manager, and with it every task bar, knows."""
