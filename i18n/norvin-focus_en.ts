@@ -275,6 +275,52 @@
         <source></source>
         <translation>Work phase finished</translation>
     </message>
+    <message id="count_files" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n attached file</numerusform>
+            <numerusform>%n attached files</numerusform>
+        </translation>
+    </message>
+    <message id="count_phases" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n phase</numerusform>
+            <numerusform>%n phases</numerusform>
+        </translation>
+    </message>
+    <message id="count_sessions" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n recorded session</numerusform>
+            <numerusform>%n recorded sessions</numerusform>
+        </translation>
+    </message>
+    <message id="count_subtasks" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n subtask</numerusform>
+            <numerusform>%n subtasks</numerusform>
+        </translation>
+    </message>
+    <message id="count_tasks" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n task</numerusform>
+            <numerusform>%n tasks</numerusform>
+        </translation>
+    </message>
+    <message id="deletion_leaves_without_phase" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n task stays in the project, without a phase.</numerusform>
+            <numerusform>%n tasks stay in the project, without a phase.</numerusform>
+        </translation>
+    </message>
+    <message id="deletion_takes_along">
+        <source></source>
+        <translation>This goes with it: %1.</translation>
+    </message>
     <message id="done_button">
         <source></source>
         <translation>Done</translation>
@@ -314,6 +360,10 @@
     <message id="duration_seconds">
         <source></source>
         <translation>%1 s</translation>
+    </message>
+    <message id="enumeration_and">
+        <source></source>
+        <translation>%1 and %2</translation>
     </message>
     <message id="extension_firefox_system">
         <source></source>
@@ -1360,6 +1410,21 @@
     <message id="undo_button">
         <source></source>
         <translation>Undo</translation>
+    </message>
+    <message id="undo_deleted_format">
+        <source></source>
+        <translation>“%1” was deleted</translation>
+    </message>
+    <message id="undo_phases_deleted" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n phase was deleted</numerusform>
+            <numerusform>%n phases were deleted</numerusform>
+        </translation>
+    </message>
+    <message id="undo_unscheduled_format">
+        <source></source>
+        <translation>“%1” was taken off the agenda</translation>
     </message>
     <message id="verdict_blocked">
         <source></source>

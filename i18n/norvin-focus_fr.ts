@@ -275,6 +275,52 @@
         <source></source>
         <translation>Phase de travail terminée</translation>
     </message>
+    <message id="count_files" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n fichier joint</numerusform>
+            <numerusform>%n fichiers joints</numerusform>
+        </translation>
+    </message>
+    <message id="count_phases" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n phase</numerusform>
+            <numerusform>%n phases</numerusform>
+        </translation>
+    </message>
+    <message id="count_sessions" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n session enregistrée</numerusform>
+            <numerusform>%n sessions enregistrées</numerusform>
+        </translation>
+    </message>
+    <message id="count_subtasks" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n sous-tâche</numerusform>
+            <numerusform>%n sous-tâches</numerusform>
+        </translation>
+    </message>
+    <message id="count_tasks" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n tâche</numerusform>
+            <numerusform>%n tâches</numerusform>
+        </translation>
+    </message>
+    <message id="deletion_leaves_without_phase" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n tâche reste dans le projet, sans phase.</numerusform>
+            <numerusform>%n tâches restent dans le projet, sans phase.</numerusform>
+        </translation>
+    </message>
+    <message id="deletion_takes_along">
+        <source></source>
+        <translation>Est supprimé avec : %1.</translation>
+    </message>
     <message id="done_button">
         <source></source>
         <translation>Terminer</translation>
@@ -314,6 +360,10 @@
     <message id="duration_seconds">
         <source></source>
         <translation>%1 s</translation>
+    </message>
+    <message id="enumeration_and">
+        <source></source>
+        <translation>%1 et %2</translation>
     </message>
     <message id="extension_firefox_system">
         <source></source>
@@ -1360,6 +1410,21 @@
     <message id="undo_button">
         <source></source>
         <translation>Annuler</translation>
+    </message>
+    <message id="undo_deleted_format">
+        <source></source>
+        <translation>« %1 » a été supprimé</translation>
+    </message>
+    <message id="undo_phases_deleted" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n phase a été supprimée</numerusform>
+            <numerusform>%n phases ont été supprimées</numerusform>
+        </translation>
+    </message>
+    <message id="undo_unscheduled_format">
+        <source></source>
+        <translation>« %1 » a été retirée de l’agenda</translation>
     </message>
     <message id="verdict_blocked">
         <source></source>

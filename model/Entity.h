@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <optional>
 
 namespace norvin {
 
@@ -24,6 +25,11 @@ public:
     /// last.
     [[nodiscard]] static bool isOlder(const Entity& a, const Entity& b) {
         return a.m_sequence < b.m_sequence;
+    }
+
+    /// Place in store order, above 0; none for an entity that was never inserted.
+    [[nodiscard]] std::optional<qint64> place() const {
+        return m_sequence == notInserted ? std::nullopt : std::optional(m_sequence);
     }
 
 Q_SIGNALS:
@@ -62,9 +68,11 @@ protected:
 private:
     friend class ModelContext;
     friend class PlanningGraph;
+    friend class SnapshotAccess;
 
     ModelContext* m_context = nullptr;
-    qint64 m_sequence = std::numeric_limits<qint64>::max();
+    static constexpr qint64 notInserted = std::numeric_limits<qint64>::max();
+    qint64 m_sequence = notInserted;
     Kind m_kind;
     /// The store has a row of this entity.
     bool m_stored = false;

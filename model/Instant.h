@@ -23,7 +23,13 @@ public:
         return m_milliseconds == none ? QDateTime() : QDateTime::fromMSecsSinceEpoch(m_milliseconds);
     }
 
+    [[nodiscard]] constexpr bool isNone() const { return m_milliseconds == none; }
+    /// Since the epoch; meaningless for none.
+    [[nodiscard]] constexpr qint64 milliseconds() const { return m_milliseconds; }
+
     friend constexpr bool operator==(Instant a, Instant b) = default;
+    /// None comes before all others.
+    friend constexpr auto operator<=>(Instant a, Instant b) = default;
 
 private:
     static constexpr qint64 none = std::numeric_limits<qint64>::min();

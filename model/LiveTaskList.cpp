@@ -17,6 +17,7 @@ LiveTaskList::LiveTaskList(ModelContext& context, Predicate accept, Order order,
     connect(m_context, &ModelContext::taskInserted, this, &LiveTaskList::update);
     connect(m_context, &ModelContext::taskChanged, this, &LiveTaskList::update);
     connect(m_context, &ModelContext::taskAboutToBeRemoved, this, &LiveTaskList::removeRow);
+    connect(m_context, &ModelContext::tasksMoved, this, [this] { setQuery(m_accept, m_order); });
     connect(m_context, &QObject::destroyed, this, [this] {
         beginResetModel();
         m_context = nullptr;

@@ -224,6 +224,15 @@ void ModelContext::remove(const SessionId& session) {
     Q_EMIT sessionsRemoved();
 }
 
+void ModelContext::moveTask(TaskItem& task, TaskItem* before) {
+    if (task.context() != this || !d->graph->move(task, before))
+        return;
+    d->scheduleSave();
+    if (task.parentTask() != nullptr)
+        Q_EMIT task.parentTask()->subtasksChanged();
+    Q_EMIT tasksMoved();
+}
+
 const std::vector<Project*>& ModelContext::projects() const {
     return d->graph->projects().all;
 }
@@ -255,6 +264,12 @@ TaskItem* ModelContext::task(TaskId id) const {
 }
 Project* ModelContext::project(ProjectId id) const {
     return d->graph->projects().byId.value(id.uuid());
+}
+ProjectPhase* ModelContext::phase(ProjectPhaseId id) const {
+    return d->graph->phases().byId.value(id.uuid());
+}
+TaskResource* ModelContext::resource(TaskResourceId id) const {
+    return d->graph->resources().byId.value(id.uuid());
 }
 
 QList<Session> ModelContext::fetchSessions(const RecordQuery& query) const {

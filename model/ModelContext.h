@@ -59,7 +59,11 @@ public:
     /// An unknown session is ignored. Where the store cannot be read, that is logged and the session stays.
     void remove(const SessionId& session);
 
-    /// All entities of a type in the order of their creation in this store.
+    /// Puts a task before one of its siblings in store order, or after the last of them for null: the other
+    /// subtasks of its parent, or the other tasks without one. Anything else changes nothing.
+    void moveTask(TaskItem& task, TaskItem* before);
+
+    /// All entities of a type in store order: that of their creation in this store, unless they were moved.
     [[nodiscard]] const std::vector<Project*>& projects() const;
     [[nodiscard]] const std::vector<ProjectPhase*>& phases() const;
     [[nodiscard]] const std::vector<TaskItem*>& tasks() const;
@@ -69,9 +73,11 @@ public:
     [[nodiscard]] std::vector<TaskItem*>
     fetchTasks(const std::function<bool(const TaskItem&)>& accept,
                const std::function<bool(const TaskItem&, const TaskItem&)>& before = {}) const;
-    /// Null when there is no such task; the same for project().
+    /// Null when there is no such task; the same for the others.
     [[nodiscard]] TaskItem* task(TaskId id) const;
     [[nodiscard]] Project* project(ProjectId id) const;
+    [[nodiscard]] ProjectPhase* phase(ProjectPhaseId id) const;
+    [[nodiscard]] TaskResource* resource(TaskResourceId id) const;
 
     /// Records by ascending start, those not yet saved included. A read error is logged and gives what was
     /// read.
@@ -89,6 +95,8 @@ Q_SIGNALS:
     void phaseInserted(norvin::ProjectPhase* phase);
     void taskInserted(norvin::TaskItem* task);
     void resourceInserted(norvin::TaskResource* resource);
+    /// Tasks changed places in store order.
+    void tasksMoved();
     /// A property of the entity changed.
     void projectChanged(norvin::Project* project);
     void phaseChanged(norvin::ProjectPhase* phase);

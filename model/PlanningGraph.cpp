@@ -5,6 +5,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <iterator>
 #include <tuple>
 #include <utility>
 
@@ -164,10 +165,19 @@ bool PlanningGraph::enter(EntityPool<T>& pool, T& entity, ModelContext* context)
     if (entity.id().isNull() || pool.byId.contains(entity.id().uuid()))
         return false;
     shelve(entity, context);
-    entity.m_sequence = ++m_lastSequence;
     entity.m_stored = false;
     entity.m_dirty = true;
-    pool.all.push_back(&entity);
+    // What was deleted and comes back takes its place again, unless that went to another meanwhile.
+    const auto place = std::lower_bound(pool.all.begin(), pool.all.end(), &entity,
+                                        [](const T* a, const T* b) { return Entity::isOlder(*a, *b); });
+    const bool isFree = entity.m_sequence > 0 && entity.m_sequence <= pool.lastPlace &&
+                        (place == pool.all.end() || (*place)->m_sequence != entity.m_sequence);
+    if (isFree) {
+        pool.all.insert(place, &entity);
+    } else {
+        entity.m_sequence = ++pool.lastPlace;
+        pool.all.push_back(&entity);
+    }
     pool.byId.insert(entity.id().uuid(), &entity);
     pool.created.push_back(&entity);
     return true;
@@ -217,6 +227,48 @@ bool PlanningGraph::adopt(TaskResource& resource, ModelContext* context) {
         return false;
     if (resource.m_task != nullptr)
         Entity::reorder(resource.m_task->m_resources, &resource);
+    return true;
+}
+
+bool PlanningGraph::move(TaskItem& task, TaskItem* before) {
+    if (task.m_context == nullptr || before == &task ||
+        (before != nullptr && (before->m_context == nullptr || before->m_parentTask != task.m_parentTask)))
+        return false;
+    std::vector<TaskItem*> siblings;
+    std::copy_if(m_tasks.all.begin(), m_tasks.all.end(), std::back_inserter(siblings),
+                 [&task](const TaskItem* other) { return other->m_parentTask == task.m_parentTask; });
+    std::vector<TaskItem*> wanted = siblings;
+    std::erase(wanted, &task);
+    wanted.insert(before == nullptr ? wanted.end() : std::find(wanted.begin(), wanted.end(), before), &task);
+
+    // Only those between the old place and the new one change, and they share the places that they have.
+    std::vector<TaskItem*> changed;
+    std::vector<qint64> places;
+    for (size_t at = 0; at < wanted.size(); ++at) {
+        if (wanted[at] != siblings[at]) {
+            changed.push_back(wanted[at]);
+            places.push_back(siblings[at]->m_sequence);
+        }
+    }
+    if (changed.empty())
+        return false;
+    for (size_t at = 0; at < changed.size(); ++at)
+        changed[at]->m_sequence = places[at];
+    const auto older = [](const TaskItem* a, const TaskItem* b) { return Entity::isOlder(*a, *b); };
+    std::sort(m_tasks.all.begin(), m_tasks.all.end(), older);
+    for (TaskItem* moved : changed) {
+        if (std::find(m_tasks.moved.begin(), m_tasks.moved.end(), moved) == m_tasks.moved.end())
+            m_tasks.moved.push_back(moved);
+        for (QList<TaskItem*>* list : {moved->m_project ? &moved->m_project->m_tasks : nullptr,
+                                       moved->m_phase ? &moved->m_phase->m_tasks : nullptr}) {
+            if (list != nullptr && !std::is_sorted(list->begin(), list->end(), older))
+                std::sort(list->begin(), list->end(), older);
+        }
+    }
+    if (task.m_parentTask != nullptr) {
+        QList<TaskItem*>& subtasks = task.m_parentTask->m_subtasks;
+        std::sort(subtasks.begin(), subtasks.end(), older);
+    }
     return true;
 }
 
@@ -345,6 +397,7 @@ void PlanningGraph::leave(EntityPool<T>& pool, const std::vector<T*>& removed) {
     std::erase_if(pool.all, gone);
     std::erase_if(pool.created, gone);
     std::erase_if(pool.modified, gone);
+    std::erase_if(pool.moved, gone);
 }
 
 void PlanningGraph::release(const Removal& removal) {
@@ -365,7 +418,7 @@ void PlanningGraph::markWritten() {
                 }
                 written.clear();
             };
-            ((clean(pool.created), clean(pool.modified), pool.deleted.clear()), ...);
+            ((clean(pool.created), clean(pool.modified), pool.moved.clear(), pool.deleted.clear()), ...);
         },
         pools());
 }
@@ -373,7 +426,9 @@ void PlanningGraph::markWritten() {
 bool PlanningGraph::hasChanges() const {
     return std::apply(
         [](const auto&... pool) {
-            return ((!pool.created.empty() || !pool.modified.empty() || !pool.deleted.empty()) || ...);
+            return ((!pool.created.empty() || !pool.modified.empty() || !pool.moved.empty() ||
+                     !pool.deleted.empty()) ||
+                    ...);
         },
         pools());
 }

@@ -25,6 +25,10 @@ struct EntityPool {
     /// Those without a row, in store order, and those whose row is older than the object.
     std::vector<T*> created;
     std::vector<T*> modified;
+    /// Those whose row has another place than the object.
+    std::vector<T*> moved;
+    /// Place of the last entity in store order, past and present.
+    qint64 lastPlace = 0;
     /// Rows of entities that are gone, in the order in which to delete them.
     std::vector<QUuid> deleted;
 };
@@ -64,6 +68,10 @@ public:
     [[nodiscard]] bool adopt(TaskItem& task, ModelContext* context);
     [[nodiscard]] bool adopt(TaskResource& resource, ModelContext* context);
 
+    /// Puts a task before one of its siblings, the other subtasks of its parent or the other tasks without
+    /// one, or after the last of them for null.
+    /// @return whether anything changed: not for a task outside the graph, nor for one that is no sibling
+    [[nodiscard]] bool move(TaskItem& task, TaskItem* before);
     /// Notes that the row of an entity of the graph is out of date.
     void markModified(Entity& entity);
     /// Notes that no row can be relied upon.
@@ -96,7 +104,10 @@ private:
     template <class T>
     static void leave(EntityPool<T>& pool, const std::vector<T*>& removed);
     template <class T>
-    void addLoaded(EntityPool<T>& pool, T* entity);
+    void addLoaded(EntityPool<T>& pool, T* entity, qint64 place);
+    /// Whether the row of an entity of the pool is to be deleted and written anew.
+    template <class T>
+    [[nodiscard]] static bool comesBack(const EntityPool<T>& pool);
     [[nodiscard]] static bool goesAlong(const Entity& entity);
     static void collectTree(TaskItem& root, Removal& removal);
     void loadProjects(StoreConnection& connection);
@@ -109,8 +120,6 @@ private:
     EntityPool<ProjectPhase> m_phases;
     EntityPool<TaskItem> m_tasks;
     EntityPool<TaskResource> m_resources;
-    /// Place of the newest entity in store order.
-    qint64 m_lastSequence = 0;
     /// Parent of the entities that came last; null without a context.
     QObject* m_shelf = nullptr;
     int m_shelfCount = 0;

@@ -6,6 +6,7 @@
 #include <SQLiteCpp/Exception.h>
 
 #include <algorithm>
+#include <limits>
 #include <tuple>
 #include <utility>
 #include <vector>
@@ -30,15 +31,19 @@ void bindReference(SQLite::Statement& statement, int index, const T* entity) {
         statement.bind(index);
 }
 
-// Statements of one type. The parameters of insertion and update are the same, the first being the id.
+// Statements of one type. The parameters of insertion and update are the same, the first being the id; that
+// of the place, which is the rowid, follows in the insertion. Where somebody took that in a shell, the row
+// goes to the end.
 template <class T>
 struct Rows;
 
 template <>
 struct Rows<Project> {
+    static constexpr int placeParameter = 7;
     static constexpr const char* insertion =
-        "INSERT INTO Project(id, name, projectDescription, colorHex, emoji, createdAt) "
-        "VALUES(?1, ?2, ?3, ?4, ?5, ?6)";
+        "INSERT INTO Project(id, name, projectDescription, colorHex, emoji, createdAt, rowid) "
+        "VALUES(?1, ?2, ?3, ?4, ?5, ?6, "
+        "CASE WHEN EXISTS(SELECT 1 FROM Project WHERE rowid = ?7) THEN NULL ELSE ?7 END)";
     static constexpr const char* update =
         "UPDATE Project SET name = ?2, projectDescription = ?3, colorHex = ?4, emoji = ?5, createdAt = ?6 "
         "WHERE id = ?1";
@@ -55,8 +60,11 @@ struct Rows<Project> {
 
 template <>
 struct Rows<ProjectPhase> {
+    static constexpr int placeParameter = 6;
     static constexpr const char* insertion =
-        "INSERT INTO ProjectPhase(id, name, orderIndex, createdAt, project) VALUES(?1, ?2, ?3, ?4, ?5)";
+        "INSERT INTO ProjectPhase(id, name, orderIndex, createdAt, project, rowid) "
+        "VALUES(?1, ?2, ?3, ?4, ?5, "
+        "CASE WHEN EXISTS(SELECT 1 FROM ProjectPhase WHERE rowid = ?6) THEN NULL ELSE ?6 END)";
     static constexpr const char* update =
         "UPDATE ProjectPhase SET name = ?2, orderIndex = ?3, createdAt = ?4, project = ?5 WHERE id = ?1";
     static constexpr const char* deletion = "DELETE FROM ProjectPhase WHERE id = ?1";
@@ -71,9 +79,12 @@ struct Rows<ProjectPhase> {
 
 template <>
 struct Rows<TaskItem> {
+    static constexpr int placeParameter = 12;
     static constexpr const char* insertion =
         "INSERT INTO TaskItem(id, title, taskDescription, statusValue, priorityValue, dueDate, createdAt, "
-        "plannedDate, project, phase, parentTask) VALUES(?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9, ?10, ?11)";
+        "plannedDate, project, phase, parentTask, rowid) "
+        "VALUES(?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9, ?10, ?11, "
+        "CASE WHEN EXISTS(SELECT 1 FROM TaskItem WHERE rowid = ?12) THEN NULL ELSE ?12 END)";
     static constexpr const char* update =
         "UPDATE TaskItem SET title = ?2, taskDescription = ?3, statusValue = ?4, priorityValue = ?5, "
         "dueDate = ?6, createdAt = ?7, plannedDate = ?8, project = ?9, phase = ?10, parentTask = ?11 "
@@ -96,9 +107,11 @@ struct Rows<TaskItem> {
 
 template <>
 struct Rows<TaskResource> {
+    static constexpr int placeParameter = 7;
     static constexpr const char* insertion =
-        "INSERT INTO TaskResource(id, name, fileType, fileURLData, createdAt, task) "
-        "VALUES(?1, ?2, ?3, ?4, ?5, ?6)";
+        "INSERT INTO TaskResource(id, name, fileType, fileURLData, createdAt, task, rowid) "
+        "VALUES(?1, ?2, ?3, ?4, ?5, ?6, "
+        "CASE WHEN EXISTS(SELECT 1 FROM TaskResource WHERE rowid = ?7) THEN NULL ELSE ?7 END)";
     static constexpr const char* update =
         "UPDATE TaskResource SET name = ?2, fileType = ?3, fileURLData = ?4, createdAt = ?5, task = ?6 "
         "WHERE id = ?1";
@@ -121,7 +134,21 @@ template <class T>
 void insertRow(StoreConnection& connection, const T& entity) {
     const CachedStatement statement = connection.statement(Rows<T>::insertion);
     Rows<T>::bind(*statement, entity);
+    statement->bind(Rows<T>::placeParameter, static_cast<int64_t>(entity.place().value_or(0)));
     statement->exec();
+}
+
+// Rows change places among themselves, so all of them step aside first: below zero nothing else is.
+void moveRows(StoreConnection& connection, const std::vector<TaskItem*>& moved) {
+    for (const int sign : {-1, 1}) {
+        for (const TaskItem* task : moved) {
+            const CachedStatement statement =
+                connection.statement("UPDATE OR IGNORE TaskItem SET rowid = ?2 WHERE id = ?1");
+            row::bind(*statement, 1, task->id().uuid());
+            statement->bind(2, static_cast<int64_t>(sign * task->place().value_or(0)));
+            statement->exec();
+        }
+    }
 }
 
 template <class T>
@@ -146,11 +173,17 @@ void deleteRows(StoreConnection& connection, const std::vector<QUuid>& ids) {
     }
 }
 
+// What comes after it still has room for more than anybody inserts.
+constexpr qint64 lastUsablePlace = std::numeric_limits<qint64>::max() / 2;
+
 } // namespace
 
 template <class T>
-void PlanningGraph::addLoaded(EntityPool<T>& pool, T* entity) {
-    entity->m_sequence = ++m_lastSequence;
+void PlanningGraph::addLoaded(EntityPool<T>& pool, T* entity, qint64 place) {
+    // Rows come by ascending place; those of a hand-edited file may begin below 1.
+    const bool isInOrder = place > pool.lastPlace && place < lastUsablePlace;
+    entity->m_sequence = isInOrder ? place : pool.lastPlace + 1;
+    pool.lastPlace = entity->m_sequence;
     entity->m_stored = true;
     pool.all.push_back(entity);
     pool.byId.insert(entity->id().uuid(), entity);
@@ -159,20 +192,22 @@ void PlanningGraph::addLoaded(EntityPool<T>& pool, T* entity) {
 void PlanningGraph::loadProjects(StoreConnection& connection) {
     RowCursor rows(
         connection.database().getHandle(),
-        "SELECT id, name, projectDescription, colorHex, emoji, createdAt FROM Project ORDER BY rowid");
+        "SELECT id, name, projectDescription, colorHex, emoji, createdAt, rowid FROM Project ORDER BY rowid");
     while (rows.next()) {
-        addLoaded(m_projects, new Project({.id = ProjectId(rows.uuid(0)),
-                                           .name = rows.text(1),
-                                           .projectDescription = rows.text(2),
-                                           .colorHex = rows.text(3),
-                                           .emoji = rows.text(4),
-                                           .createdAt = rows.instant(5).dateTime()}));
+        addLoaded(m_projects,
+                  new Project({.id = ProjectId(rows.uuid(0)),
+                               .name = rows.text(1),
+                               .projectDescription = rows.text(2),
+                               .colorHex = rows.text(3),
+                               .emoji = rows.text(4),
+                               .createdAt = rows.instant(5).dateTime()}),
+                  rows.place(6));
     }
 }
 
 void PlanningGraph::loadPhases(StoreConnection& connection) {
     RowCursor rows(connection.database().getHandle(),
-                   "SELECT id, name, orderIndex, createdAt, project FROM ProjectPhase "
+                   "SELECT id, name, orderIndex, createdAt, project, rowid FROM ProjectPhase "
                    "ORDER BY rowid");
     while (rows.next()) {
         auto* phase = new ProjectPhase({.id = ProjectPhaseId(rows.uuid(0)),
@@ -180,7 +215,7 @@ void PlanningGraph::loadPhases(StoreConnection& connection) {
                                         .orderIndex = rows.number(2),
                                         .project = nullptr,
                                         .createdAt = rows.instant(3).dateTime()});
-        addLoaded(m_phases, phase);
+        addLoaded(m_phases, phase, rows.place(5));
         phase->m_project = find(m_projects, rows, 4);
         if (phase->m_project != nullptr)
             phase->m_project->m_phases.append(phase);
@@ -191,7 +226,7 @@ void PlanningGraph::loadTasks(StoreConnection& connection) {
     RowCursor rows(
         connection.database().getHandle(),
         "SELECT id, title, taskDescription, statusValue, priorityValue, dueDate, createdAt, plannedDate, "
-        "project, phase, parentTask FROM TaskItem ORDER BY rowid");
+        "project, phase, parentTask, rowid FROM TaskItem ORDER BY rowid");
     // No more than there are, and where many were deleted no less than makes sense.
     constexpr int most = 100'000;
     RowCursor newest(connection.database().getHandle(), "SELECT max(rowid) FROM TaskItem");
@@ -213,7 +248,7 @@ void PlanningGraph::loadTasks(StoreConnection& connection) {
                                    .createdAt = {},
                                    .project = nullptr,
                                    .phase = nullptr});
-        addLoaded(m_tasks, task);
+        addLoaded(m_tasks, task, rows.place(11));
         // Texts and numbers that mean nothing to us stay as they are.
         const QString status = rows.text(3);
         if (status == done)
@@ -268,14 +303,14 @@ void PlanningGraph::linkSubtasks() {
 void PlanningGraph::loadResources(StoreConnection& connection) {
     RowCursor rows(
         connection.database().getHandle(),
-        "SELECT id, name, fileType, fileURLData, createdAt, task FROM TaskResource ORDER BY rowid");
+        "SELECT id, name, fileType, fileURLData, createdAt, task, rowid FROM TaskResource ORDER BY rowid");
     while (rows.next()) {
         auto* resource = new TaskResource({.id = TaskResourceId(rows.uuid(0)),
                                            .name = rows.text(1),
                                            .fileType = rows.text(2),
                                            .fileURL = {},
                                            .createdAt = rows.instant(4).dateTime()});
-        addLoaded(m_resources, resource);
+        addLoaded(m_resources, resource, rows.place(6));
         resource->m_fileURLData = rows.bytes(3);
         resource->m_task = find(m_tasks, rows, 5);
         if (resource->m_task != nullptr)
@@ -295,22 +330,32 @@ StoreResult PlanningGraph::load(StoreConnection& connection) {
     }
 }
 
+template <class T>
+bool PlanningGraph::comesBack(const EntityPool<T>& pool) {
+    return std::any_of(pool.deleted.begin(), pool.deleted.end(),
+                       [&pool](const QUuid& id) { return pool.byId.contains(id); });
+}
+
 void PlanningGraph::write(StoreConnection& connection) const {
+    const auto updateAll = [this, &connection] {
+        std::apply(
+            [&connection](const auto&... pool) {
+                const auto update = [&connection](const auto& entities) {
+                    for (const auto* entity : entities)
+                        updateRow(connection, *entity);
+                };
+                (update(pool.modified), ...);
+            },
+            pools());
+    };
     // Updates come before deletions: a subtask that was moved away must not go with its former parent.
     // Deletions come before insertions: an id may come back in the same save.
-    std::apply(
-        [&connection](const auto&... pool) {
-            const auto update = [&connection](const auto& entities) {
-                for (const auto* entity : entities)
-                    updateRow(connection, *entity);
-            };
-            (update(pool.modified), ...);
-        },
-        pools());
+    updateAll();
     deleteRows<TaskResource>(connection, m_resources.deleted);
     deleteRows<TaskItem>(connection, m_tasks.deleted);
     deleteRows<ProjectPhase>(connection, m_phases.deleted);
     deleteRows<Project>(connection, m_projects.deleted);
+    moveRows(connection, m_tasks.moved);
     std::apply(
         [&connection](const auto&... pool) {
             const auto insert = [&connection](const auto& entities) {
@@ -320,6 +365,11 @@ void PlanningGraph::write(StoreConnection& connection) const {
             (insert(pool.created), ...);
         },
         pools());
+    // The deletion of a row that came back took the references to it along, or even the rows that had them.
+    const bool anyComesBack =
+        std::apply([](const auto&... pool) { return (comesBack(pool) || ...); }, pools());
+    if (anyComesBack)
+        updateAll();
 }
 
 } // namespace norvin

@@ -68,6 +68,7 @@ Q_SIGNALS:
 private:
     friend class ModelContext;
     friend class PlanningGraph;
+    friend class SnapshotAccess;
     friend class ProjectPhase;
     friend class TaskItem;
 

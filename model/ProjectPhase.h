@@ -54,6 +54,7 @@ Q_SIGNALS:
 private:
     friend class ModelContext;
     friend class PlanningGraph;
+    friend class SnapshotAccess;
     friend class Project;
     friend class TaskItem;
 

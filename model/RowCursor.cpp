@@ -37,6 +37,10 @@ int RowCursor::number(int column) const {
     return sqlite3_column_int(m_statement.get(), column);
 }
 
+qint64 RowCursor::place(int column) const {
+    return sqlite3_column_int64(m_statement.get(), column);
+}
+
 // The pointer has to be asked for before the length, which is that of its representation.
 QUuid RowCursor::uuid(int column) const {
     const auto* raw = static_cast<const char*>(sqlite3_column_blob(m_statement.get(), column));

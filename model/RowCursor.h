@@ -25,6 +25,8 @@ public:
     // Values of the current row, by column number from 0.
     [[nodiscard]] bool isNull(int column) const;
     [[nodiscard]] int number(int column) const;
+    /// A rowid.
+    [[nodiscard]] qint64 place(int column) const;
     /// Null for a value that is no id.
     [[nodiscard]] QUuid uuid(int column) const;
     [[nodiscard]] QString text(int column) const;

@@ -74,6 +74,12 @@ public:
     [[nodiscard]] QDateTime plannedDate() const { return m_plannedDate.dateTime(); }
     void setPlannedDate(const QDateTime& date);
     [[nodiscard]] QDateTime createdAt() const { return m_createdAt.dateTime(); }
+    /// The same dates where many tasks are looked at: comparing these asks no time zone.
+    [[nodiscard]] Instant dueInstant() const { return m_dueDate; }
+    [[nodiscard]] Instant plannedInstant() const { return m_plannedDate; }
+    /// When the task stands on the agenda: as planned, else as due; none without either.
+    [[nodiscard]] Instant agendaInstant() const { return m_plannedDate.isNone() ? m_dueDate : m_plannedDate; }
+    [[nodiscard]] Instant createdInstant() const { return m_createdAt; }
 
     /// Null when there is none; the same for phase() and parentTask().
     [[nodiscard]] Project* project() const { return m_project; }
@@ -84,7 +90,7 @@ public:
     /// A task cannot become its own ancestor; such a call changes nothing.
     void setParentTask(TaskItem* parent);
 
-    /// In the order of creation; the same for resources().
+    /// In store order, which is that of creation unless they were moved; resources() in that of creation.
     [[nodiscard]] const QList<TaskItem*>& subtasks() const { return m_subtasks; }
     [[nodiscard]] const QList<TaskResource*>& resources() const { return m_resources; }
     /// The sessions recorded for this task, oldest first, read from the store; empty without a context.
@@ -121,6 +127,7 @@ Q_SIGNALS:
 private:
     friend class ModelContext;
     friend class PlanningGraph;
+    friend class SnapshotAccess;
     friend class Project;
     friend class ProjectPhase;
     friend class TaskResource;

@@ -59,6 +59,7 @@ Q_SIGNALS:
 private:
     friend class ModelContext;
     friend class PlanningGraph;
+    friend class SnapshotAccess;
     friend class TaskItem;
 
     TaskResourceId m_id;
