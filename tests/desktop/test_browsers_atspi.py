@@ -79,7 +79,8 @@ class Reading:
         self.pages.stay_open(NEWS, SECRET, VIDEO)
         self.browser.bring_to_front("Funny videos")
         self.assert_reads(VIDEO)
-        self.assertEqual(self.close_in_time("http://video"), "closed")
+        # A call that came back too late may have closed it, which leaves another page for the next one.
+        self.assertIn(self.close_in_time("http://video"), ("closed", "otherPage"))
         self.pages.wait_until_open(NEWS, SECRET)
         self.pages.stay_open(NEWS, SECRET)
 
