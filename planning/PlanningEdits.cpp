@@ -205,6 +205,13 @@ void PlanningEdits::bringBack(const Deleted& deleted) {
         m_timer.setActiveTask(m_context.task(*deleted.activeTask));
 }
 
+void PlanningEdits::setStatus(TaskItem& task, TaskStatus status) {
+    const bool wasDone = task.isDone();
+    task.setStatus(status);
+    if (!wasDone && status == TaskStatus::done)
+        m_timer.recordTaskCompletion(task.parentTask() != nullptr);
+}
+
 void PlanningEdits::offerUndo(const QString& text, std::function<void()> takeBack) {
     m_undoText = text;
     m_takeBack = std::move(takeBack);

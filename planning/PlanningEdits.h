@@ -44,6 +44,10 @@ public:
     /// Takes the task off the timer's queue; deletes it when it has no project, else clears both its dates.
     void unschedule(TaskItem& task);
 
+    /// Sets the status of the task, and by its rule that of its subtasks, and has a task or subtask that this
+    /// finished counted by the timer. This cannot be undone but by setting the status again.
+    void setStatus(TaskItem& task, TaskStatus status);
+
     /// Offers to take back what the caller has just done, as long as any edit can be.
     void offerUndo(const QString& text, std::function<void()> takeBack);
     [[nodiscard]] const QString& undoText() const { return m_undoText; }
