@@ -85,7 +85,7 @@ void AllProjectsView::deleteProject(const QString& projectId) {
         m_edits.deleteProject(*project);
 }
 
-void AllProjectsView::retranslate(const QLocale& locale) {
+void AllProjectsView::setLocale(const QLocale& locale) {
     m_projects.setLocale(locale);
 }
 

@@ -13,8 +13,8 @@ class PlanningEdits;
 class Project;
 class ProjectSheet;
 
-/// The list of projects: what it shows, and what can be done to one of them. Projects are named by the text of
-/// their id; one that is no longer there is ignored. Main thread only.
+/// The list of projects: what it shows, and what can be done to one of them. Projects are named by the text
+/// of their id; one that is no longer there is ignored. Main thread only.
 class AllProjectsView final : public QObject {
     Q_OBJECT
     Q_PROPERTY(norvin::ProjectListModel* projects READ projects CONSTANT)
@@ -46,7 +46,7 @@ public:
     Q_INVOKABLE void deleteProject(const QString& projectId);
 
     /// The order of names is that of the language.
-    void retranslate(const QLocale& locale);
+    void setLocale(const QLocale& locale);
 
 Q_SIGNALS:
     void searchTextChanged();

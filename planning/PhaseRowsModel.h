@@ -9,8 +9,8 @@
 
 namespace norvin {
 
-/// The phases of a project while they are edited. A row remembers the phase that it came from, so that its name
-/// and place can change without its tasks losing it. Main thread only.
+/// The phases of a project while they are edited. A row remembers the phase that it came from, so that its
+/// name and place can change without its tasks losing it. Main thread only.
 class PhaseRowsModel final : public QAbstractListModel {
     Q_OBJECT
     Q_PROPERTY(int count READ count NOTIFY countChanged)

@@ -176,11 +176,16 @@ QVariant ProjectListModel::data(const QModelIndex& index, int role) const {
 }
 
 QHash<int, QByteArray> ProjectListModel::roleNames() const {
-    return {{ProjectIdRole, "projectId"}, {NameRole, "name"},
-            {EmojiRole, "emoji"},         {ColorRole, "colorHex"},
-            {DescriptionRole, "description"}, {TaskCountRole, "taskCount"},
-            {OpenCountRole, "openCount"}, {DoneCountRole, "doneCount"},
-            {ProgressRole, "progress"},   {PhaseCountRole, "phaseCount"}};
+    return {{ProjectIdRole, "projectId"},
+            {NameRole, "name"},
+            {EmojiRole, "emoji"},
+            {ColorRole, "colorHex"},
+            {DescriptionRole, "description"},
+            {TaskCountRole, "taskCount"},
+            {OpenCountRole, "openCount"},
+            {DoneCountRole, "doneCount"},
+            {ProgressRole, "progress"},
+            {PhaseCountRole, "phaseCount"}};
 }
 
 } // namespace norvin

@@ -15,9 +15,9 @@ namespace norvin {
 class ModelContext;
 class TaskItem;
 
-/// The projects whose name or description contains what is looked for, with what their tasks come to. Tasks are
-/// counted without their subtasks. What changes in the store is counted at the end of the event-loop turn, and
-/// only in the projects that it touches. Empty before the first load(). Main thread only.
+/// The projects whose name or description contains what is looked for, with what their tasks come to. Tasks
+/// are counted without their subtasks. What changes in the store is counted at the end of the event-loop
+/// turn, and only in the projects that it touches. Empty before the first load(). Main thread only.
 class ProjectListModel final : public EntityListModel {
     Q_OBJECT
     /// Projects there are, whatever is looked for.
@@ -44,7 +44,8 @@ public:
     explicit ProjectListModel(ModelContext& context, QObject* parent = nullptr);
     ~ProjectListModel() override;
 
-    /// Counts everything for the first time and follows the store from then on; does nothing when called again.
+    /// Counts everything for the first time and follows the store from then on; does nothing when called
+    /// again.
     void load();
     /// Takes what changed into account now rather than at the end of the turn.
     void settle();

@@ -21,8 +21,7 @@ ProjectSheet::ProjectSheet(ModelContext& context, PlanningEdits& edits, Clock& c
     });
     connect(&m_context, &ModelContext::phaseAboutToBeRemoved, this, [this](const ProjectPhase* phase) {
         m_phases.forget(phase);
-        erase_if(m_originalPhases,
-                 [phase](const PhaseRowsModel::Row& row) { return row.phase == phase; });
+        erase_if(m_originalPhases, [phase](const PhaseRowsModel::Row& row) { return row.phase == phase; });
         Q_EMIT edited();
     });
     for (const auto signal : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
@@ -38,10 +37,10 @@ QList<QString> ProjectSheet::emojis() {
             QStringLiteral("🎨"), QStringLiteral("📊"), QStringLiteral("🔧"), QStringLiteral("📱"),
             QStringLiteral("🌐"), QStringLiteral("🎮"), QStringLiteral("📝"),
             // The construction sign is drawn in colour only with the variation selector behind it.
-            QStringLiteral(u"\U0001F3D7\uFE0F"),
-            QStringLiteral("💼"), QStringLiteral("🔬"), QStringLiteral("📚"), QStringLiteral("🎵"),
-            QStringLiteral("🛒"), QStringLiteral("⚡"), QStringLiteral("🧩"), QStringLiteral("🌟"),
-            QStringLiteral("🔥"), QStringLiteral("🧠"), QStringLiteral("💎"), QStringLiteral("🪄")};
+            QStringLiteral(u"\U0001F3D7\uFE0F"), QStringLiteral("💼"), QStringLiteral("🔬"),
+            QStringLiteral("📚"), QStringLiteral("🎵"), QStringLiteral("🛒"), QStringLiteral("⚡"),
+            QStringLiteral("🧩"), QStringLiteral("🌟"), QStringLiteral("🔥"), QStringLiteral("🧠"),
+            QStringLiteral("💎"), QStringLiteral("🪄")};
 }
 
 QList<QString> ProjectSheet::colors() {
@@ -211,11 +210,8 @@ void ProjectSheet::writePhases(Project& project) {
                 row.phase->setName(name);
             row.phase->setOrderIndex(position++);
         } else if (!name.isEmpty()) {
-            m_context.insert(std::make_unique<ProjectPhase>(
-                ProjectPhase::Init{.name = name,
-                                   .orderIndex = position++,
-                                   .project = &project,
-                                   .createdAt = m_clock.now()}));
+            m_context.insert(std::make_unique<ProjectPhase>(ProjectPhase::Init{
+                .name = name, .orderIndex = position++, .project = &project, .createdAt = m_clock.now()}));
         }
     }
 }

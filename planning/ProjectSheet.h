@@ -16,8 +16,8 @@ class ModelContext;
 class PlanningEdits;
 class Project;
 
-/// The sheet in which a project is made or edited. Nothing reaches the store before saveProject(). Main thread
-/// only.
+/// The sheet in which a project is made or edited. Nothing reaches the store before saveProject(). Main
+/// thread only.
 class ProjectSheet final : public QObject {
     Q_OBJECT
     Q_PROPERTY(bool isPresented READ isPresented WRITE setPresented NOTIFY presentedChanged)
