@@ -106,6 +106,18 @@
         <source></source>
         <translation>Applications</translation>
     </message>
+    <message id="attach_refused_again">
+        <source></source>
+        <translation>A file that is attached already was left out.</translation>
+    </message>
+    <message id="attach_refused_missing">
+        <source></source>
+        <translation>A file that is not there cannot be attached.</translation>
+    </message>
+    <message id="attach_refused_not_local">
+        <source></source>
+        <translation>Only files on this computer can be attached.</translation>
+    </message>
     <message id="balance_label">
         <source></source>
         <translation>Measured time</translation>
@@ -187,6 +199,10 @@
     <message id="browsers_fewer_button">
         <source></source>
         <translation>Show fewer</translation>
+    </message>
+    <message id="cancel_button">
+        <source></source>
+        <translation>Cancel</translation>
     </message>
     <message id="category_communication">
         <source></source>
@@ -275,6 +291,14 @@
         <source></source>
         <translation>Work phase finished</translation>
     </message>
+    <message id="confirm_delete_task_message">
+        <source></source>
+        <translation>The task is removed from its project, the agenda and the queue.</translation>
+    </message>
+    <message id="confirm_delete_task_title">
+        <source></source>
+        <translation>Delete this task?</translation>
+    </message>
     <message id="count_files" numerus="yes">
         <source></source>
         <translation>
@@ -309,6 +333,14 @@
             <numerusform>%n task</numerusform>
             <numerusform>%n tasks</numerusform>
         </translation>
+    </message>
+    <message id="day_in_a_week">
+        <source></source>
+        <translation>In a week</translation>
+    </message>
+    <message id="delete_button">
+        <source></source>
+        <translation>Delete</translation>
     </message>
     <message id="deletion_leaves_without_phase" numerus="yes">
         <source></source>
@@ -404,6 +436,14 @@
     <message id="extension_restart_browser">
         <source></source>
         <translation>The extension is in place. Close the browser and open it again.</translation>
+    </message>
+    <message id="file_open_button">
+        <source></source>
+        <translation>Open</translation>
+    </message>
+    <message id="file_save_button">
+        <source></source>
+        <translation>Save</translation>
     </message>
     <message id="health_accessibility_missing">
         <source></source>
@@ -806,10 +846,6 @@
         <source></source>
         <translation>Whitelisted</translation>
     </message>
-    <message id="lists_export_accept_button">
-        <source></source>
-        <translation>Save</translation>
-    </message>
     <message id="lists_export_button">
         <source></source>
         <translation>Export…</translation>
@@ -821,10 +857,6 @@
     <message id="lists_file_filter">
         <source></source>
         <translation>Block lists</translation>
-    </message>
-    <message id="lists_import_accept_button">
-        <source></source>
-        <translation>Open</translation>
     </message>
     <message id="lists_import_button">
         <source></source>
@@ -943,6 +975,18 @@
         <source></source>
         <translation>Work phase</translation>
     </message>
+    <message id="priority_high">
+        <source></source>
+        <translation>High</translation>
+    </message>
+    <message id="priority_low">
+        <source></source>
+        <translation>Low</translation>
+    </message>
+    <message id="priority_medium">
+        <source></source>
+        <translation>Medium</translation>
+    </message>
     <message id="queue_empty_subtitle">
         <source></source>
         <translation>Type what you want to get done and press Enter. Then start.</translation>
@@ -1006,6 +1050,50 @@
     <message id="refused_task_title_empty">
         <source></source>
         <translation>A task needs a title.</translation>
+    </message>
+    <message id="resource_missing">
+        <source></source>
+        <translation>The file is missing</translation>
+    </message>
+    <message id="resource_missing_name">
+        <source></source>
+        <translation>%1, the file is missing</translation>
+    </message>
+    <message id="resource_not_opened">
+        <source></source>
+        <translation>The desktop has no application that opens this file.</translation>
+    </message>
+    <message id="resource_open">
+        <source></source>
+        <translation>Open %1</translation>
+    </message>
+    <message id="resource_remove">
+        <source></source>
+        <translation>Take %1 off the task</translation>
+    </message>
+    <message id="resources_add_button">
+        <source></source>
+        <translation>Attach a file</translation>
+    </message>
+    <message id="resources_all_files">
+        <source></source>
+        <translation>All files</translation>
+    </message>
+    <message id="resources_choose_title">
+        <source></source>
+        <translation>Attach files</translation>
+    </message>
+    <message id="resources_drop_here">
+        <source></source>
+        <translation>Files can be dropped here. They stay where they are.</translation>
+    </message>
+    <message id="resources_drop_now">
+        <source></source>
+        <translation>Let go to attach</translation>
+    </message>
+    <message id="resources_title">
+        <source></source>
+        <translation>Files</translation>
     </message>
     <message id="resume_button">
         <source></source>
@@ -1085,6 +1173,10 @@
     <message id="score_term_total">
         <source></source>
         <translation>Score, kept between 0 and 10</translation>
+    </message>
+    <message id="sheet_close_button">
+        <source></source>
+        <translation>Close</translation>
     </message>
     <message id="sidebar_block_lists">
         <source></source>
@@ -1217,13 +1309,29 @@
         <source></source>
         <translation>Add a subtask to “%1”</translation>
     </message>
+    <message id="subtask_delete">
+        <source></source>
+        <translation>Delete %1</translation>
+    </message>
     <message id="subtask_placeholder">
         <source></source>
         <translation>Subtask, then Enter</translation>
     </message>
+    <message id="subtask_rename">
+        <source></source>
+        <translation>Rename %1</translation>
+    </message>
     <message id="subtasks_done">
         <source></source>
         <translation>%1/%2 subtasks</translation>
+    </message>
+    <message id="subtasks_keys_hint">
+        <source></source>
+        <translation>Space ticks · F2 renames · + adds below · Alt+↑↓ moves</translation>
+    </message>
+    <message id="subtasks_title">
+        <source></source>
+        <translation>Subtasks</translation>
     </message>
     <message id="suggestions_add_button" numerus="yes">
         <source></source>
@@ -1276,17 +1384,49 @@
         <source></source>
         <translation>%1, being worked on</translation>
     </message>
+    <message id="task_clear_day">
+        <source></source>
+        <translation>Clear the date: %1</translation>
+    </message>
+    <message id="task_create_button">
+        <source></source>
+        <translation>Create the task</translation>
+    </message>
     <message id="task_create_hint">
         <source></source>
         <translation>New task: “%1”</translation>
+    </message>
+    <message id="task_create_keys_hint">
+        <source></source>
+        <translation>Enter creates the task. Subtasks and files can be added once it is there.</translation>
+    </message>
+    <message id="task_delete_button">
+        <source></source>
+        <translation>Delete this task</translation>
+    </message>
+    <message id="task_description_placeholder">
+        <source></source>
+        <translation>Notes</translation>
+    </message>
+    <message id="task_detail_title">
+        <source></source>
+        <translation>Task</translation>
     </message>
     <message id="task_done_name">
         <source></source>
         <translation>%1, done</translation>
     </message>
+    <message id="task_due_label">
+        <source></source>
+        <translation>Due</translation>
+    </message>
     <message id="task_field_placeholder">
         <source></source>
         <translation>Type or pick a task</translation>
+    </message>
+    <message id="task_is_late">
+        <source></source>
+        <translation>late</translation>
     </message>
     <message id="task_make_active">
         <source></source>
@@ -1300,6 +1440,38 @@
         <source></source>
         <translation>Move “%1” up</translation>
     </message>
+    <message id="task_new_title">
+        <source></source>
+        <translation>New task</translation>
+    </message>
+    <message id="task_no_day">
+        <source></source>
+        <translation>No date</translation>
+    </message>
+    <message id="task_no_phase">
+        <source></source>
+        <translation>No phase</translation>
+    </message>
+    <message id="task_no_project">
+        <source></source>
+        <translation>No project</translation>
+    </message>
+    <message id="task_phase_label">
+        <source></source>
+        <translation>Phase</translation>
+    </message>
+    <message id="task_planned_label">
+        <source></source>
+        <translation>Planned for</translation>
+    </message>
+    <message id="task_priority_label">
+        <source></source>
+        <translation>Priority</translation>
+    </message>
+    <message id="task_project_label">
+        <source></source>
+        <translation>Project</translation>
+    </message>
     <message id="task_remove">
         <source></source>
         <translation>Remove “%1” from the queue</translation>
@@ -1308,6 +1480,53 @@
         <source></source>
         <translation>Reopen “%1”</translation>
     </message>
+    <message id="task_sessions_none">
+        <source></source>
+        <translation>None yet</translation>
+    </message>
+    <message id="task_sessions_title">
+        <source></source>
+        <translation>Focus sessions</translation>
+    </message>
+    <message id="task_sessions_total" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n session, %1</numerusform>
+            <numerusform>%n sessions, %1</numerusform>
+        </translation>
+    </message>
+    <message id="task_show_parent">
+        <source></source>
+        <translation>Show the task above: %1</translation>
+    </message>
+    <message id="task_status_done">
+        <source></source>
+        <translation>Done</translation>
+    </message>
+    <message id="task_status_done_short">
+        <source></source>
+        <translation>Done</translation>
+    </message>
+    <message id="task_status_in_progress">
+        <source></source>
+        <translation>In progress</translation>
+    </message>
+    <message id="task_status_in_progress_short">
+        <source></source>
+        <translation>Doing</translation>
+    </message>
+    <message id="task_status_label">
+        <source></source>
+        <translation>Status</translation>
+    </message>
+    <message id="task_status_todo">
+        <source></source>
+        <translation>To do</translation>
+    </message>
+    <message id="task_status_todo_short">
+        <source></source>
+        <translation>To do</translation>
+    </message>
     <message id="task_suggestions">
         <source></source>
         <translation>Tasks to pick from</translation>
@@ -1315,6 +1534,10 @@
     <message id="task_tick">
         <source></source>
         <translation>Tick off “%1”</translation>
+    </message>
+    <message id="task_title_placeholder">
+        <source></source>
+        <translation>What is to be done?</translation>
     </message>
     <message id="tasks_count" numerus="yes">
         <source></source>

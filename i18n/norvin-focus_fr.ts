@@ -106,6 +106,18 @@
         <source></source>
         <translation>Applications</translation>
     </message>
+    <message id="attach_refused_again">
+        <source></source>
+        <translation>Un fichier déjà joint a été laissé de côté.</translation>
+    </message>
+    <message id="attach_refused_missing">
+        <source></source>
+        <translation>Un fichier qui n’existe pas ne peut pas être joint.</translation>
+    </message>
+    <message id="attach_refused_not_local">
+        <source></source>
+        <translation>Seuls des fichiers de cet ordinateur peuvent être joints.</translation>
+    </message>
     <message id="balance_label">
         <source></source>
         <translation>Temps mesuré</translation>
@@ -187,6 +199,10 @@
     <message id="browsers_fewer_button">
         <source></source>
         <translation>Afficher moins</translation>
+    </message>
+    <message id="cancel_button">
+        <source></source>
+        <translation>Annuler</translation>
     </message>
     <message id="category_communication">
         <source></source>
@@ -275,6 +291,14 @@
         <source></source>
         <translation>Phase de travail terminée</translation>
     </message>
+    <message id="confirm_delete_task_message">
+        <source></source>
+        <translation>La tâche disparaît de son projet, de l’agenda et de la file.</translation>
+    </message>
+    <message id="confirm_delete_task_title">
+        <source></source>
+        <translation>Supprimer cette tâche ?</translation>
+    </message>
     <message id="count_files" numerus="yes">
         <source></source>
         <translation>
@@ -309,6 +333,14 @@
             <numerusform>%n tâche</numerusform>
             <numerusform>%n tâches</numerusform>
         </translation>
+    </message>
+    <message id="day_in_a_week">
+        <source></source>
+        <translation>Dans 7 jours</translation>
+    </message>
+    <message id="delete_button">
+        <source></source>
+        <translation>Supprimer</translation>
     </message>
     <message id="deletion_leaves_without_phase" numerus="yes">
         <source></source>
@@ -404,6 +436,14 @@
     <message id="extension_restart_browser">
         <source></source>
         <translation>L’extension est en place. Fermez le navigateur, puis rouvrez-le.</translation>
+    </message>
+    <message id="file_open_button">
+        <source></source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message id="file_save_button">
+        <source></source>
+        <translation>Enregistrer</translation>
     </message>
     <message id="health_accessibility_missing">
         <source></source>
@@ -806,10 +846,6 @@
         <source></source>
         <translation>Liste blanche</translation>
     </message>
-    <message id="lists_export_accept_button">
-        <source></source>
-        <translation>Enregistrer</translation>
-    </message>
     <message id="lists_export_button">
         <source></source>
         <translation>Exporter…</translation>
@@ -821,10 +857,6 @@
     <message id="lists_file_filter">
         <source></source>
         <translation>Listes de blocage</translation>
-    </message>
-    <message id="lists_import_accept_button">
-        <source></source>
-        <translation>Ouvrir</translation>
     </message>
     <message id="lists_import_button">
         <source></source>
@@ -943,6 +975,18 @@
         <source></source>
         <translation>Phase de travail</translation>
     </message>
+    <message id="priority_high">
+        <source></source>
+        <translation>Haute</translation>
+    </message>
+    <message id="priority_low">
+        <source></source>
+        <translation>Basse</translation>
+    </message>
+    <message id="priority_medium">
+        <source></source>
+        <translation>Moyenne</translation>
+    </message>
     <message id="queue_empty_subtitle">
         <source></source>
         <translation>Écrivez ce que vous voulez accomplir, puis Entrée. Il ne reste qu’à démarrer.</translation>
@@ -1006,6 +1050,50 @@
     <message id="refused_task_title_empty">
         <source></source>
         <translation>Une tâche a besoin d’un titre.</translation>
+    </message>
+    <message id="resource_missing">
+        <source></source>
+        <translation>Le fichier est introuvable</translation>
+    </message>
+    <message id="resource_missing_name">
+        <source></source>
+        <translation>%1, le fichier est introuvable</translation>
+    </message>
+    <message id="resource_not_opened">
+        <source></source>
+        <translation>Aucune application du bureau n’ouvre ce fichier.</translation>
+    </message>
+    <message id="resource_open">
+        <source></source>
+        <translation>Ouvrir %1</translation>
+    </message>
+    <message id="resource_remove">
+        <source></source>
+        <translation>Retirer %1 de la tâche</translation>
+    </message>
+    <message id="resources_add_button">
+        <source></source>
+        <translation>Joindre un fichier</translation>
+    </message>
+    <message id="resources_all_files">
+        <source></source>
+        <translation>Tous les fichiers</translation>
+    </message>
+    <message id="resources_choose_title">
+        <source></source>
+        <translation>Joindre des fichiers</translation>
+    </message>
+    <message id="resources_drop_here">
+        <source></source>
+        <translation>Déposez des fichiers ici. Ils restent où ils sont.</translation>
+    </message>
+    <message id="resources_drop_now">
+        <source></source>
+        <translation>Relâchez pour joindre</translation>
+    </message>
+    <message id="resources_title">
+        <source></source>
+        <translation>Fichiers</translation>
     </message>
     <message id="resume_button">
         <source></source>
@@ -1085,6 +1173,10 @@
     <message id="score_term_total">
         <source></source>
         <translation>Score, ramené entre 0 et 10</translation>
+    </message>
+    <message id="sheet_close_button">
+        <source></source>
+        <translation>Fermer</translation>
     </message>
     <message id="sidebar_block_lists">
         <source></source>
@@ -1217,13 +1309,29 @@
         <source></source>
         <translation>Ajouter une sous-tâche à « %1 »</translation>
     </message>
+    <message id="subtask_delete">
+        <source></source>
+        <translation>Supprimer %1</translation>
+    </message>
     <message id="subtask_placeholder">
         <source></source>
         <translation>Sous-tâche, puis Entrée</translation>
     </message>
+    <message id="subtask_rename">
+        <source></source>
+        <translation>Renommer %1</translation>
+    </message>
     <message id="subtasks_done">
         <source></source>
         <translation>%1/%2 sous-tâches</translation>
+    </message>
+    <message id="subtasks_keys_hint">
+        <source></source>
+        <translation>Espace coche · F2 renomme · + ajoute dessous · Alt+↑↓ déplace</translation>
+    </message>
+    <message id="subtasks_title">
+        <source></source>
+        <translation>Sous-tâches</translation>
     </message>
     <message id="suggestions_add_button" numerus="yes">
         <source></source>
@@ -1276,17 +1384,49 @@
         <source></source>
         <translation>%1, en cours</translation>
     </message>
+    <message id="task_clear_day">
+        <source></source>
+        <translation>Effacer la date : %1</translation>
+    </message>
+    <message id="task_create_button">
+        <source></source>
+        <translation>Créer la tâche</translation>
+    </message>
     <message id="task_create_hint">
         <source></source>
         <translation>Nouvelle tâche : « %1 »</translation>
+    </message>
+    <message id="task_create_keys_hint">
+        <source></source>
+        <translation>Entrée crée la tâche. Sous-tâches et fichiers s’ajoutent une fois qu’elle existe.</translation>
+    </message>
+    <message id="task_delete_button">
+        <source></source>
+        <translation>Supprimer cette tâche</translation>
+    </message>
+    <message id="task_description_placeholder">
+        <source></source>
+        <translation>Notes</translation>
+    </message>
+    <message id="task_detail_title">
+        <source></source>
+        <translation>Tâche</translation>
     </message>
     <message id="task_done_name">
         <source></source>
         <translation>%1, terminée</translation>
     </message>
+    <message id="task_due_label">
+        <source></source>
+        <translation>Échéance</translation>
+    </message>
     <message id="task_field_placeholder">
         <source></source>
         <translation>Saisir ou choisir une tâche</translation>
+    </message>
+    <message id="task_is_late">
+        <source></source>
+        <translation>en retard</translation>
     </message>
     <message id="task_make_active">
         <source></source>
@@ -1300,6 +1440,38 @@
         <source></source>
         <translation>Monter « %1 »</translation>
     </message>
+    <message id="task_new_title">
+        <source></source>
+        <translation>Nouvelle tâche</translation>
+    </message>
+    <message id="task_no_day">
+        <source></source>
+        <translation>Aucune date</translation>
+    </message>
+    <message id="task_no_phase">
+        <source></source>
+        <translation>Aucune phase</translation>
+    </message>
+    <message id="task_no_project">
+        <source></source>
+        <translation>Aucun projet</translation>
+    </message>
+    <message id="task_phase_label">
+        <source></source>
+        <translation>Phase</translation>
+    </message>
+    <message id="task_planned_label">
+        <source></source>
+        <translation>Prévue pour</translation>
+    </message>
+    <message id="task_priority_label">
+        <source></source>
+        <translation>Priorité</translation>
+    </message>
+    <message id="task_project_label">
+        <source></source>
+        <translation>Projet</translation>
+    </message>
     <message id="task_remove">
         <source></source>
         <translation>Retirer « %1 » de la file</translation>
@@ -1308,6 +1480,53 @@
         <source></source>
         <translation>Rouvrir « %1 »</translation>
     </message>
+    <message id="task_sessions_none">
+        <source></source>
+        <translation>Aucune pour l’instant</translation>
+    </message>
+    <message id="task_sessions_title">
+        <source></source>
+        <translation>Sessions de concentration</translation>
+    </message>
+    <message id="task_sessions_total" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n session, %1</numerusform>
+            <numerusform>%n sessions, %1</numerusform>
+        </translation>
+    </message>
+    <message id="task_show_parent">
+        <source></source>
+        <translation>Voir la tâche parente : %1</translation>
+    </message>
+    <message id="task_status_done">
+        <source></source>
+        <translation>Terminée</translation>
+    </message>
+    <message id="task_status_done_short">
+        <source></source>
+        <translation>Finie</translation>
+    </message>
+    <message id="task_status_in_progress">
+        <source></source>
+        <translation>En cours</translation>
+    </message>
+    <message id="task_status_in_progress_short">
+        <source></source>
+        <translation>En cours</translation>
+    </message>
+    <message id="task_status_label">
+        <source></source>
+        <translation>Statut</translation>
+    </message>
+    <message id="task_status_todo">
+        <source></source>
+        <translation>À faire</translation>
+    </message>
+    <message id="task_status_todo_short">
+        <source></source>
+        <translation>À faire</translation>
+    </message>
     <message id="task_suggestions">
         <source></source>
         <translation>Tâches à choisir</translation>
@@ -1315,6 +1534,10 @@
     <message id="task_tick">
         <source></source>
         <translation>Cocher « %1 »</translation>
+    </message>
+    <message id="task_title_placeholder">
+        <source></source>
+        <translation>Que faut-il faire ?</translation>
     </message>
     <message id="tasks_count" numerus="yes">
         <source></source>

@@ -1,14 +1,17 @@
 #include "planning/TaskSheet.h"
 
 #include "model/ModelContext.h"
+#include "planning/CalendarDays.h"
 #include "planning/PlanningEdits.h"
 #include "planning/PlanningNotifications.h"
 #include "planning/PlanningTexts.h"
 #include "platform/Clock.h"
 
 #include <QCollator>
+#include <QDir>
 #include <QFileInfo>
 #include <QMimeDatabase>
+#include <QStandardPaths>
 
 #include <algorithm>
 #include <memory>
@@ -56,7 +59,12 @@ TaskSheet::TaskSheet(ModelContext& context, PlanningEdits& edits, PlanningNotifi
     , m_edits(edits)
     , m_notifications(notifications)
     , m_clock(clock)
-    , m_sessions(context) {
+    , m_sessions(context)
+    , m_calendar(context, clock, m_locale) {
+    connect(&m_calendar, &AgendaCalendarPopover::chosen, this, [this](QDate day) {
+        if (m_isPresented)
+            setDate(m_chosenField, startOfDate(day, m_clock.now()));
+    });
     connect(&m_notifications, &PlanningNotifications::posted, this,
             [this](const QString& name, TaskItem* task) {
                 if (name == PlanningNotifications::showTaskDetail && task != nullptr)
@@ -132,6 +140,7 @@ void TaskSheet::retranslate() {
 
 void TaskSheet::setLocale(const QLocale& locale) {
     m_locale = locale;
+    m_calendar.setLocale(locale);
     retranslate();
 }
 
@@ -268,14 +277,6 @@ QDateTime TaskSheet::dueDate() const {
     return m_task != nullptr ? m_task->dueDate() : m_draft.dueDate;
 }
 
-QDate TaskSheet::plannedDay() const {
-    return plannedDate().date();
-}
-
-QDate TaskSheet::dueDay() const {
-    return dueDate().date();
-}
-
 QString TaskSheet::dayText(const QDateTime& date) const {
     const TaskItem dated({.plannedDate = date});
     return textOfDay(dated.formattedPlannedDate(m_clock.now(), m_locale));
@@ -305,34 +306,29 @@ QDateTime TaskSheet::createdAt() const {
     return m_task != nullptr ? m_task->createdAt() : QDateTime();
 }
 
-QDate TaskSheet::dayFromToday(int days) const {
-    return m_clock.now().date().addDays(days);
-}
-
-QDateTime TaskSheet::startOf(QDate day) const {
-    if (!day.isValid())
-        return {};
-    QDateTime instant = m_clock.now();
-    instant.setDate(day);
-    return startOfDay(instant);
-}
-
-void TaskSheet::setPlannedDay(QDate day) {
+void TaskSheet::setDate(DateField field, const QDateTime& date) {
     if (m_task != nullptr) {
-        m_task->setPlannedDate(startOf(day));
-    } else {
-        m_draft.plannedDate = startOf(day);
-        Q_EMIT fieldsChanged();
+        field == DateField::planned ? m_task->setPlannedDate(date) : m_task->setDueDate(date);
+        return;
     }
+    (field == DateField::planned ? m_draft.plannedDate : m_draft.dueDate) = date;
+    Q_EMIT fieldsChanged();
 }
 
-void TaskSheet::setDueDay(QDate day) {
-    if (m_task != nullptr) {
-        m_task->setDueDate(startOf(day));
-    } else {
-        m_draft.dueDate = startOf(day);
-        Q_EMIT fieldsChanged();
-    }
+void TaskSheet::setDaysFromToday(DateField field, int days) {
+    const QDateTime now = m_clock.now();
+    setDate(field, startOfDate(now.date().addDays(days), now));
+}
+
+void TaskSheet::chooseDay(DateField field) {
+    m_chosenField = field;
+    const QDateTime now = m_clock.now();
+    const QDateTime date = field == DateField::planned ? plannedDate() : dueDate();
+    m_calendar.open(date.isValid() ? inZoneOf(date, now).date() : now.date());
+}
+
+void TaskSheet::clearDay(DateField field) {
+    setDate(field, {});
 }
 
 bool TaskSheet::create() {
@@ -355,6 +351,22 @@ bool TaskSheet::create() {
 void TaskSheet::showParent() {
     if (m_task != nullptr && m_task->parentTask() != nullptr)
         show(m_task->parentTask());
+}
+
+void TaskSheet::moveSubtaskByRows(int row, int rows) {
+    TaskItem* const subtask = m_subtasks.taskAt(row);
+    if (subtask == nullptr || subtask->parentTask() == nullptr)
+        return;
+    // Rows between siblings belong to what is nested below them.
+    const TaskItem* const parent = subtask->parentTask();
+    const int direction = rows < 0 ? -1 : 1;
+    int places = 0;
+    for (int passed = row + direction; passed != row + rows + direction; passed += direction) {
+        const TaskItem* const other = m_subtasks.taskAt(passed);
+        if (other != nullptr && other->parentTask() == parent)
+            places += direction;
+    }
+    moveSubtask(row, places);
 }
 
 bool TaskSheet::addSubtask(int row, const QString& title) {
@@ -429,6 +441,7 @@ void TaskSheet::attach(const QList<QUrl>& files) {
             continue;
         }
         m_context.insert(std::move(resource))->setTask(m_task);
+        m_fileFolder = file.absolutePath();
     }
     setNotice(notice);
 }
@@ -436,6 +449,16 @@ void TaskSheet::attach(const QList<QUrl>& files) {
 void TaskSheet::removeResource(int row) {
     if (TaskResource* const resource = m_resources.resourceAt(row))
         m_edits.deleteResource(*resource);
+}
+
+void TaskSheet::reportUnopened() {
+    setNotice(QStringLiteral("resource_not_opened"));
+}
+
+QUrl TaskSheet::fileFolder() const {
+    const QString usual = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const QString folder = m_fileFolder.isEmpty() ? usual : m_fileFolder;
+    return QUrl::fromLocalFile(QFileInfo(folder).isDir() ? folder : QDir::homePath());
 }
 
 void TaskSheet::setNotice(const QString& key) {

@@ -3,6 +3,7 @@
 #include "model/Project.h"
 #include "model/ProjectPhase.h"
 #include "model/TaskItem.h"
+#include "planning/AgendaCalendarPopover.h"
 #include "planning/SubtaskListModel.h"
 #include "planning/TaskResourceListModel.h"
 #include "planning/TaskSessionListModel.h"
@@ -41,9 +42,7 @@ class TaskSheet final : public QObject {
     /// projects "color".
     Q_PROPERTY(QVariantList projects READ projects NOTIFY choicesChanged)
     Q_PROPERTY(QVariantList phases READ phases NOTIFY choicesChanged)
-    /// Days of the user's calendar; invalid for none. The texts are in the language of the window.
-    Q_PROPERTY(QDate plannedDay READ plannedDay NOTIFY fieldsChanged)
-    Q_PROPERTY(QDate dueDay READ dueDay NOTIFY fieldsChanged)
+    /// Days as texts in the language of the window; empty for none.
     Q_PROPERTY(QString plannedText READ plannedText NOTIFY fieldsChanged)
     Q_PROPERTY(QString dueText READ dueText NOTIFY fieldsChanged)
     Q_PROPERTY(bool isPlannedLate READ isPlannedLate NOTIFY fieldsChanged)
@@ -57,7 +56,13 @@ class TaskSheet final : public QObject {
     Q_PROPERTY(norvin::TaskSessionListModel* sessions READ sessions CONSTANT)
     /// Key of the sentence why files could not be attached; empty while there is none.
     Q_PROPERTY(QString noticeKey READ noticeKey NOTIFY noticeChanged)
+    /// Where to look for files to attach first.
+    Q_PROPERTY(QUrl fileFolder READ fileFolder NOTIFY presentedChanged)
+    Q_PROPERTY(norvin::AgendaCalendarPopover* calendar READ calendar CONSTANT)
 public:
+    enum class DateField { planned, due };
+    Q_ENUM(DateField)
+
     TaskSheet(ModelContext& context, PlanningEdits& edits, PlanningNotifications& notifications, Clock& clock,
               QObject* parent = nullptr);
     ~TaskSheet() override;
@@ -91,8 +96,6 @@ public:
     void setPhaseId(const QString& phaseId);
     [[nodiscard]] QVariantList projects() const;
     [[nodiscard]] QVariantList phases() const;
-    [[nodiscard]] QDate plannedDay() const;
-    [[nodiscard]] QDate dueDay() const;
     [[nodiscard]] QString plannedText() const;
     [[nodiscard]] QString dueText() const;
     [[nodiscard]] bool isPlannedLate() const;
@@ -102,16 +105,18 @@ public:
     [[nodiscard]] SubtaskListModel* subtasks() { return &m_subtasks; }
     [[nodiscard]] TaskResourceListModel* resources() { return &m_resources; }
     [[nodiscard]] TaskSessionListModel* sessions() { return &m_sessions; }
+    [[nodiscard]] QUrl fileFolder() const;
+    [[nodiscard]] AgendaCalendarPopover* calendar() { return &m_calendar; }
     [[nodiscard]] const QString& noticeKey() const { return m_noticeKey; }
 
     /// Makes the task and closes. @return false, with the sheet open, while the title is empty
     Q_INVOKABLE bool create();
     Q_INVOKABLE void close();
-    // An invalid day clears the date.
-    Q_INVOKABLE void setPlannedDay(QDate day);
-    Q_INVOKABLE void setDueDay(QDate day);
-    /// The day that many days after today.
-    Q_INVOKABLE [[nodiscard]] QDate dayFromToday(int days) const;
+    /// Sets a date to the day that many days after today.
+    Q_INVOKABLE void setDaysFromToday(norvin::TaskSheet::DateField field, int days);
+    Q_INVOKABLE void clearDay(norvin::TaskSheet::DateField field);
+    /// Lets a day of the calendar be chosen for a date: from now on, a day chosen there is that date.
+    Q_INVOKABLE void chooseDay(norvin::TaskSheet::DateField field);
     Q_INVOKABLE void showParent();
 
     /// Adds a subtask to the task of a row, or to the task itself for −1. @return whether one was made
@@ -121,12 +126,16 @@ public:
     Q_INVOKABLE void renameSubtask(int row, const QString& title);
     /// Moves the subtask by that many places among its siblings, negative for up.
     Q_INVOKABLE void moveSubtask(int row, int places);
+    /// Moves the subtask as far among its siblings as a drag over that many rows asks for.
+    Q_INVOKABLE void moveSubtaskByRows(int row, int rows);
     Q_INVOKABLE void deleteSubtask(int row);
     Q_INVOKABLE void showSubtask(int row);
 
     /// Attaches the files and folders that are on this machine and are not attached yet.
     Q_INVOKABLE void attach(const QList<QUrl>& files);
     Q_INVOKABLE void removeResource(int row);
+    /// Says that the desktop has no application for a file.
+    Q_INVOKABLE void reportUnopened();
     Q_INVOKABLE void dismissNotice();
 
     /// What goes along when the task is deleted; empty for nothing.
@@ -156,7 +165,7 @@ private:
     void letGo(const TaskItem* task);
     void setNotice(const QString& key);
     [[nodiscard]] Project* project() const;
-    [[nodiscard]] QDateTime startOf(QDate day) const;
+    void setDate(DateField field, const QDateTime& date);
     [[nodiscard]] QDateTime plannedDate() const;
     [[nodiscard]] QDateTime dueDate() const;
     [[nodiscard]] QString dayText(const QDateTime& date) const;
@@ -173,7 +182,10 @@ private:
     SubtaskListModel m_subtasks;
     TaskResourceListModel m_resources;
     TaskSessionListModel m_sessions;
+    AgendaCalendarPopover m_calendar;
+    DateField m_chosenField = DateField::planned;
     QString m_noticeKey;
+    QString m_fileFolder;
 };
 
 } // namespace norvin

@@ -18,6 +18,8 @@ T.Button {
 
     property int kind: PushButton.Kind.Secondary
     property string symbol: ""
+    /// Whether the text begins at the left edge rather than standing in the middle.
+    property bool alignsLeft: false
     readonly property color foreground: root.kind === PushButton.Kind.Primary ? Theme.accentInk : root.kind === PushButton.Kind.Danger ? Theme.dangerInk : Theme.text
 
     function surfaceColor(): color {
@@ -60,8 +62,9 @@ T.Button {
     RowLayout {
         id: row
 
-        anchors.centerIn: parent
-        width: Math.min(implicitWidth, root.availableWidth)
+        anchors.verticalCenter: parent.verticalCenter
+        x: root.alignsLeft ? root.leftPadding : (root.width - width) / 2
+        width: root.alignsLeft ? root.availableWidth : Math.min(implicitWidth, root.availableWidth)
         spacing: Theme.gap2
 
         Symbol {

@@ -1,0 +1,47 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import NorvinFocus.Ui
+
+/// A field that stands in a list for as long as something is typed there. Enter accepts the text; Escape, Enter with
+/// no text, and going elsewhere leave it.
+EntryField {
+    id: root
+
+    property string initialText: ""
+    /// Whether more can be typed after the first text.
+    property bool keepsOpen: false
+    property bool isLeaving: false
+
+    signal acceptedText(string text)
+    signal left
+
+    function leave(): void {
+        if (root.isLeaving)
+            return;
+        root.isLeaving = true;
+        root.left();
+    }
+
+    objectName: "inlineField"
+    implicitHeight: Theme.controlHeightSmall + 4
+    maximumLength: 500
+
+    Component.onCompleted: {
+        root.text = root.initialText;
+        root.forceActiveFocus(Qt.TabFocusReason);
+        root.selectAll();
+    }
+
+    onAccepted: {
+        const text = root.text.trim();
+        if (text.length > 0)
+            root.acceptedText(text);
+        if (root.keepsOpen && text.length > 0)
+            root.clear();
+        else
+            root.leave();
+    }
+
+    Keys.onEscapePressed: root.leave()
+}

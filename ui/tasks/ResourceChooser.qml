@@ -1,0 +1,18 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import NorvinFocus.Ui
+
+/// Asks for files to attach.
+FileChooser {
+    id: root
+
+    required property TaskSheet sheet
+
+    function choose(): void {
+        root.open(qsTrId("resources_choose_title"), root.sheet.fileFolder, [qsTrId("resources_all_files") + " (*)"], true);
+    }
+
+    rejectText: qsTrId("cancel_button")
+    onChosen: files => root.sheet.attach(files)
+}
