@@ -313,6 +313,13 @@
             <numerusform>%n phases</numerusform>
         </translation>
     </message>
+    <message id="count_projects" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n project</numerusform>
+            <numerusform>%n projects</numerusform>
+        </translation>
+    </message>
     <message id="count_sessions" numerus="yes">
         <source></source>
         <translation>
@@ -974,6 +981,157 @@
     <message id="phase_work">
         <source></source>
         <translation>Work phase</translation>
+    </message>
+    <message id="planning_exported_format">
+        <source></source>
+        <translation>Exported to %2: %1.</translation>
+    </message>
+    <message id="planning_file_broken_line">
+        <source></source>
+        <translation>This is no line of a calendar: “%1”.</translation>
+    </message>
+    <message id="planning_file_exists">
+        <source></source>
+        <translation>%1 exists already.</translation>
+    </message>
+    <message id="planning_file_line">
+        <source></source>
+        <translation>Line %1: %2</translation>
+    </message>
+    <message id="planning_file_missing_member">
+        <source></source>
+        <translation>“%1” is missing.</translation>
+    </message>
+    <message id="planning_file_no_calendar">
+        <source></source>
+        <translation>This is not an iCalendar file.</translation>
+    </message>
+    <message id="planning_file_no_plan">
+        <source></source>
+        <translation>This is not a file of projects and tasks.</translation>
+    </message>
+    <message id="planning_file_no_title">
+        <source></source>
+        <translation>The task has no title.</translation>
+    </message>
+    <message id="planning_file_not_a_day">
+        <source></source>
+        <translation>“%1” takes a day such as 2025-03-10, not “%2”.</translation>
+    </message>
+    <message id="planning_file_not_a_list">
+        <source></source>
+        <translation>“%1” has to be a list, in square brackets.</translation>
+    </message>
+    <message id="planning_file_not_a_number">
+        <source></source>
+        <translation>“%1” has to be a whole number.</translation>
+    </message>
+    <message id="planning_file_not_a_text">
+        <source></source>
+        <translation>“%1” has to be a text, in quotation marks.</translation>
+    </message>
+    <message id="planning_file_not_an_id">
+        <source></source>
+        <translation>“%1” has to be an id of 32 hexadecimal digits with hyphens, not “%2”.</translation>
+    </message>
+    <message id="planning_file_not_an_instant">
+        <source></source>
+        <translation>“%1” has to be an instant in UTC, in the form of ISO 8601, not “%2”.</translation>
+    </message>
+    <message id="planning_file_not_an_object">
+        <source></source>
+        <translation>The entries of “%1” have to be objects, in braces.</translation>
+    </message>
+    <message id="planning_file_not_base64">
+        <source></source>
+        <translation>“%1” has to be data in base64.</translation>
+    </message>
+    <message id="planning_file_not_json">
+        <source></source>
+        <translation>This is not valid JSON (%1).</translation>
+    </message>
+    <message id="planning_file_not_utf8">
+        <source></source>
+        <translation>The line is not in UTF-8.</translation>
+    </message>
+    <message id="planning_file_repeated_id">
+        <source></source>
+        <translation>The id “%1” is there twice.</translation>
+    </message>
+    <message id="planning_file_repeated_member">
+        <source></source>
+        <translation>“%1” is there twice.</translation>
+    </message>
+    <message id="planning_file_ring">
+        <source></source>
+        <translation>“%1” would be a subtask of itself.</translation>
+    </message>
+    <message id="planning_file_too_large">
+        <source></source>
+        <translation>The file is too large for projects and tasks.</translation>
+    </message>
+    <message id="planning_file_unclosed">
+        <source></source>
+        <translation>“%1” begins here and does not end.</translation>
+    </message>
+    <message id="planning_file_unknown_format">
+        <source></source>
+        <translation>“%1” has to end in .json, .txt or .ics.</translation>
+    </message>
+    <message id="planning_file_unknown_member">
+        <source></source>
+        <translation>“%1” is not known here.</translation>
+    </message>
+    <message id="planning_file_unknown_phase">
+        <source></source>
+        <translation>There is no phase with the id “%1”.</translation>
+    </message>
+    <message id="planning_file_unknown_project">
+        <source></source>
+        <translation>There is no project with the id “%1”.</translation>
+    </message>
+    <message id="planning_file_unknown_task">
+        <source></source>
+        <translation>There is no task with the id “%1”.</translation>
+    </message>
+    <message id="planning_file_unknown_zone">
+        <source></source>
+        <translation>The time zone “%1” is not known.</translation>
+    </message>
+    <message id="planning_file_unreadable">
+        <source></source>
+        <translation>The file cannot be read: %1</translation>
+    </message>
+    <message id="planning_file_unwritable">
+        <source></source>
+        <translation>The file cannot be written: %1</translation>
+    </message>
+    <message id="planning_file_wrong_value">
+        <source></source>
+        <translation>“%2” is no value for %1 here.</translation>
+    </message>
+    <message id="planning_file_wrong_version">
+        <source></source>
+        <translation>Version “%1” of the file is not known here; perhaps a newer program wrote it.</translation>
+    </message>
+    <message id="planning_import_ignored" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n other entry of the file is no task and was left out.</numerusform>
+            <numerusform>%n other entries of the file are no tasks and were left out.</numerusform>
+        </translation>
+    </message>
+    <message id="planning_import_there_format">
+        <source></source>
+        <translation>Already here, and left as it is: %1.</translation>
+    </message>
+    <message id="planning_imported_format">
+        <source></source>
+        <translation>Imported: %1.</translation>
+    </message>
+    <message id="planning_imported_nothing">
+        <source></source>
+        <translation>There was nothing new to import.</translation>
     </message>
     <message id="priority_high">
         <source></source>
@@ -1637,6 +1795,10 @@
     <message id="undo_deleted_format">
         <source></source>
         <translation>“%1” was deleted</translation>
+    </message>
+    <message id="undo_imported_format">
+        <source></source>
+        <translation>“%1” was imported</translation>
     </message>
     <message id="undo_phases_deleted" numerus="yes">
         <source></source>

@@ -313,6 +313,13 @@
             <numerusform>%n phases</numerusform>
         </translation>
     </message>
+    <message id="count_projects" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n projet</numerusform>
+            <numerusform>%n projets</numerusform>
+        </translation>
+    </message>
     <message id="count_sessions" numerus="yes">
         <source></source>
         <translation>
@@ -974,6 +981,157 @@
     <message id="phase_work">
         <source></source>
         <translation>Phase de travail</translation>
+    </message>
+    <message id="planning_exported_format">
+        <source></source>
+        <translation>Exporté vers %2 : %1.</translation>
+    </message>
+    <message id="planning_file_broken_line">
+        <source></source>
+        <translation>Ce n’est pas une ligne de calendrier : « %1 ».</translation>
+    </message>
+    <message id="planning_file_exists">
+        <source></source>
+        <translation>%1 existe déjà.</translation>
+    </message>
+    <message id="planning_file_line">
+        <source></source>
+        <translation>Ligne %1 : %2</translation>
+    </message>
+    <message id="planning_file_missing_member">
+        <source></source>
+        <translation>« %1 » manque.</translation>
+    </message>
+    <message id="planning_file_no_calendar">
+        <source></source>
+        <translation>Ce n’est pas un fichier iCalendar.</translation>
+    </message>
+    <message id="planning_file_no_plan">
+        <source></source>
+        <translation>Ce n’est pas un fichier de projets et de tâches.</translation>
+    </message>
+    <message id="planning_file_no_title">
+        <source></source>
+        <translation>La tâche n’a pas de titre.</translation>
+    </message>
+    <message id="planning_file_not_a_day">
+        <source></source>
+        <translation>« %1 » attend un jour comme 2025-03-10, et non « %2 ».</translation>
+    </message>
+    <message id="planning_file_not_a_list">
+        <source></source>
+        <translation>« %1 » doit être une liste, entre crochets.</translation>
+    </message>
+    <message id="planning_file_not_a_number">
+        <source></source>
+        <translation>« %1 » doit être un nombre entier.</translation>
+    </message>
+    <message id="planning_file_not_a_text">
+        <source></source>
+        <translation>« %1 » doit être un texte, entre guillemets.</translation>
+    </message>
+    <message id="planning_file_not_an_id">
+        <source></source>
+        <translation>« %1 » doit être un identifiant de 32 chiffres hexadécimaux avec traits d’union, et non « %2 ».</translation>
+    </message>
+    <message id="planning_file_not_an_instant">
+        <source></source>
+        <translation>« %1 » doit être un instant UTC au format ISO 8601, et non « %2 ».</translation>
+    </message>
+    <message id="planning_file_not_an_object">
+        <source></source>
+        <translation>Les entrées de « %1 » doivent être des objets, entre accolades.</translation>
+    </message>
+    <message id="planning_file_not_base64">
+        <source></source>
+        <translation>« %1 » doit contenir des données en base64.</translation>
+    </message>
+    <message id="planning_file_not_json">
+        <source></source>
+        <translation>Ce n’est pas du JSON valide (%1).</translation>
+    </message>
+    <message id="planning_file_not_utf8">
+        <source></source>
+        <translation>La ligne n’est pas en UTF-8.</translation>
+    </message>
+    <message id="planning_file_repeated_id">
+        <source></source>
+        <translation>L’identifiant « %1 » apparaît deux fois.</translation>
+    </message>
+    <message id="planning_file_repeated_member">
+        <source></source>
+        <translation>« %1 » apparaît deux fois.</translation>
+    </message>
+    <message id="planning_file_ring">
+        <source></source>
+        <translation>« %1 » serait une sous-tâche d’elle-même.</translation>
+    </message>
+    <message id="planning_file_too_large">
+        <source></source>
+        <translation>Le fichier est trop volumineux pour des projets et des tâches.</translation>
+    </message>
+    <message id="planning_file_unclosed">
+        <source></source>
+        <translation>« %1 » commence ici et ne finit pas.</translation>
+    </message>
+    <message id="planning_file_unknown_format">
+        <source></source>
+        <translation>« %1 » doit se terminer par .json, .txt ou .ics.</translation>
+    </message>
+    <message id="planning_file_unknown_member">
+        <source></source>
+        <translation>« %1 » n’est pas connu ici.</translation>
+    </message>
+    <message id="planning_file_unknown_phase">
+        <source></source>
+        <translation>Aucune phase n’a l’identifiant « %1 ».</translation>
+    </message>
+    <message id="planning_file_unknown_project">
+        <source></source>
+        <translation>Aucun projet n’a l’identifiant « %1 ».</translation>
+    </message>
+    <message id="planning_file_unknown_task">
+        <source></source>
+        <translation>Aucune tâche n’a l’identifiant « %1 ».</translation>
+    </message>
+    <message id="planning_file_unknown_zone">
+        <source></source>
+        <translation>Le fuseau horaire « %1 » n’est pas connu.</translation>
+    </message>
+    <message id="planning_file_unreadable">
+        <source></source>
+        <translation>Impossible de lire le fichier : %1</translation>
+    </message>
+    <message id="planning_file_unwritable">
+        <source></source>
+        <translation>Impossible d’écrire le fichier : %1</translation>
+    </message>
+    <message id="planning_file_wrong_value">
+        <source></source>
+        <translation>« %2 » n’est pas une valeur pour %1 ici.</translation>
+    </message>
+    <message id="planning_file_wrong_version">
+        <source></source>
+        <translation>La version « %1 » du fichier n’est pas connue ici ; un programme plus récent l’a peut-être écrit.</translation>
+    </message>
+    <message id="planning_import_ignored" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n autre élément du fichier n’est pas une tâche et a été laissé de côté.</numerusform>
+            <numerusform>%n autres éléments du fichier ne sont pas des tâches et ont été laissés de côté.</numerusform>
+        </translation>
+    </message>
+    <message id="planning_import_there_format">
+        <source></source>
+        <translation>Déjà présent et laissé tel quel : %1.</translation>
+    </message>
+    <message id="planning_imported_format">
+        <source></source>
+        <translation>Importé : %1.</translation>
+    </message>
+    <message id="planning_imported_nothing">
+        <source></source>
+        <translation>Il n’y avait rien de nouveau à importer.</translation>
     </message>
     <message id="priority_high">
         <source></source>
@@ -1637,6 +1795,10 @@
     <message id="undo_deleted_format">
         <source></source>
         <translation>« %1 » a été supprimé</translation>
+    </message>
+    <message id="undo_imported_format">
+        <source></source>
+        <translation>« %1 » a été importé</translation>
     </message>
     <message id="undo_phases_deleted" numerus="yes">
         <source></source>
