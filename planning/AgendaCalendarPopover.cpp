@@ -197,9 +197,9 @@ QVariant AgendaCalendarPopover::data(const QModelIndex& index, int role) const {
         return taskCount(day);
     case Qt::DisplayRole:
     case NameRole:
-        return taskCount(day) == 0
-                   ? m_locale.toString(day, QLocale::LongFormat)
-                   : qtTrId("calendar_day_name", taskCount(day)).arg(m_locale.toString(day, QLocale::LongFormat));
+        return taskCount(day) == 0 ? m_locale.toString(day, QLocale::LongFormat)
+                                   : qtTrId("calendar_day_name", taskCount(day))
+                                         .arg(m_locale.toString(day, QLocale::LongFormat));
     default:
         return {};
     }

@@ -1,6 +1,7 @@
 #include "planning/CalendarDays.h"
 
 #include <QTimeZone>
+#include <QtGlobal>
 
 namespace norvin {
 
@@ -40,6 +41,21 @@ AgendaDay agendaDayOf(QDate day, const QDateTime& now) {
     if (!start.isValid() || !end.isValid())
         qFatal("The calendar has no %s", qPrintable(day.toString(Qt::ISODate)));
     return {Instant(start), Instant(end)};
+}
+
+QString dateInWords(QDate day, QDate today, const QLocale& locale) {
+    const QString number = day.day() == 1 ? qtTrId("date_first_of_month") : locale.toString(day.day());
+    const QString text = qtTrId("agenda_date_format")
+                             .arg(locale.dayName(day.dayOfWeek()), number, locale.monthName(day.month()));
+    return day.year() == today.year()
+               ? text
+               : qtTrId("agenda_date_year_format").arg(text, QString::number(day.year()));
+}
+
+QString dayInWords(QDate day, QDate today, const QLocale& locale) {
+    if (day == today)
+        return qtTrId("today");
+    return day == today.addDays(1) ? qtTrId("tomorrow") : dateInWords(day, today, locale);
 }
 
 } // namespace norvin

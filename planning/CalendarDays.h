@@ -5,6 +5,8 @@
 
 #include <QDate>
 #include <QDateTime>
+#include <QLocale>
+#include <QString>
 
 namespace norvin {
 
@@ -19,5 +21,10 @@ namespace norvin {
 
 /// A day by its date. @param day within the years 1 to 9999
 [[nodiscard]] AgendaDay agendaDayOf(QDate day, const QDateTime& now);
+
+/// Weekday, day and month in the words of the language, with the year where it is not this one.
+[[nodiscard]] QString dateInWords(QDate day, QDate today, const QLocale& locale);
+/// The same, but for today and tomorrow the words for them.
+[[nodiscard]] QString dayInWords(QDate day, QDate today, const QLocale& locale);
 
 } // namespace norvin
