@@ -68,12 +68,12 @@ void ProjectListModel::settle() {
         return;
     const QSet<Project*> touched = std::exchange(m_touched, {});
     for (Project* project : touched)
-        count(*project);
+        countTasks(*project);
     arrange();
     rowsTouched(QSet<const Entity*>(touched.cbegin(), touched.cend()));
 }
 
-void ProjectListModel::count(Project& project) {
+void ProjectListModel::countTasks(const Project& project) {
     Tile tile;
     for (const TaskItem* task : project.tasks()) {
         if (task->parentTask() != nullptr)

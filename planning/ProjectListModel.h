@@ -81,7 +81,7 @@ private:
     void follow(Project* project);
     void forget(Project* project);
     void touch(Project* project);
-    void count(Project& project);
+    void countTasks(const Project& project);
     void arrange();
     [[nodiscard]] bool comesBefore(const Project& a, const Project& b) const;
 
