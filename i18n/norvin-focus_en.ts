@@ -59,6 +59,30 @@
         <source></source>
         <translation>Activity is no longer measured</translation>
     </message>
+    <message id="add_task">
+        <source></source>
+        <translation>New task</translation>
+    </message>
+    <message id="add_to_my_agenda">
+        <source></source>
+        <translation>Add to my agenda</translation>
+    </message>
+    <message id="agenda_date_format">
+        <source></source>
+        <translation>%1, %3 %2</translation>
+    </message>
+    <message id="agenda_date_year_format">
+        <source></source>
+        <translation>%1, %2</translation>
+    </message>
+    <message id="agenda_keys_hint">
+        <source></source>
+        <translation>Enter: open · Space: done · Del: take off the agenda</translation>
+    </message>
+    <message id="agenda_row_name">
+        <source></source>
+        <translation>%1. %2</translation>
+    </message>
     <message id="alert_non_legitimate_site">
         <source></source>
         <translation>This site is not part of your session</translation>
@@ -200,6 +224,37 @@
         <source></source>
         <translation>Show fewer</translation>
     </message>
+    <message id="calendar_day_name" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%1, %n task</numerusform>
+            <numerusform>%1, %n tasks</numerusform>
+        </translation>
+    </message>
+    <message id="calendar_month_format">
+        <source></source>
+        <translation>%1 %2</translation>
+    </message>
+    <message id="calendar_next_month">
+        <source></source>
+        <translation>Next month</translation>
+    </message>
+    <message id="calendar_next_year">
+        <source></source>
+        <translation>Next year</translation>
+    </message>
+    <message id="calendar_open">
+        <source></source>
+        <translation>Calendar</translation>
+    </message>
+    <message id="calendar_previous_month">
+        <source></source>
+        <translation>Previous month</translation>
+    </message>
+    <message id="calendar_previous_year">
+        <source></source>
+        <translation>Previous year</translation>
+    </message>
     <message id="cancel_button">
         <source></source>
         <translation>Cancel</translation>
@@ -239,6 +294,42 @@
     <message id="category_system">
         <source></source>
         <translation>System</translation>
+    </message>
+    <message id="chip_ambiguous">
+        <source></source>
+        <translation>“%1” fits several names</translation>
+    </message>
+    <message id="chip_due">
+        <source></source>
+        <translation>Due: %1</translation>
+    </message>
+    <message id="chip_phase_without_project">
+        <source></source>
+        <translation>“%1”: phases need a project</translation>
+    </message>
+    <message id="chip_planned">
+        <source></source>
+        <translation>Planned: %1</translation>
+    </message>
+    <message id="chip_priority">
+        <source></source>
+        <translation>Priority: %1</translation>
+    </message>
+    <message id="chip_remove">
+        <source></source>
+        <translation>Make it part of the title: %1</translation>
+    </message>
+    <message id="chip_unknown_phase">
+        <source></source>
+        <translation>No phase “%1”</translation>
+    </message>
+    <message id="chip_unknown_project">
+        <source></source>
+        <translation>No project “%1”</translation>
+    </message>
+    <message id="choice_all_projects">
+        <source></source>
+        <translation>All projects</translation>
     </message>
     <message id="coach_dismiss_button">
         <source></source>
@@ -299,6 +390,14 @@
         <source></source>
         <translation>Delete this task?</translation>
     </message>
+    <message id="confirm_unschedule_task_message">
+        <source></source>
+        <translation>A task of a project stays there, without its dates. A task without a project is deleted.</translation>
+    </message>
+    <message id="confirm_unschedule_task_title">
+        <source></source>
+        <translation>Take this task off the agenda?</translation>
+    </message>
     <message id="count_files" numerus="yes">
         <source></source>
         <translation>
@@ -340,6 +439,22 @@
             <numerusform>%n task</numerusform>
             <numerusform>%n tasks</numerusform>
         </translation>
+    </message>
+    <message id="daily_agenda">
+        <source></source>
+        <translation>Daily agenda</translation>
+    </message>
+    <message id="daily_objectives">
+        <source></source>
+        <translation>Objectives of the day</translation>
+    </message>
+    <message id="date_first_of_month">
+        <source></source>
+        <translation>1</translation>
+    </message>
+    <message id="date_strip_name">
+        <source></source>
+        <translation>Days</translation>
     </message>
     <message id="day_in_a_week">
         <source></source>
@@ -451,6 +566,10 @@
     <message id="file_save_button">
         <source></source>
         <translation>Save</translation>
+    </message>
+    <message id="go_to_today_button">
+        <source></source>
+        <translation>Go to today</translation>
     </message>
     <message id="health_accessibility_missing">
         <source></source>
@@ -785,6 +904,25 @@
         <source></source>
         <translation>Language</translation>
     </message>
+    <message id="late_tasks" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n late task</numerusform>
+            <numerusform>%n late tasks</numerusform>
+        </translation>
+    </message>
+    <message id="late_tasks_none">
+        <source></source>
+        <translation>Nothing is late any more.</translation>
+    </message>
+    <message id="late_tasks_subtitle">
+        <source></source>
+        <translation>Due or planned for a day that is over. A deadline stays until you move it in the task.</translation>
+    </message>
+    <message id="late_tasks_title">
+        <source></source>
+        <translation>Late tasks</translation>
+    </message>
     <message id="list_blocked">
         <source></source>
         <translation>Blocked</translation>
@@ -876,6 +1014,14 @@
     <message id="next_step_label">
         <source></source>
         <translation>What comes next?</translation>
+    </message>
+    <message id="nothing_planned">
+        <source></source>
+        <translation>Nothing planned</translation>
+    </message>
+    <message id="nothing_planned_subtitle">
+        <source></source>
+        <translation>Choose what this day is for. Tasks of today are put in line for Deep Work.</translation>
     </message>
     <message id="notice_browser_whitelisted">
         <source></source>
@@ -981,6 +1127,64 @@
     <message id="phase_work">
         <source></source>
         <translation>Work phase</translation>
+    </message>
+    <message id="pick_count" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n open task</numerusform>
+            <numerusform>%n open tasks</numerusform>
+        </translation>
+    </message>
+    <message id="pick_list_name">
+        <source></source>
+        <translation>Open tasks</translation>
+    </message>
+    <message id="pick_no_tasks">
+        <source></source>
+        <translation>There are no open tasks yet.</translation>
+    </message>
+    <message id="pick_none_button">
+        <source></source>
+        <translation>Choose tasks</translation>
+    </message>
+    <message id="pick_nothing_found">
+        <source></source>
+        <translation>No open task matches.</translation>
+    </message>
+    <message id="pick_plan_button" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Plan %n task</numerusform>
+            <numerusform>Plan %n tasks</numerusform>
+        </translation>
+    </message>
+    <message id="pick_search_placeholder">
+        <source></source>
+        <translation>Search in all open tasks</translation>
+    </message>
+    <message id="pick_ticked_name">
+        <source></source>
+        <translation>%1, chosen</translation>
+    </message>
+    <message id="plan_for_day">
+        <source></source>
+        <translation>Plan for another day</translation>
+    </message>
+    <message id="plan_for_day_title">
+        <source></source>
+        <translation>A day for “%1”</translation>
+    </message>
+    <message id="plan_for_today">
+        <source></source>
+        <translation>Plan for today</translation>
+    </message>
+    <message id="plan_task">
+        <source></source>
+        <translation>Plan existing tasks</translation>
+    </message>
+    <message id="planning_day_label">
+        <source></source>
+        <translation>Day</translation>
     </message>
     <message id="planning_exported_format">
         <source></source>
@@ -1133,6 +1337,22 @@
         <source></source>
         <translation>There was nothing new to import.</translation>
     </message>
+    <message id="planning_sheet_title">
+        <source></source>
+        <translation>Plan: %1</translation>
+    </message>
+    <message id="planning_tab_existing">
+        <source></source>
+        <translation>Existing tasks</translation>
+    </message>
+    <message id="planning_tab_new">
+        <source></source>
+        <translation>New task</translation>
+    </message>
+    <message id="planning_tabs_name">
+        <source></source>
+        <translation>What to plan</translation>
+    </message>
     <message id="priority_high">
         <source></source>
         <translation>High</translation>
@@ -1156,6 +1376,34 @@
     <message id="queue_keys_hint">
         <source></source>
         <translation>Enter: work on it · Ctrl+Enter: tick off · +: subtask · Alt+↑↓: move · Del: remove</translation>
+    </message>
+    <message id="quick_add_added">
+        <source></source>
+        <translation>“%1” was added · %2</translation>
+    </message>
+    <message id="quick_add_button">
+        <source></source>
+        <translation>Add</translation>
+    </message>
+    <message id="quick_add_help">
+        <source></source>
+        <translation>! priority · # project · @ phase · a day, or “by” and a day. A backslash (\) keeps a word in the title.</translation>
+    </message>
+    <message id="quick_add_hint">
+        <source></source>
+        <translation>Write report !high #Thesis @Draft tomorrow by 12 December</translation>
+    </message>
+    <message id="quick_add_name">
+        <source></source>
+        <translation>New task</translation>
+    </message>
+    <message id="quick_add_needs_title">
+        <source></source>
+        <translation>A task needs a title beside these words.</translation>
+    </message>
+    <message id="quick_add_placeholder">
+        <source></source>
+        <translation>Add a task to this day, then Enter</translation>
     </message>
     <message id="quit_button">
         <source></source>
@@ -1336,6 +1584,10 @@
         <source></source>
         <translation>Close</translation>
     </message>
+    <message id="sidebar_agenda">
+        <source></source>
+        <translation>Agenda</translation>
+    </message>
     <message id="sidebar_block_lists">
         <source></source>
         <translation>Block lists</translation>
@@ -1351,6 +1603,10 @@
     <message id="sidebar_label">
         <source></source>
         <translation>Pages</translation>
+    </message>
+    <message id="sidebar_projects">
+        <source></source>
+        <translation>Projects</translation>
     </message>
     <message id="site_add_button">
         <source></source>
@@ -1471,6 +1727,10 @@
         <source></source>
         <translation>Delete %1</translation>
     </message>
+    <message id="subtask_of">
+        <source></source>
+        <translation>Subtask of “%1”</translation>
+    </message>
     <message id="subtask_placeholder">
         <source></source>
         <translation>Subtask, then Enter</translation>
@@ -1586,6 +1846,10 @@
         <source></source>
         <translation>late</translation>
     </message>
+    <message id="task_late_mark">
+        <source></source>
+        <translation>Late</translation>
+    </message>
     <message id="task_make_active">
         <source></source>
         <translation>Work on “%1”</translation>
@@ -1613,6 +1877,10 @@
     <message id="task_no_project">
         <source></source>
         <translation>No project</translation>
+    </message>
+    <message id="task_open_detail">
+        <source></source>
+        <translation>Open the task</translation>
     </message>
     <message id="task_phase_label">
         <source></source>
@@ -1696,6 +1964,10 @@
     <message id="task_title_placeholder">
         <source></source>
         <translation>What is to be done?</translation>
+    </message>
+    <message id="tasks_completed_format">
+        <source></source>
+        <translation>%1 of %2 done</translation>
     </message>
     <message id="tasks_count" numerus="yes">
         <source></source>
@@ -1784,6 +2056,10 @@
         <source></source>
         <translation>Today</translation>
     </message>
+    <message id="today_short">
+        <source></source>
+        <translation>Today</translation>
+    </message>
     <message id="tomorrow">
         <source></source>
         <translation>Tomorrow</translation>
@@ -1791,6 +2067,10 @@
     <message id="undo_button">
         <source></source>
         <translation>Undo</translation>
+    </message>
+    <message id="undo_completed_format">
+        <source></source>
+        <translation>“%1” is done</translation>
     </message>
     <message id="undo_deleted_format">
         <source></source>
@@ -1807,9 +2087,24 @@
             <numerusform>%n phases were deleted</numerusform>
         </translation>
     </message>
+    <message id="undo_planned_format" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n task was planned · %1</numerusform>
+            <numerusform>%n tasks were planned · %1</numerusform>
+        </translation>
+    </message>
     <message id="undo_unscheduled_format">
         <source></source>
         <translation>“%1” was taken off the agenda</translation>
+    </message>
+    <message id="unschedule_button">
+        <source></source>
+        <translation>Take off</translation>
+    </message>
+    <message id="unschedule_task">
+        <source></source>
+        <translation>Take off the agenda</translation>
     </message>
     <message id="verdict_blocked">
         <source></source>

@@ -59,6 +59,30 @@
         <source></source>
         <translation>L’activité n’est plus mesurée</translation>
     </message>
+    <message id="add_task">
+        <source></source>
+        <translation>Nouvelle tâche</translation>
+    </message>
+    <message id="add_to_my_agenda">
+        <source></source>
+        <translation>Ajouter à mon agenda</translation>
+    </message>
+    <message id="agenda_date_format">
+        <source></source>
+        <translation>%1 %2 %3</translation>
+    </message>
+    <message id="agenda_date_year_format">
+        <source></source>
+        <translation>%1 %2</translation>
+    </message>
+    <message id="agenda_keys_hint">
+        <source></source>
+        <translation>Entrée : ouvrir · Espace : terminer · Suppr : retirer de l’agenda</translation>
+    </message>
+    <message id="agenda_row_name">
+        <source></source>
+        <translation>%1. %2</translation>
+    </message>
     <message id="alert_non_legitimate_site">
         <source></source>
         <translation>Ce site ne fait pas partie de votre session</translation>
@@ -200,6 +224,37 @@
         <source></source>
         <translation>Afficher moins</translation>
     </message>
+    <message id="calendar_day_name" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%1, %n tâche</numerusform>
+            <numerusform>%1, %n tâches</numerusform>
+        </translation>
+    </message>
+    <message id="calendar_month_format">
+        <source></source>
+        <translation>%1 %2</translation>
+    </message>
+    <message id="calendar_next_month">
+        <source></source>
+        <translation>Mois suivant</translation>
+    </message>
+    <message id="calendar_next_year">
+        <source></source>
+        <translation>Année suivante</translation>
+    </message>
+    <message id="calendar_open">
+        <source></source>
+        <translation>Calendrier</translation>
+    </message>
+    <message id="calendar_previous_month">
+        <source></source>
+        <translation>Mois précédent</translation>
+    </message>
+    <message id="calendar_previous_year">
+        <source></source>
+        <translation>Année précédente</translation>
+    </message>
     <message id="cancel_button">
         <source></source>
         <translation>Annuler</translation>
@@ -239,6 +294,42 @@
     <message id="category_system">
         <source></source>
         <translation>Système</translation>
+    </message>
+    <message id="chip_ambiguous">
+        <source></source>
+        <translation>« %1 » convient à plusieurs noms</translation>
+    </message>
+    <message id="chip_due">
+        <source></source>
+        <translation>Échéance : %1</translation>
+    </message>
+    <message id="chip_phase_without_project">
+        <source></source>
+        <translation>« %1 » : une phase demande un projet</translation>
+    </message>
+    <message id="chip_planned">
+        <source></source>
+        <translation>Prévue : %1</translation>
+    </message>
+    <message id="chip_priority">
+        <source></source>
+        <translation>Priorité : %1</translation>
+    </message>
+    <message id="chip_remove">
+        <source></source>
+        <translation>Remettre dans le titre : %1</translation>
+    </message>
+    <message id="chip_unknown_phase">
+        <source></source>
+        <translation>Pas de phase « %1 »</translation>
+    </message>
+    <message id="chip_unknown_project">
+        <source></source>
+        <translation>Pas de projet « %1 »</translation>
+    </message>
+    <message id="choice_all_projects">
+        <source></source>
+        <translation>Tous les projets</translation>
     </message>
     <message id="coach_dismiss_button">
         <source></source>
@@ -299,6 +390,14 @@
         <source></source>
         <translation>Supprimer cette tâche ?</translation>
     </message>
+    <message id="confirm_unschedule_task_message">
+        <source></source>
+        <translation>Une tâche d’un projet y reste, sans ses dates. Une tâche sans projet est supprimée.</translation>
+    </message>
+    <message id="confirm_unschedule_task_title">
+        <source></source>
+        <translation>Retirer cette tâche de l’agenda ?</translation>
+    </message>
     <message id="count_files" numerus="yes">
         <source></source>
         <translation>
@@ -340,6 +439,22 @@
             <numerusform>%n tâche</numerusform>
             <numerusform>%n tâches</numerusform>
         </translation>
+    </message>
+    <message id="daily_agenda">
+        <source></source>
+        <translation>Agenda du jour</translation>
+    </message>
+    <message id="daily_objectives">
+        <source></source>
+        <translation>Objectifs du jour</translation>
+    </message>
+    <message id="date_first_of_month">
+        <source></source>
+        <translation>1er</translation>
+    </message>
+    <message id="date_strip_name">
+        <source></source>
+        <translation>Jours</translation>
     </message>
     <message id="day_in_a_week">
         <source></source>
@@ -451,6 +566,10 @@
     <message id="file_save_button">
         <source></source>
         <translation>Enregistrer</translation>
+    </message>
+    <message id="go_to_today_button">
+        <source></source>
+        <translation>Revenir à aujourd’hui</translation>
     </message>
     <message id="health_accessibility_missing">
         <source></source>
@@ -785,6 +904,25 @@
         <source></source>
         <translation>Langue</translation>
     </message>
+    <message id="late_tasks" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n tâche en retard</numerusform>
+            <numerusform>%n tâches en retard</numerusform>
+        </translation>
+    </message>
+    <message id="late_tasks_none">
+        <source></source>
+        <translation>Plus rien n’est en retard.</translation>
+    </message>
+    <message id="late_tasks_subtitle">
+        <source></source>
+        <translation>Échues ou prévues pour un jour passé. Une échéance reste tant que vous ne la changez pas dans la tâche.</translation>
+    </message>
+    <message id="late_tasks_title">
+        <source></source>
+        <translation>Tâches en retard</translation>
+    </message>
     <message id="list_blocked">
         <source></source>
         <translation>Bloquée</translation>
@@ -876,6 +1014,14 @@
     <message id="next_step_label">
         <source></source>
         <translation>Et maintenant ?</translation>
+    </message>
+    <message id="nothing_planned">
+        <source></source>
+        <translation>Rien de prévu</translation>
+    </message>
+    <message id="nothing_planned_subtitle">
+        <source></source>
+        <translation>Choisissez à quoi servira ce jour. Les tâches d’aujourd’hui rejoignent la file de Deep Work.</translation>
     </message>
     <message id="notice_browser_whitelisted">
         <source></source>
@@ -981,6 +1127,64 @@
     <message id="phase_work">
         <source></source>
         <translation>Phase de travail</translation>
+    </message>
+    <message id="pick_count" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n tâche ouverte</numerusform>
+            <numerusform>%n tâches ouvertes</numerusform>
+        </translation>
+    </message>
+    <message id="pick_list_name">
+        <source></source>
+        <translation>Tâches ouvertes</translation>
+    </message>
+    <message id="pick_no_tasks">
+        <source></source>
+        <translation>Il n’y a pas encore de tâche ouverte.</translation>
+    </message>
+    <message id="pick_none_button">
+        <source></source>
+        <translation>Choisir des tâches</translation>
+    </message>
+    <message id="pick_nothing_found">
+        <source></source>
+        <translation>Aucune tâche ouverte ne correspond.</translation>
+    </message>
+    <message id="pick_plan_button" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Planifier %n tâche</numerusform>
+            <numerusform>Planifier %n tâches</numerusform>
+        </translation>
+    </message>
+    <message id="pick_search_placeholder">
+        <source></source>
+        <translation>Chercher dans toutes les tâches ouvertes</translation>
+    </message>
+    <message id="pick_ticked_name">
+        <source></source>
+        <translation>%1, choisie</translation>
+    </message>
+    <message id="plan_for_day">
+        <source></source>
+        <translation>Prévoir un autre jour</translation>
+    </message>
+    <message id="plan_for_day_title">
+        <source></source>
+        <translation>Un jour pour « %1 »</translation>
+    </message>
+    <message id="plan_for_today">
+        <source></source>
+        <translation>Prévoir aujourd’hui</translation>
+    </message>
+    <message id="plan_task">
+        <source></source>
+        <translation>Planifier des tâches existantes</translation>
+    </message>
+    <message id="planning_day_label">
+        <source></source>
+        <translation>Jour</translation>
     </message>
     <message id="planning_exported_format">
         <source></source>
@@ -1133,6 +1337,22 @@
         <source></source>
         <translation>Il n’y avait rien de nouveau à importer.</translation>
     </message>
+    <message id="planning_sheet_title">
+        <source></source>
+        <translation>Planifier : %1</translation>
+    </message>
+    <message id="planning_tab_existing">
+        <source></source>
+        <translation>Tâches existantes</translation>
+    </message>
+    <message id="planning_tab_new">
+        <source></source>
+        <translation>Nouvelle tâche</translation>
+    </message>
+    <message id="planning_tabs_name">
+        <source></source>
+        <translation>Que planifier</translation>
+    </message>
     <message id="priority_high">
         <source></source>
         <translation>Haute</translation>
@@ -1156,6 +1376,34 @@
     <message id="queue_keys_hint">
         <source></source>
         <translation>Entrée : s’y mettre · Ctrl+Entrée : cocher · + : sous-tâche · Alt+↑↓ : déplacer · Suppr : retirer</translation>
+    </message>
+    <message id="quick_add_added">
+        <source></source>
+        <translation>« %1 » a été ajoutée · %2</translation>
+    </message>
+    <message id="quick_add_button">
+        <source></source>
+        <translation>Ajouter</translation>
+    </message>
+    <message id="quick_add_help">
+        <source></source>
+        <translation>! priorité · # projet · @ phase · un jour, ou « avant » et un jour. Une barre oblique inverse (\) garde un mot dans le titre.</translation>
+    </message>
+    <message id="quick_add_hint">
+        <source></source>
+        <translation>Rédiger le rapport !haute #Thèse @Brouillon demain avant le 12 décembre</translation>
+    </message>
+    <message id="quick_add_name">
+        <source></source>
+        <translation>Nouvelle tâche</translation>
+    </message>
+    <message id="quick_add_needs_title">
+        <source></source>
+        <translation>Il faut un titre à la tâche, en plus de ces mots.</translation>
+    </message>
+    <message id="quick_add_placeholder">
+        <source></source>
+        <translation>Ajouter une tâche à ce jour, puis Entrée</translation>
     </message>
     <message id="quit_button">
         <source></source>
@@ -1336,6 +1584,10 @@
         <source></source>
         <translation>Fermer</translation>
     </message>
+    <message id="sidebar_agenda">
+        <source></source>
+        <translation>Agenda</translation>
+    </message>
     <message id="sidebar_block_lists">
         <source></source>
         <translation>Listes de blocage</translation>
@@ -1351,6 +1603,10 @@
     <message id="sidebar_label">
         <source></source>
         <translation>Pages</translation>
+    </message>
+    <message id="sidebar_projects">
+        <source></source>
+        <translation>Projets</translation>
     </message>
     <message id="site_add_button">
         <source></source>
@@ -1471,6 +1727,10 @@
         <source></source>
         <translation>Supprimer %1</translation>
     </message>
+    <message id="subtask_of">
+        <source></source>
+        <translation>Sous-tâche de « %1 »</translation>
+    </message>
     <message id="subtask_placeholder">
         <source></source>
         <translation>Sous-tâche, puis Entrée</translation>
@@ -1586,6 +1846,10 @@
         <source></source>
         <translation>en retard</translation>
     </message>
+    <message id="task_late_mark">
+        <source></source>
+        <translation>En retard</translation>
+    </message>
     <message id="task_make_active">
         <source></source>
         <translation>Travailler sur « %1 »</translation>
@@ -1613,6 +1877,10 @@
     <message id="task_no_project">
         <source></source>
         <translation>Aucun projet</translation>
+    </message>
+    <message id="task_open_detail">
+        <source></source>
+        <translation>Ouvrir la tâche</translation>
     </message>
     <message id="task_phase_label">
         <source></source>
@@ -1696,6 +1964,10 @@
     <message id="task_title_placeholder">
         <source></source>
         <translation>Que faut-il faire ?</translation>
+    </message>
+    <message id="tasks_completed_format">
+        <source></source>
+        <translation>Terminées : %1 sur %2</translation>
     </message>
     <message id="tasks_count" numerus="yes">
         <source></source>
@@ -1784,6 +2056,10 @@
         <source></source>
         <translation>Aujourd’hui</translation>
     </message>
+    <message id="today_short">
+        <source></source>
+        <translation>Auj.</translation>
+    </message>
     <message id="tomorrow">
         <source></source>
         <translation>Demain</translation>
@@ -1791,6 +2067,10 @@
     <message id="undo_button">
         <source></source>
         <translation>Annuler</translation>
+    </message>
+    <message id="undo_completed_format">
+        <source></source>
+        <translation>« %1 » est terminée</translation>
     </message>
     <message id="undo_deleted_format">
         <source></source>
@@ -1807,9 +2087,24 @@
             <numerusform>%n phases ont été supprimées</numerusform>
         </translation>
     </message>
+    <message id="undo_planned_format" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n tâche a été planifiée · %1</numerusform>
+            <numerusform>%n tâches ont été planifiées · %1</numerusform>
+        </translation>
+    </message>
     <message id="undo_unscheduled_format">
         <source></source>
         <translation>« %1 » a été retirée de l’agenda</translation>
+    </message>
+    <message id="unschedule_button">
+        <source></source>
+        <translation>Retirer</translation>
+    </message>
+    <message id="unschedule_task">
+        <source></source>
+        <translation>Retirer de l’agenda</translation>
     </message>
     <message id="verdict_blocked">
         <source></source>

@@ -1,10 +1,12 @@
 #include "planning/QuickAddEntry.h"
 
 #include "model/ModelContext.h"
+#include "planning/AgendaRowsModel.h"
 #include "planning/CalendarDays.h"
 #include "platform/Clock.h"
 #include "sound/SoundService.h"
 
+#include <QUuid>
 #include <QtGlobal>
 
 #include <array>
@@ -43,18 +45,6 @@ QuickAddEntry::QuickAddEntry(const AgendaCollaborators& collaborators, const QLo
     };
     connect(&context, &ModelContext::projectAboutToBeRemoved, this, forget);
     connect(&context, &ModelContext::phaseAboutToBeRemoved, this, forget);
-    connect(&m_projects, &AgendaChoices::chosen, this, [this](const QString& id) {
-        choose(TaskEntryField::phase);
-        m_phase.reset();
-        choose(TaskEntryField::project);
-        m_project = ProjectId(QUuid(id));
-        understand();
-    });
-    connect(&m_phases, &AgendaChoices::chosen, this, [this](const QString& id) {
-        choose(TaskEntryField::phase);
-        m_phase = ProjectPhaseId(QUuid(id));
-        understand();
-    });
     connect(&m_calendar, &AgendaCalendarPopover::chosen, this, [this](QDate day) {
         choose(TaskEntryField::plannedDay);
         m_plannedDay = day;
@@ -68,8 +58,8 @@ QuickAddEntry::~QuickAddEntry() = default;
 void QuickAddEntry::open(const QDateTime& date) {
     m_date = date;
     m_priority.reset();
-    m_project.reset();
-    m_phase.reset();
+    m_project = {};
+    m_phase = {};
     m_plannedDay = {};
     setReport({}, {}, false);
     setLine({});
@@ -103,7 +93,7 @@ void QuickAddEntry::scheduleUnderstanding() {
 }
 
 void QuickAddEntry::understand() {
-    m_entry = parser().parse(m_line, m_project ? m_with.context.project(*m_project) : nullptr);
+    m_entry = parser().parse(m_line, m_with.context.project(m_project));
     fillChoices();
     fillChips();
     Q_EMIT understood();
@@ -112,14 +102,36 @@ void QuickAddEntry::understand() {
 Project* QuickAddEntry::project() const {
     if (m_entry.project != nullptr)
         return m_entry.project;
-    return m_project ? m_with.context.project(*m_project) : nullptr;
+    return m_with.context.project(m_project);
 }
 
 ProjectPhase* QuickAddEntry::phase() const {
     if (m_entry.phase != nullptr)
         return m_entry.phase;
-    ProjectPhase* const chosen = m_phase ? m_with.context.phase(*m_phase) : nullptr;
+    ProjectPhase* const chosen = m_with.context.phase(m_phase);
     return chosen != nullptr && chosen->project() == project() ? chosen : nullptr;
+}
+
+QString QuickAddEntry::projectId() const {
+    return project() != nullptr ? project()->id().toString() : QString();
+}
+
+void QuickAddEntry::chooseProject(const QString& id) {
+    choose(TaskEntryField::phase);
+    choose(TaskEntryField::project);
+    m_phase = {};
+    m_project = ProjectId(QUuid(id));
+    understand();
+}
+
+QString QuickAddEntry::phaseId() const {
+    return phase() != nullptr ? phase()->id().toString() : QString();
+}
+
+void QuickAddEntry::choosePhase(const QString& id) {
+    choose(TaskEntryField::phase);
+    m_phase = ProjectPhaseId(QUuid(id));
+    understand();
 }
 
 QDate QuickAddEntry::plannedDay() const {
@@ -181,11 +193,11 @@ void QuickAddEntry::removeChip(int row) {
         leave(TaskEntryField::priority);
         break;
     case TaskEntryChips::Kind::project:
-        m_project.reset();
+        m_project = {};
         leave(TaskEntryField::project);
         break;
     case TaskEntryChips::Kind::phase:
-        m_phase.reset();
+        m_phase = {};
         leave(TaskEntryField::phase);
         break;
     case TaskEntryChips::Kind::plannedDay:
@@ -202,17 +214,20 @@ void QuickAddEntry::removeChip(int row) {
 }
 
 void QuickAddEntry::fillChoices() {
-    QList<AgendaChoices::Choice> projects{{QString(), qtTrId("choice_no_project")}};
+    QVariantList projects{choice({}, qtTrId("task_no_project"))};
     for (const Project* each : m_with.context.projects())
-        projects.append({each->id().toString(), each->name(), each->colorHex()});
-    m_projects.set(projects, project() != nullptr ? project()->id().toString() : QString());
-    QList<AgendaChoices::Choice> phases;
+        projects.append(choice(each->id().toString(), each->name(), each->colorHex()));
+    QVariantList phases;
     if (project() != nullptr) {
-        phases.append({QString(), qtTrId("choice_no_phase")});
+        phases.append(choice({}, qtTrId("task_no_phase")));
         for (const ProjectPhase* each : project()->sortedPhases())
-            phases.append({each->id().toString(), each->name()});
+            phases.append(choice(each->id().toString(), each->name()));
     }
-    m_phases.set(phases, phase() != nullptr ? phase()->id().toString() : QString());
+    if (projects == m_projects && phases == m_phases)
+        return;
+    m_projects = projects;
+    m_phases = phases;
+    Q_EMIT choicesChanged();
 }
 
 void QuickAddEntry::fillChips() {

@@ -3,7 +3,6 @@
 #include "model/Project.h"
 #include "model/ProjectPhase.h"
 #include "planning/AgendaCalendarPopover.h"
-#include "planning/AgendaChoices.h"
 #include "planning/FilteredTaskList.h"
 #include "planning/TaskEntryChips.h"
 #include "planning/TaskEntryParser.h"
@@ -12,6 +11,7 @@
 #include <QLocale>
 #include <QObject>
 #include <QString>
+#include <QVariantList>
 
 #include <optional>
 
@@ -26,9 +26,13 @@ class QuickAddEntry final : public QObject {
     /// The title that the task would get.
     Q_PROPERTY(QString title READ title NOTIFY understood)
     Q_PROPERTY(norvin::TaskEntryChips* chips READ chips CONSTANT)
-    Q_PROPERTY(norvin::AgendaChoices* projects READ projects CONSTANT)
-    /// Those of the project; empty without one.
-    Q_PROPERTY(norvin::AgendaChoices* phases READ phases CONSTANT)
+    /// Maps with "id", "name" and "color"; the first stands for none.
+    Q_PROPERTY(QVariantList projects READ projects NOTIFY choicesChanged)
+    /// The same for the phases of the project; empty without one.
+    Q_PROPERTY(QVariantList phases READ phases NOTIFY choicesChanged)
+    /// Empty for none; the same for phaseId.
+    Q_PROPERTY(QString projectId READ projectId WRITE chooseProject NOTIFY understood)
+    Q_PROPERTY(QString phaseId READ phaseId WRITE choosePhase NOTIFY understood)
     /// "low", "medium" or "high".
     Q_PROPERTY(QString priority READ priority WRITE choosePriority NOTIFY understood)
     /// The day that the task would be planned for, in words.
@@ -50,8 +54,13 @@ public:
     void setLine(const QString& line);
     [[nodiscard]] const QString& title() const { return m_entry.title; }
     [[nodiscard]] TaskEntryChips* chips() { return &m_chips; }
-    [[nodiscard]] AgendaChoices* projects() { return &m_projects; }
-    [[nodiscard]] AgendaChoices* phases() { return &m_phases; }
+    [[nodiscard]] const QVariantList& projects() const { return m_projects; }
+    [[nodiscard]] const QVariantList& phases() const { return m_phases; }
+    [[nodiscard]] QString projectId() const;
+    /// Chooses another project, and none of its phases.
+    void chooseProject(const QString& id);
+    [[nodiscard]] QString phaseId() const;
+    void choosePhase(const QString& id);
     [[nodiscard]] QString priority() const;
     void choosePriority(const QString& priority);
     [[nodiscard]] QString dayText() const;
@@ -72,6 +81,7 @@ public:
 Q_SIGNALS:
     void lineChanged();
     void understood();
+    void choicesChanged();
     void showCalendarChanged();
     void reportChanged();
 
@@ -92,14 +102,14 @@ private:
     QDateTime m_date;
     QString m_line;
     TaskEntry m_entry;
-    // Chosen with the pointer.
+    // Chosen with the pointer; null ids for nothing.
     std::optional<TaskPriority> m_priority;
-    std::optional<ProjectId> m_project;
-    std::optional<ProjectPhaseId> m_phase;
+    ProjectId m_project;
+    ProjectPhaseId m_phase;
     QDate m_plannedDay;
     TaskEntryChips m_chips;
-    AgendaChoices m_projects;
-    AgendaChoices m_phases;
+    QVariantList m_projects;
+    QVariantList m_phases;
     AgendaCalendarPopover m_calendar;
     QString m_addedTitle;
     QDate m_addedDay;

@@ -1,6 +1,7 @@
 #include "planning/TaskPickList.h"
 
 #include "model/ModelContext.h"
+#include "planning/AgendaRowsModel.h"
 #include "planning/CalendarDays.h"
 #include "platform/Clock.h"
 #include "platform/TextSearch.h"
@@ -40,11 +41,6 @@ TaskPickList::TaskPickList(ModelContext& context, Clock& clock, const QLocale& l
     connect(&m_context, &ModelContext::projectAboutToBeRemoved, this, [this](const Project* project) {
         m_projectKeys.remove(project);
         scheduleLoad();
-    });
-    connect(&m_projects, &AgendaChoices::chosen, this, [this](const QString& id) {
-        m_project = id.isEmpty() ? std::nullopt : std::optional(ProjectId(QUuid(id)));
-        fillProjects();
-        find();
     });
     connect(&m_warmUp, &QTimer::timeout, this, &TaskPickList::warmUp);
 }
@@ -124,10 +120,19 @@ void TaskPickList::scheduleLoad() {
 }
 
 void TaskPickList::fillProjects() {
-    QList<AgendaChoices::Choice> choices{{QString(), qtTrId("choice_all_projects")}};
+    QVariantList projects{choice({}, qtTrId("choice_all_projects"))};
     for (const Project* project : m_context.projects())
-        choices.append({project->id().toString(), project->name(), project->colorHex()});
-    m_projects.set(choices, m_project ? m_project->toString() : QString());
+        projects.append(choice(project->id().toString(), project->name(), project->colorHex()));
+    if (m_project && m_context.project(*m_project) == nullptr)
+        m_project.reset();
+    m_projects = projects;
+    Q_EMIT projectsChanged();
+}
+
+void TaskPickList::setProjectId(const QString& id) {
+    m_project = id.isEmpty() ? std::nullopt : std::optional(ProjectId(QUuid(id)));
+    Q_EMIT projectsChanged();
+    find();
 }
 
 const QString& TaskPickList::keyOf(const TaskItem& task) {

@@ -2,7 +2,6 @@
 
 #include "model/Project.h"
 #include "model/TaskItem.h"
-#include "planning/AgendaChoices.h"
 
 #include <QAbstractListModel>
 #include <QDate>
@@ -11,6 +10,7 @@
 #include <QSet>
 #include <QString>
 #include <QTimer>
+#include <QVariantList>
 
 #include <optional>
 #include <vector>
@@ -26,8 +26,10 @@ class ModelContext;
 class TaskPickList final : public QAbstractListModel {
     Q_OBJECT
     Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY searchTextChanged)
-    /// The project to which the list is narrowed.
-    Q_PROPERTY(norvin::AgendaChoices* projects READ projects CONSTANT)
+    /// Maps with "id", "name" and "color"; the first stands for all.
+    Q_PROPERTY(QVariantList projects READ projects NOTIFY projectsChanged)
+    /// The project to which the list is narrowed; empty for all.
+    Q_PROPERTY(QString projectId READ projectId WRITE setProjectId NOTIFY projectsChanged)
     Q_PROPERTY(int count READ count NOTIFY countChanged)
     /// Tasks that could be found, whatever is searched for.
     Q_PROPERTY(int total READ total NOTIFY countChanged)
@@ -52,7 +54,9 @@ public:
 
     [[nodiscard]] const QString& searchText() const { return m_searchText; }
     void setSearchText(const QString& text);
-    [[nodiscard]] AgendaChoices* projects() { return &m_projects; }
+    [[nodiscard]] const QVariantList& projects() const { return m_projects; }
+    [[nodiscard]] QString projectId() const { return m_project ? m_project->toString() : QString(); }
+    void setProjectId(const QString& id);
     [[nodiscard]] int count() const { return static_cast<int>(m_rows.size()); }
     [[nodiscard]] int total() const { return static_cast<int>(m_all.size()); }
     [[nodiscard]] int tickedCount() const { return static_cast<int>(m_ticked.size()); }
@@ -70,6 +74,7 @@ public:
 
 Q_SIGNALS:
     void searchTextChanged();
+    void projectsChanged();
     void countChanged();
     void tickedCountChanged();
 
@@ -88,7 +93,7 @@ private:
     Clock& m_clock;
     QLocale m_locale;
     QString m_searchText;
-    AgendaChoices m_projects;
+    QVariantList m_projects;
     std::optional<ProjectId> m_project;
     /// The task that the list was opened for.
     std::optional<TaskId> m_asked;
