@@ -59,6 +59,10 @@
         <source></source>
         <translation>Activity is no longer measured</translation>
     </message>
+    <message id="add_button">
+        <source></source>
+        <translation>Add task</translation>
+    </message>
     <message id="add_task">
         <source></source>
         <translation>New task</translation>
@@ -161,6 +165,30 @@
             <numerusform>%n blocked</numerusform>
         </translation>
     </message>
+    <message id="board_back_button">
+        <source></source>
+        <translation>All projects</translation>
+    </message>
+    <message id="board_column_name">
+        <source></source>
+        <translation>%1, %2</translation>
+    </message>
+    <message id="board_new_task_button">
+        <source></source>
+        <translation>Add a task</translation>
+    </message>
+    <message id="board_new_task_name">
+        <source></source>
+        <translation>New task, %1</translation>
+    </message>
+    <message id="board_new_task_placeholder">
+        <source></source>
+        <translation>What is to be done?</translation>
+    </message>
+    <message id="board_tabs_name">
+        <source></source>
+        <translation>Phases</translation>
+    </message>
     <message id="break_button">
         <source></source>
         <translation>Take a break</translation>
@@ -258,6 +286,42 @@
     <message id="cancel_button">
         <source></source>
         <translation>Cancel</translation>
+    </message>
+    <message id="card_delete_button">
+        <source></source>
+        <translation>Delete</translation>
+    </message>
+    <message id="card_due_name">
+        <source></source>
+        <translation>due %1</translation>
+    </message>
+    <message id="card_late_name">
+        <source></source>
+        <translation>%1, late</translation>
+    </message>
+    <message id="card_more_button">
+        <source></source>
+        <translation>What to do with “%1”</translation>
+    </message>
+    <message id="card_move_format">
+        <source></source>
+        <translation>Move to “%1”</translation>
+    </message>
+    <message id="card_open_button">
+        <source></source>
+        <translation>Open</translation>
+    </message>
+    <message id="card_plan_button">
+        <source></source>
+        <translation>Plan</translation>
+    </message>
+    <message id="card_planned_name">
+        <source></source>
+        <translation>planned for %1</translation>
+    </message>
+    <message id="card_priority_name">
+        <source></source>
+        <translation>priority: %1</translation>
     </message>
     <message id="category_communication">
         <source></source>
@@ -359,6 +423,54 @@
         <source></source>
         <translation>Paused. Catch your breath, then carry on.</translation>
     </message>
+    <message id="color_amber">
+        <source></source>
+        <translation>Amber</translation>
+    </message>
+    <message id="color_blue">
+        <source></source>
+        <translation>Blue</translation>
+    </message>
+    <message id="color_cyan">
+        <source></source>
+        <translation>Cyan</translation>
+    </message>
+    <message id="color_deep_violet">
+        <source></source>
+        <translation>Deep violet</translation>
+    </message>
+    <message id="color_green">
+        <source></source>
+        <translation>Green</translation>
+    </message>
+    <message id="color_indigo">
+        <source></source>
+        <translation>Indigo</translation>
+    </message>
+    <message id="color_lavender">
+        <source></source>
+        <translation>Lavender</translation>
+    </message>
+    <message id="color_orange">
+        <source></source>
+        <translation>Orange</translation>
+    </message>
+    <message id="color_pink">
+        <source></source>
+        <translation>Pink</translation>
+    </message>
+    <message id="color_red">
+        <source></source>
+        <translation>Red</translation>
+    </message>
+    <message id="color_teal">
+        <source></source>
+        <translation>Teal</translation>
+    </message>
+    <message id="color_violet">
+        <source></source>
+        <translation>Violet</translation>
+    </message>
     <message id="completed_break_title">
         <source></source>
         <translation>Break over</translation>
@@ -381,6 +493,18 @@
     <message id="completed_work_title">
         <source></source>
         <translation>Work phase finished</translation>
+    </message>
+    <message id="confirm_delete_phase_title">
+        <source></source>
+        <translation>Delete the phase “%1”?</translation>
+    </message>
+    <message id="confirm_delete_project_message">
+        <source></source>
+        <translation>You have ten seconds to take it back.</translation>
+    </message>
+    <message id="confirm_delete_project_title">
+        <source></source>
+        <translation>Delete “%1”?</translation>
     </message>
     <message id="confirm_delete_task_message">
         <source></source>
@@ -440,6 +564,14 @@
             <numerusform>%n tasks</numerusform>
         </translation>
     </message>
+    <message id="create_project_action">
+        <source></source>
+        <translation>Create project</translation>
+    </message>
+    <message id="create_project_title">
+        <source></source>
+        <translation>New project</translation>
+    </message>
     <message id="daily_agenda">
         <source></source>
         <translation>Daily agenda</translation>
@@ -460,6 +592,18 @@
         <source></source>
         <translation>In a week</translation>
     </message>
+    <message id="default_phases_empty">
+        <source></source>
+        <translation>No phases: the board has no tabs.</translation>
+    </message>
+    <message id="default_phases_hint">
+        <source></source>
+        <translation>Each becomes a tab of the board. Alt+↑↓ moves one.</translation>
+    </message>
+    <message id="default_phases_label">
+        <source></source>
+        <translation>Phases</translation>
+    </message>
     <message id="delete_button">
         <source></source>
         <translation>Delete</translation>
@@ -478,6 +622,10 @@
     <message id="done_button">
         <source></source>
         <translation>Done</translation>
+    </message>
+    <message id="drop_task_here">
+        <source></source>
+        <translation>Drop a task here</translation>
     </message>
     <message id="duration_hours_minutes">
         <source></source>
@@ -514,6 +662,10 @@
     <message id="duration_seconds">
         <source></source>
         <translation>%1 s</translation>
+    </message>
+    <message id="edit_project">
+        <source></source>
+        <translation>Edit project</translation>
     </message>
     <message id="enumeration_and">
         <source></source>
@@ -1011,6 +1163,22 @@
         <source></source>
         <translation>Import block lists</translation>
     </message>
+    <message id="manage_phases_empty_subtitle">
+        <source></source>
+        <translation>Phases part a long board into its stages.</translation>
+    </message>
+    <message id="manage_phases_empty_title">
+        <source></source>
+        <translation>No phases yet</translation>
+    </message>
+    <message id="manage_phases_subtitle">
+        <source></source>
+        <translation>Each is a tab of the board. F2 renames, Alt+↑↓ moves, Delete deletes.</translation>
+    </message>
+    <message id="manage_phases_title">
+        <source></source>
+        <translation>Phases</translation>
+    </message>
     <message id="next_step_label">
         <source></source>
         <translation>What comes next?</translation>
@@ -1108,25 +1276,61 @@
         <source></source>
         <translation>Work phase finished</translation>
     </message>
+    <message id="overview_tab">
+        <source></source>
+        <translation>Overview</translation>
+    </message>
     <message id="pause_button">
         <source></source>
         <translation>Pause</translation>
+    </message>
+    <message id="phase_add_button">
+        <source></source>
+        <translation>Add</translation>
     </message>
     <message id="phase_break">
         <source></source>
         <translation>Break</translation>
     </message>
+    <message id="phase_delete_button">
+        <source></source>
+        <translation>Delete “%1”</translation>
+    </message>
     <message id="phase_idle">
         <source></source>
         <translation>Ready to focus</translation>
+    </message>
+    <message id="phase_name_label">
+        <source></source>
+        <translation>Phase name</translation>
+    </message>
+    <message id="phase_placeholder">
+        <source></source>
+        <translation>Add a phase</translation>
     </message>
     <message id="phase_rearming">
         <source></source>
         <translation>Re-arming</translation>
     </message>
+    <message id="phase_remove_button">
+        <source></source>
+        <translation>Remove “%1”</translation>
+    </message>
+    <message id="phase_rename_button">
+        <source></source>
+        <translation>Rename “%1”</translation>
+    </message>
+    <message id="phase_row_name">
+        <source></source>
+        <translation>Phase %1</translation>
+    </message>
     <message id="phase_work">
         <source></source>
         <translation>Work phase</translation>
+    </message>
+    <message id="phases_label">
+        <source></source>
+        <translation>Phases</translation>
     </message>
     <message id="pick_count" numerus="yes">
         <source></source>
@@ -1365,6 +1569,136 @@
         <source></source>
         <translation>Medium</translation>
     </message>
+    <message id="project_color_label">
+        <source></source>
+        <translation>Colour</translation>
+    </message>
+    <message id="project_color_name">
+        <source></source>
+        <translation>%1, %2 of %3</translation>
+    </message>
+    <message id="project_delete_button">
+        <source></source>
+        <translation>Delete project</translation>
+    </message>
+    <message id="project_description_label">
+        <source></source>
+        <translation>Description</translation>
+    </message>
+    <message id="project_description_placeholder">
+        <source></source>
+        <translation>What is it about?</translation>
+    </message>
+    <message id="project_discard_button">
+        <source></source>
+        <translation>Close</translation>
+    </message>
+    <message id="project_discard_message">
+        <source></source>
+        <translation>What you have changed here is not saved yet.</translation>
+    </message>
+    <message id="project_discard_title">
+        <source></source>
+        <translation>Close without saving?</translation>
+    </message>
+    <message id="project_icon_label">
+        <source></source>
+        <translation>Icon</translation>
+    </message>
+    <message id="project_icon_name">
+        <source></source>
+        <translation>Icon %1 of %2</translation>
+    </message>
+    <message id="project_keep_button">
+        <source></source>
+        <translation>Keep editing</translation>
+    </message>
+    <message id="project_keys_hint">
+        <source></source>
+        <translation>Ctrl+Enter saves</translation>
+    </message>
+    <message id="project_more_button">
+        <source></source>
+        <translation>What to do with “%1”</translation>
+    </message>
+    <message id="project_name_label">
+        <source></source>
+        <translation>Name</translation>
+    </message>
+    <message id="project_name_placeholder">
+        <source></source>
+        <translation>What is it called?</translation>
+    </message>
+    <message id="project_new_button">
+        <source></source>
+        <translation>New project</translation>
+    </message>
+    <message id="project_no_tasks">
+        <source></source>
+        <translation>No tasks yet</translation>
+    </message>
+    <message id="project_open_button">
+        <source></source>
+        <translation>Open board</translation>
+    </message>
+    <message id="project_progress" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%1 of %n task done</numerusform>
+            <numerusform>%1 of %n tasks done</numerusform>
+        </translation>
+    </message>
+    <message id="project_search_placeholder">
+        <source></source>
+        <translation>Search projects</translation>
+    </message>
+    <message id="project_sort_created">
+        <source></source>
+        <translation>Newest</translation>
+    </message>
+    <message id="project_sort_label">
+        <source></source>
+        <translation>Sort by</translation>
+    </message>
+    <message id="project_sort_name">
+        <source></source>
+        <translation>Name</translation>
+    </message>
+    <message id="project_sort_progress">
+        <source></source>
+        <translation>Progress</translation>
+    </message>
+    <message id="projects_count_plural" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n project</numerusform>
+            <numerusform>%n projects</numerusform>
+        </translation>
+    </message>
+    <message id="projects_empty_subtitle">
+        <source></source>
+        <translation>A project gathers the tasks of one undertaking, puts them on a board and shows how far you are.</translation>
+    </message>
+    <message id="projects_empty_title">
+        <source></source>
+        <translation>No projects yet</translation>
+    </message>
+    <message id="projects_no_match_subtitle">
+        <source></source>
+        <translation>Nothing in the names and descriptions is like “%1”.</translation>
+    </message>
+    <message id="projects_no_match_title">
+        <source></source>
+        <translation>No project matches</translation>
+    </message>
+    <message id="projects_subtitle">
+        <source></source>
+        <translation>A project gathers tasks on a board of its own.</translation>
+    </message>
+    <message id="projects_title">
+        <source></source>
+        <translation>Projects</translation>
+    </message>
     <message id="queue_empty_subtitle">
         <source></source>
         <translation>Type what you want to get done and press Enter. Then start.</translation>
@@ -1517,6 +1851,10 @@
         <source></source>
         <translation>left</translation>
     </message>
+    <message id="save_project_action">
+        <source></source>
+        <translation>Save</translation>
+    </message>
     <message id="score_hide_terms">
         <source></source>
         <translation>Hide the explanation</translation>
@@ -1583,6 +1921,10 @@
     <message id="sheet_close_button">
         <source></source>
         <translation>Close</translation>
+    </message>
+    <message id="sheet_done_button">
+        <source></source>
+        <translation>Done</translation>
     </message>
     <message id="sidebar_agenda">
         <source></source>
@@ -1970,6 +2312,13 @@
         <translation>%1 of %2 done</translation>
     </message>
     <message id="tasks_count" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n task</numerusform>
+            <numerusform>%n tasks</numerusform>
+        </translation>
+    </message>
+    <message id="tasks_count_format" numerus="yes">
         <source></source>
         <translation>
             <numerusform>%n task</numerusform>

@@ -59,6 +59,10 @@
         <source></source>
         <translation>L’activité n’est plus mesurée</translation>
     </message>
+    <message id="add_button">
+        <source></source>
+        <translation>Ajouter une tâche</translation>
+    </message>
     <message id="add_task">
         <source></source>
         <translation>Nouvelle tâche</translation>
@@ -161,6 +165,30 @@
             <numerusform>%n bloquées</numerusform>
         </translation>
     </message>
+    <message id="board_back_button">
+        <source></source>
+        <translation>Tous les projets</translation>
+    </message>
+    <message id="board_column_name">
+        <source></source>
+        <translation>%1, %2</translation>
+    </message>
+    <message id="board_new_task_button">
+        <source></source>
+        <translation>Ajouter une tâche</translation>
+    </message>
+    <message id="board_new_task_name">
+        <source></source>
+        <translation>Nouvelle tâche, %1</translation>
+    </message>
+    <message id="board_new_task_placeholder">
+        <source></source>
+        <translation>Que faut-il faire ?</translation>
+    </message>
+    <message id="board_tabs_name">
+        <source></source>
+        <translation>Phases</translation>
+    </message>
     <message id="break_button">
         <source></source>
         <translation>Faire une pause</translation>
@@ -258,6 +286,42 @@
     <message id="cancel_button">
         <source></source>
         <translation>Annuler</translation>
+    </message>
+    <message id="card_delete_button">
+        <source></source>
+        <translation>Supprimer</translation>
+    </message>
+    <message id="card_due_name">
+        <source></source>
+        <translation>échéance : %1</translation>
+    </message>
+    <message id="card_late_name">
+        <source></source>
+        <translation>%1, en retard</translation>
+    </message>
+    <message id="card_more_button">
+        <source></source>
+        <translation>Que faire de « %1 »</translation>
+    </message>
+    <message id="card_move_format">
+        <source></source>
+        <translation>Déplacer vers « %1 »</translation>
+    </message>
+    <message id="card_open_button">
+        <source></source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message id="card_plan_button">
+        <source></source>
+        <translation>Planifier</translation>
+    </message>
+    <message id="card_planned_name">
+        <source></source>
+        <translation>prévue : %1</translation>
+    </message>
+    <message id="card_priority_name">
+        <source></source>
+        <translation>priorité : %1</translation>
     </message>
     <message id="category_communication">
         <source></source>
@@ -359,6 +423,54 @@
         <source></source>
         <translation>En pause. Soufflez un peu, puis reprenez le fil.</translation>
     </message>
+    <message id="color_amber">
+        <source></source>
+        <translation>Ambre</translation>
+    </message>
+    <message id="color_blue">
+        <source></source>
+        <translation>Bleu</translation>
+    </message>
+    <message id="color_cyan">
+        <source></source>
+        <translation>Cyan</translation>
+    </message>
+    <message id="color_deep_violet">
+        <source></source>
+        <translation>Violet profond</translation>
+    </message>
+    <message id="color_green">
+        <source></source>
+        <translation>Vert</translation>
+    </message>
+    <message id="color_indigo">
+        <source></source>
+        <translation>Indigo</translation>
+    </message>
+    <message id="color_lavender">
+        <source></source>
+        <translation>Lavande</translation>
+    </message>
+    <message id="color_orange">
+        <source></source>
+        <translation>Orange</translation>
+    </message>
+    <message id="color_pink">
+        <source></source>
+        <translation>Rose</translation>
+    </message>
+    <message id="color_red">
+        <source></source>
+        <translation>Rouge</translation>
+    </message>
+    <message id="color_teal">
+        <source></source>
+        <translation>Bleu canard</translation>
+    </message>
+    <message id="color_violet">
+        <source></source>
+        <translation>Violet</translation>
+    </message>
     <message id="completed_break_title">
         <source></source>
         <translation>Pause terminée</translation>
@@ -381,6 +493,18 @@
     <message id="completed_work_title">
         <source></source>
         <translation>Phase de travail terminée</translation>
+    </message>
+    <message id="confirm_delete_phase_title">
+        <source></source>
+        <translation>Supprimer la phase « %1 » ?</translation>
+    </message>
+    <message id="confirm_delete_project_message">
+        <source></source>
+        <translation>Vous avez dix secondes pour revenir en arrière.</translation>
+    </message>
+    <message id="confirm_delete_project_title">
+        <source></source>
+        <translation>Supprimer « %1 » ?</translation>
     </message>
     <message id="confirm_delete_task_message">
         <source></source>
@@ -440,6 +564,14 @@
             <numerusform>%n tâches</numerusform>
         </translation>
     </message>
+    <message id="create_project_action">
+        <source></source>
+        <translation>Créer le projet</translation>
+    </message>
+    <message id="create_project_title">
+        <source></source>
+        <translation>Nouveau projet</translation>
+    </message>
     <message id="daily_agenda">
         <source></source>
         <translation>Agenda du jour</translation>
@@ -460,6 +592,18 @@
         <source></source>
         <translation>Dans 7 jours</translation>
     </message>
+    <message id="default_phases_empty">
+        <source></source>
+        <translation>Aucune phase : le tableau n’a pas d’onglets.</translation>
+    </message>
+    <message id="default_phases_hint">
+        <source></source>
+        <translation>Chacune devient un onglet du tableau. Alt+↑↓ la déplace.</translation>
+    </message>
+    <message id="default_phases_label">
+        <source></source>
+        <translation>Phases</translation>
+    </message>
     <message id="delete_button">
         <source></source>
         <translation>Supprimer</translation>
@@ -478,6 +622,10 @@
     <message id="done_button">
         <source></source>
         <translation>Terminer</translation>
+    </message>
+    <message id="drop_task_here">
+        <source></source>
+        <translation>Déposez une tâche ici</translation>
     </message>
     <message id="duration_hours_minutes">
         <source></source>
@@ -514,6 +662,10 @@
     <message id="duration_seconds">
         <source></source>
         <translation>%1 s</translation>
+    </message>
+    <message id="edit_project">
+        <source></source>
+        <translation>Modifier le projet</translation>
     </message>
     <message id="enumeration_and">
         <source></source>
@@ -1011,6 +1163,22 @@
         <source></source>
         <translation>Importer des listes de blocage</translation>
     </message>
+    <message id="manage_phases_empty_subtitle">
+        <source></source>
+        <translation>Les phases découpent un long tableau en étapes.</translation>
+    </message>
+    <message id="manage_phases_empty_title">
+        <source></source>
+        <translation>Aucune phase pour l’instant</translation>
+    </message>
+    <message id="manage_phases_subtitle">
+        <source></source>
+        <translation>Chacune est un onglet du tableau. F2 renomme, Alt+↑↓ déplace, Suppr supprime.</translation>
+    </message>
+    <message id="manage_phases_title">
+        <source></source>
+        <translation>Phases</translation>
+    </message>
     <message id="next_step_label">
         <source></source>
         <translation>Et maintenant ?</translation>
@@ -1108,25 +1276,61 @@
         <source></source>
         <translation>Phase de travail terminée</translation>
     </message>
+    <message id="overview_tab">
+        <source></source>
+        <translation>Vue d’ensemble</translation>
+    </message>
     <message id="pause_button">
         <source></source>
         <translation>Pause</translation>
+    </message>
+    <message id="phase_add_button">
+        <source></source>
+        <translation>Ajouter</translation>
     </message>
     <message id="phase_break">
         <source></source>
         <translation>Pause</translation>
     </message>
+    <message id="phase_delete_button">
+        <source></source>
+        <translation>Supprimer « %1 »</translation>
+    </message>
     <message id="phase_idle">
         <source></source>
         <translation>Prêt à se concentrer</translation>
+    </message>
+    <message id="phase_name_label">
+        <source></source>
+        <translation>Nom de la phase</translation>
+    </message>
+    <message id="phase_placeholder">
+        <source></source>
+        <translation>Ajouter une phase</translation>
     </message>
     <message id="phase_rearming">
         <source></source>
         <translation>Réarmement</translation>
     </message>
+    <message id="phase_remove_button">
+        <source></source>
+        <translation>Retirer « %1 »</translation>
+    </message>
+    <message id="phase_rename_button">
+        <source></source>
+        <translation>Renommer « %1 »</translation>
+    </message>
+    <message id="phase_row_name">
+        <source></source>
+        <translation>Phase %1</translation>
+    </message>
     <message id="phase_work">
         <source></source>
         <translation>Phase de travail</translation>
+    </message>
+    <message id="phases_label">
+        <source></source>
+        <translation>Phases</translation>
     </message>
     <message id="pick_count" numerus="yes">
         <source></source>
@@ -1365,6 +1569,136 @@
         <source></source>
         <translation>Moyenne</translation>
     </message>
+    <message id="project_color_label">
+        <source></source>
+        <translation>Couleur</translation>
+    </message>
+    <message id="project_color_name">
+        <source></source>
+        <translation>%1, %2 sur %3</translation>
+    </message>
+    <message id="project_delete_button">
+        <source></source>
+        <translation>Supprimer le projet</translation>
+    </message>
+    <message id="project_description_label">
+        <source></source>
+        <translation>Description</translation>
+    </message>
+    <message id="project_description_placeholder">
+        <source></source>
+        <translation>De quoi s’agit-il ?</translation>
+    </message>
+    <message id="project_discard_button">
+        <source></source>
+        <translation>Fermer</translation>
+    </message>
+    <message id="project_discard_message">
+        <source></source>
+        <translation>Ce que vous avez modifié ici n’est pas encore enregistré.</translation>
+    </message>
+    <message id="project_discard_title">
+        <source></source>
+        <translation>Fermer sans enregistrer ?</translation>
+    </message>
+    <message id="project_icon_label">
+        <source></source>
+        <translation>Icône</translation>
+    </message>
+    <message id="project_icon_name">
+        <source></source>
+        <translation>Icône %1 sur %2</translation>
+    </message>
+    <message id="project_keep_button">
+        <source></source>
+        <translation>Continuer</translation>
+    </message>
+    <message id="project_keys_hint">
+        <source></source>
+        <translation>Ctrl+Entrée enregistre</translation>
+    </message>
+    <message id="project_more_button">
+        <source></source>
+        <translation>Que faire de « %1 »</translation>
+    </message>
+    <message id="project_name_label">
+        <source></source>
+        <translation>Nom</translation>
+    </message>
+    <message id="project_name_placeholder">
+        <source></source>
+        <translation>Comment s’appelle-t-il ?</translation>
+    </message>
+    <message id="project_new_button">
+        <source></source>
+        <translation>Nouveau projet</translation>
+    </message>
+    <message id="project_no_tasks">
+        <source></source>
+        <translation>Aucune tâche</translation>
+    </message>
+    <message id="project_open_button">
+        <source></source>
+        <translation>Ouvrir le tableau</translation>
+    </message>
+    <message id="project_progress" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%1 tâche sur %n terminée</numerusform>
+            <numerusform>%1 tâches sur %n terminées</numerusform>
+        </translation>
+    </message>
+    <message id="project_search_placeholder">
+        <source></source>
+        <translation>Rechercher un projet</translation>
+    </message>
+    <message id="project_sort_created">
+        <source></source>
+        <translation>Récents</translation>
+    </message>
+    <message id="project_sort_label">
+        <source></source>
+        <translation>Trier par</translation>
+    </message>
+    <message id="project_sort_name">
+        <source></source>
+        <translation>Nom</translation>
+    </message>
+    <message id="project_sort_progress">
+        <source></source>
+        <translation>Avancement</translation>
+    </message>
+    <message id="projects_count_plural" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n projet</numerusform>
+            <numerusform>%n projets</numerusform>
+        </translation>
+    </message>
+    <message id="projects_empty_subtitle">
+        <source></source>
+        <translation>Un projet rassemble les tâches d’une même entreprise, les pose sur un tableau et montre où vous en êtes.</translation>
+    </message>
+    <message id="projects_empty_title">
+        <source></source>
+        <translation>Aucun projet pour l’instant</translation>
+    </message>
+    <message id="projects_no_match_subtitle">
+        <source></source>
+        <translation>Rien dans les noms et les descriptions ne ressemble à « %1 ».</translation>
+    </message>
+    <message id="projects_no_match_title">
+        <source></source>
+        <translation>Aucun projet ne correspond</translation>
+    </message>
+    <message id="projects_subtitle">
+        <source></source>
+        <translation>Un projet rassemble des tâches sur son propre tableau.</translation>
+    </message>
+    <message id="projects_title">
+        <source></source>
+        <translation>Projets</translation>
+    </message>
     <message id="queue_empty_subtitle">
         <source></source>
         <translation>Écrivez ce que vous voulez accomplir, puis Entrée. Il ne reste qu’à démarrer.</translation>
@@ -1517,6 +1851,10 @@
         <source></source>
         <translation>restant</translation>
     </message>
+    <message id="save_project_action">
+        <source></source>
+        <translation>Enregistrer</translation>
+    </message>
     <message id="score_hide_terms">
         <source></source>
         <translation>Masquer l’explication</translation>
@@ -1583,6 +1921,10 @@
     <message id="sheet_close_button">
         <source></source>
         <translation>Fermer</translation>
+    </message>
+    <message id="sheet_done_button">
+        <source></source>
+        <translation>Terminé</translation>
     </message>
     <message id="sidebar_agenda">
         <source></source>
@@ -1970,6 +2312,13 @@
         <translation>Terminées : %1 sur %2</translation>
     </message>
     <message id="tasks_count" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n tâche</numerusform>
+            <numerusform>%n tâches</numerusform>
+        </translation>
+    </message>
+    <message id="tasks_count_format" numerus="yes">
         <source></source>
         <translation>
             <numerusform>%n tâche</numerusform>

@@ -21,11 +21,11 @@ KanbanColumnView::~KanbanColumnView() = default;
 QString KanbanColumnView::title() const {
     switch (m_status) {
     case TaskStatus::todo:
-        return qtTrId("status_todo");
+        return qtTrId("task_status_todo");
     case TaskStatus::inProgress:
-        return qtTrId("status_in_progress");
+        return qtTrId("task_status_in_progress");
     case TaskStatus::done:
-        return qtTrId("status_done");
+        return qtTrId("task_status_done");
     }
     return {};
 }
