@@ -109,6 +109,7 @@ NorvinFocusApp::NorvinFocusApp(LinuxPlatform& platform, std::unique_ptr<ModelCon
     , m_coachService(platform.clock(), AppBlockerService::shared())
     , m_deepWorkScreen(m_timerService, AppUsageService::shared(), MotionService::shared(),
                        m_sharedModelContainer->mainContext())
+    , m_planning(m_sharedModelContainer->mainContext(), m_timerService, m_soundService, platform.clock())
     , m_blockLists(platform.applications(), platform.workspace(), AppBlockerService::shared(),
                    platform.preferences())
     , m_busAvailability(Availability::available())
@@ -120,8 +121,8 @@ NorvinFocusApp::NorvinFocusApp(LinuxPlatform& platform, std::unique_ptr<ModelCon
                                              [this] { return m_busAvailability; }}
                << TrackingHealthModel::Check{QStringLiteral("health_store"),
                                              [this] { return m_storeAvailability; }})
-    , m_userInterface(std::move(engine), m_deepWorkScreen, m_tickSoundSettings, m_blockLists, m_health,
-                      m_localization)
+    , m_userInterface(std::move(engine), m_deepWorkScreen, m_planning, m_tickSoundSettings, m_blockLists,
+                      m_health, m_localization)
     , m_busService(sessionBus(), m_deepWorkScreen, AppBlockerService::shared(), m_health) {
     m_blockLists.setBrowserHealth(&m_browserHealth);
     followStore();
@@ -188,6 +189,8 @@ void NorvinFocusApp::followPlatform() {
     const auto refresh = [this] { m_health.refresh(); };
     connect(&m_platform.workspace(), &Workspace::availabilityChanged, this, refresh);
     connect(&m_platform.sleepMonitor(), &SleepMonitor::availabilityChanged, this, refresh);
+    // Midnight may have passed meanwhile.
+    connect(&m_platform.sleepMonitor(), &SleepMonitor::didWake, &m_planning, &PlanningScreens::refresh);
     connect(&m_platform.notifications(), &UserNotifications::availabilityChanged, this, refresh);
     connect(&m_platform.sounds(), &SystemSounds::availabilityChanged, this, refresh);
     connect(&m_platform.audioOutput(), &AudioOutput::availabilityChanged, this, refresh);
@@ -221,6 +224,7 @@ QList<TrackingHealthModel::Check> NorvinFocusApp::passingHealthChecks() {
 }
 
 void NorvinFocusApp::showWindow() {
+    m_planning.refresh();
     m_userInterface.showWindow();
 }
 

@@ -10,6 +10,7 @@
 #include "focus/PomodoroTimerService.h"
 #include "focus/TimerInterruptions.h"
 #include "model/ModelContainer.h"
+#include "planning/PlanningScreens.h"
 #include "sound/SoundService.h"
 #include "sound/TickSoundService.h"
 #include "sound/TickSoundSettings.h"
@@ -79,6 +80,7 @@ private:
     TimerInterruptions m_interruptions;
     AICoachService m_coachService;
     DeepWorkScreen m_deepWorkScreen;
+    PlanningScreens m_planning;
     BlockListsScreen m_blockLists;
     Availability m_busAvailability;
     Availability m_storeAvailability;

@@ -1767,9 +1767,33 @@
         <source></source>
         <translation>Name an application.</translation>
     </message>
+    <message id="refused_day_unknown">
+        <source></source>
+        <translation>“%1” is no day. Give it as 2025-03-10, today or tomorrow.</translation>
+    </message>
+    <message id="refused_no_projects">
+        <source></source>
+        <translation>No project is called “%1”; there are none yet.</translation>
+    </message>
+    <message id="refused_path_not_absolute">
+        <source></source>
+        <translation>“%1” is not the whole path of a file.</translation>
+    </message>
     <message id="refused_pause_not_running">
         <source></source>
         <translation>Nothing is running that could be paused.</translation>
+    </message>
+    <message id="refused_priority_unknown">
+        <source></source>
+        <translation>The priority is low, medium or high, not “%1”.</translation>
+    </message>
+    <message id="refused_project_ambiguous">
+        <source></source>
+        <translation>Several projects are called “%1”: %2. Give the beginning of the id.</translation>
+    </message>
+    <message id="refused_project_unknown">
+        <source></source>
+        <translation>No project is called “%1”. There are: %2.</translation>
     </message>
     <message id="refused_resume_not_paused">
         <source></source>
@@ -1787,9 +1811,25 @@
         <source></source>
         <translation>Nothing is running that could be stopped.</translation>
     </message>
+    <message id="refused_task_already_done">
+        <source></source>
+        <translation>“%1” is done already.</translation>
+    </message>
+    <message id="refused_task_ambiguous">
+        <source></source>
+        <translation>Several tasks have an id that begins with “%1”: %2.</translation>
+    </message>
+    <message id="refused_task_id">
+        <source></source>
+        <translation>“%1” is no id. An id is four or more hexadecimal digits.</translation>
+    </message>
     <message id="refused_task_title_empty">
         <source></source>
         <translation>A task needs a title.</translation>
+    </message>
+    <message id="refused_task_unknown">
+        <source></source>
+        <translation>No task has an id that begins with “%1”.</translation>
     </message>
     <message id="resource_missing">
         <source></source>
@@ -2195,6 +2235,10 @@
     <message id="task_make_active">
         <source></source>
         <translation>Work on “%1”</translation>
+    </message>
+    <message id="task_menu_done">
+        <source></source>
+        <translation>Mark as done</translation>
     </message>
     <message id="task_move_down">
         <source></source>

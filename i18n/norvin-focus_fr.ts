@@ -1767,9 +1767,33 @@
         <source></source>
         <translation>Indiquez une application.</translation>
     </message>
+    <message id="refused_day_unknown">
+        <source></source>
+        <translation>« %1 » n’est pas un jour. Indiquez-le comme 2025-03-10, today ou tomorrow.</translation>
+    </message>
+    <message id="refused_no_projects">
+        <source></source>
+        <translation>Aucun projet ne s’appelle « %1 » ; il n’y en a pas encore.</translation>
+    </message>
+    <message id="refused_path_not_absolute">
+        <source></source>
+        <translation>« %1 » n’est pas le chemin complet d’un fichier.</translation>
+    </message>
     <message id="refused_pause_not_running">
         <source></source>
         <translation>Rien n’est en cours, il n’y a rien à mettre en pause.</translation>
+    </message>
+    <message id="refused_priority_unknown">
+        <source></source>
+        <translation>La priorité est low, medium ou high, et non « %1 ».</translation>
+    </message>
+    <message id="refused_project_ambiguous">
+        <source></source>
+        <translation>Plusieurs projets s’appellent « %1 » : %2. Indiquez le début de l’identifiant.</translation>
+    </message>
+    <message id="refused_project_unknown">
+        <source></source>
+        <translation>Aucun projet ne s’appelle « %1 ». Il y a : %2.</translation>
     </message>
     <message id="refused_resume_not_paused">
         <source></source>
@@ -1787,9 +1811,25 @@
         <source></source>
         <translation>Rien n’est en cours, il n’y a rien à arrêter.</translation>
     </message>
+    <message id="refused_task_already_done">
+        <source></source>
+        <translation>« %1 » est déjà terminée.</translation>
+    </message>
+    <message id="refused_task_ambiguous">
+        <source></source>
+        <translation>Plusieurs tâches ont un identifiant commençant par « %1 » : %2.</translation>
+    </message>
+    <message id="refused_task_id">
+        <source></source>
+        <translation>« %1 » n’est pas un identifiant. Un identifiant a quatre chiffres hexadécimaux ou plus.</translation>
+    </message>
     <message id="refused_task_title_empty">
         <source></source>
         <translation>Une tâche a besoin d’un titre.</translation>
+    </message>
+    <message id="refused_task_unknown">
+        <source></source>
+        <translation>Aucune tâche n’a d’identifiant commençant par « %1 ».</translation>
     </message>
     <message id="resource_missing">
         <source></source>
@@ -2195,6 +2235,10 @@
     <message id="task_make_active">
         <source></source>
         <translation>Travailler sur « %1 »</translation>
+    </message>
+    <message id="task_menu_done">
+        <source></source>
+        <translation>Marquer comme terminée</translation>
     </message>
     <message id="task_move_down">
         <source></source>

@@ -14,7 +14,7 @@ public:
         IsLastRole,                 ///< "isLast": whether none stands below
     };
 
-    explicit SubtaskListModel(QObject* parent = nullptr);
+    explicit SubtaskListModel(QObject* parent);
     ~SubtaskListModel() override;
 
     /// Whose subtasks are shown; null for nobody's. To be called with another before the task is destroyed.

@@ -25,7 +25,7 @@ public:
     enum class State { unknown, found, missing };
     Q_ENUM(State)
 
-    explicit TaskResourceListModel(QObject* parent = nullptr);
+    explicit TaskResourceListModel(QObject* parent);
     ~TaskResourceListModel() override;
 
     /// Whose files are shown; null for nobody's. To be called with another before the task is destroyed.

@@ -179,8 +179,8 @@ private:
     TaskItem* m_task = nullptr;
     Draft m_draft;
     QMetaObject::Connection m_following;
-    SubtaskListModel m_subtasks;
-    TaskResourceListModel m_resources;
+    SubtaskListModel m_subtasks{this};
+    TaskResourceListModel m_resources{this};
     TaskSessionListModel m_sessions;
     AgendaCalendarPopover m_calendar;
     DateField m_chosenField = DateField::planned;

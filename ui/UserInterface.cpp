@@ -4,6 +4,7 @@
 #include "distraction/BlockListsScreen.h"
 #include "distraction/TrackingHealthModel.h"
 #include "focus/DeepWorkScreen.h"
+#include "planning/PlanningScreens.h"
 #include "sound/TickSoundSettings.h"
 #include "ui/InterfaceEngine.h"
 #include "ui/Localization.h"
@@ -29,20 +30,23 @@ constexpr int bodyPixelSize = 14;
 
 } // namespace
 
-UserInterface::UserInterface(std::unique_ptr<InterfaceEngine> engine, DeepWorkScreen& deepWork,
+UserInterface::UserInterface(std::unique_ptr<InterfaceEngine> engine, DeepWorkScreen& deepWork, PlanningScreens& planning,
                              TickSoundSettings& tickSounds, BlockListsScreen& blockLists,
                              TrackingHealthModel& health, Localization& localization, QObject* parent)
     : QObject(parent)
     , m_deepWork(deepWork)
+    , m_planning(planning)
     , m_tickSounds(tickSounds)
     , m_blockLists(blockLists)
     , m_health(health)
     , m_localization(localization)
     , m_motion(std::make_unique<MotionPreference>())
     , m_engine(std::move(engine)) {
+    m_planning.retranslate(localization.locale());
     m_engine->setSingletons(localization, *m_motion);
     connect(&localization, &Localization::languageChanged, this, [this] {
         m_health.retranslate();
+        m_planning.retranslate(m_localization.locale());
         m_blockLists.retranslate();
         m_engine->retranslate();
     });
@@ -59,6 +63,7 @@ bool UserInterface::load() {
     QGuiApplication::setFont(font);
     std::unique_ptr<QObject> root = m_engine->createWindow({
         {QStringLiteral("deepWork"), QVariant::fromValue(&m_deepWork)},
+        {QStringLiteral("planning"), QVariant::fromValue(&m_planning)},
         {QStringLiteral("tickSounds"), QVariant::fromValue(&m_tickSounds)},
         {QStringLiteral("blockLists"), QVariant::fromValue(&m_blockLists)},
         {QStringLiteral("health"), QVariant::fromValue(&m_health)},

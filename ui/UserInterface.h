@@ -15,6 +15,7 @@ class DeepWorkScreen;
 class InterfaceEngine;
 class Localization;
 class MotionPreference;
+class PlanningScreens;
 class TickSoundSettings;
 class TrackingHealthModel;
 
@@ -29,7 +30,7 @@ class UserInterface final : public QObject {
     Q_PROPERTY(QString storeProblem READ storeProblem WRITE setStoreProblem NOTIFY storeProblemChanged)
 public:
     /// Everything given by reference must outlive this.
-    UserInterface(std::unique_ptr<InterfaceEngine> engine, DeepWorkScreen& deepWork,
+    UserInterface(std::unique_ptr<InterfaceEngine> engine, DeepWorkScreen& deepWork, PlanningScreens& planning,
                   TickSoundSettings& tickSounds, BlockListsScreen& blockLists, TrackingHealthModel& health,
                   Localization& localization, QObject* parent = nullptr);
     ~UserInterface() override;
@@ -68,6 +69,7 @@ private:
     [[nodiscard]] bool isPhaseUnderWay() const;
 
     DeepWorkScreen& m_deepWork;
+    PlanningScreens& m_planning;
     TickSoundSettings& m_tickSounds;
     BlockListsScreen& m_blockLists;
     TrackingHealthModel& m_health;

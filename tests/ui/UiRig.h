@@ -4,6 +4,7 @@
 #include "distraction/BlockListsScreen.h"
 #include "distraction/TrackingHealthModel.h"
 #include "focus/DeepWorkScreen.h"
+#include "planning/PlanningScreens.h"
 #include "platform/fake/FakeAudioOutput.h"
 #include "sound/TickSoundService.h"
 #include "sound/TickSoundSettings.h"
@@ -28,7 +29,8 @@ struct UiRig {
             install(QString::fromLatin1(name));
         health.refresh();
         userInterface = std::make_unique<UserInterface>(std::make_unique<InterfaceEngine>(), deepWork,
-                                                        tickSoundSettings, blockLists, health, *localization);
+                                                        planning, tickSoundSettings, blockLists, health,
+                                                        *localization);
         userInterface->setCoach(coach);
         loaded = userInterface->load();
     }
@@ -55,8 +57,9 @@ struct UiRig {
         for (const QChar character : text)
             QTest::keyClick(window(), character.toLatin1());
     }
-    /// @param page 0 Deep Work, 1 block lists, 2 tracking health
-    void showPage(int page) const { press(Qt::Key_1 + page, Qt::ControlModifier); }
+    /// In the order of the sidebar.
+    enum class Page { deepWork, agenda, projects, blockLists, health };
+    void showPage(Page page) const { press(Qt::Key_1 + static_cast<int>(page), Qt::ControlModifier); }
 
     [[nodiscard]] static QList<QQuickItem*> visibleItems(QQuickItem* root) {
         QList<QQuickItem*> found;
@@ -77,6 +80,7 @@ struct UiRig {
     TickSoundSettings tickSoundSettings{tickSounds, audioOutput};
     AICoachService coach{focus.clock, focus.blocker};
     DeepWorkScreen deepWork{focus.timer, focus.usage, focus.motion, focus.context()};
+    PlanningScreens planning{focus.context(), focus.timer, focus.soundService, focus.clock};
     BlockListsScreen blockLists{focus.catalog, focus.workspace, focus.blocker, focus.preferences};
     TrackingHealthModel health{
         {{QStringLiteral("health_frontmost_application"), [] { return Availability::available(); }},

@@ -87,7 +87,7 @@ void AppearanceTest::bringAbout(const QString& scene) {
     if (scene == QLatin1String("health")) {
         rig->idleTime =
             Availability::unavailable(QStringLiteral("health_wayland_idle"), QStringLiteral("detail"));
-        rig->showPage(2);
+        rig->showPage(UiRig::Page::health);
     }
     if (scene == QLatin1String("ticks")) {
         rig->audioOutput.setAvailability(Availability::unavailable(QStringLiteral("health_no_sound_device")));
@@ -131,7 +131,7 @@ void AppearanceTest::showBlockLists(const QString& scene) {
             {QStringLiteral("org.mozilla.firefox"), QStringLiteral("Firefox"), QString(), {}});
         rig->focus.blocker.replaceLists({});
     }
-    rig->showPage(1);
+    rig->showPage(UiRig::Page::blockLists);
     if (scene == QLatin1String("blocklists_suggestions")) {
         lists.suggestions()->toggle(0);
         return;

@@ -44,7 +44,7 @@ private:
     }
     void openSites() {
         rig->focus.blocker.addAppToWhitelist(QStringLiteral("org.example.Editor")); // no suggestions
-        rig->showPage(1);
+        rig->showPage(UiRig::Page::blockLists);
         QTRY_VERIFY(hasKeyboard("applicationSearch"));
         rig->press(Qt::Key_Tab, Qt::ShiftModifier);
         QTRY_VERIFY(hasKeyboard("listPanes"));
@@ -172,7 +172,7 @@ void BlockListsViewTest::theTestFieldAnswersWhileOneTypes() {
 }
 
 void BlockListsViewTest::suggestionsAreChosenByKeyboard() {
-    rig->showPage(1);
+    rig->showPage(UiRig::Page::blockLists);
     QTRY_VERIFY(hasKeyboard("suggestionList"));
     QVERIFY(!rig->item("addSuggestions")->isEnabled());
     rig->press(Qt::Key_Down); // the heading over the browsers, then Firefox

@@ -123,13 +123,13 @@ void CoachTest::bubbleWaitsForTheWindow() {
     QVERIFY(!bubble->window());
 
     // Another page does not show the message.
-    rig->showPage(1);
+    rig->showPage(UiRig::Page::blockLists);
     passPatience();
     QTRY_VERIFY(bubble->window());
     // Without a window manager, the latest window has the keyboard.
     rig->window()->requestActivate();
     QTRY_VERIFY(rig->window()->isActive());
-    rig->showPage(0);
+    rig->showPage(UiRig::Page::deepWork);
     QTRY_VERIFY(!bubble->window());
 }
 

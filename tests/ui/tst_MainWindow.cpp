@@ -193,7 +193,7 @@ void MainWindowTest::aFinishedPhaseOffersWhatComesNext() {
     rig->focus.pass(std::chrono::hours(1));
     QCOMPARE(rig->deepWork.state(), QStringLiteral("completed"));
 
-    rig->showPage(0);
+    rig->showPage(UiRig::Page::deepWork);
     QTRY_COMPARE(focusName(), QStringLiteral("completedPrimary"));
     rig->press(Qt::Key_Return);
     QCOMPARE(rig->deepWork.phase(), QStringLiteral("break_time"));
@@ -218,7 +218,7 @@ void MainWindowTest::theScoreIsExplainedOnDemand() {
 
 void MainWindowTest::anApplicationIsPutOnAListByKeyboard() {
     rig->blockLists.dismissSuggestions();
-    rig->showPage(1);
+    rig->showPage(UiRig::Page::blockLists);
     QTRY_COMPARE(focusName(), QStringLiteral("applicationSearch"));
     rig->type(QStringLiteral("gam"));
     rig->press(Qt::Key_Down);

@@ -97,7 +97,7 @@ Page {
         isDismissible: true
         onActionChosen: {
             if (root.model.browserHealth.bannerLeadsToHealth)
-                (root.Window.window as Main)?.showPage(2);
+                (root.Window.window as Main)?.showPage(Main.Screen.Health);
             else
                 root.model.browserHealth.bannerAct();
         }

@@ -8,20 +8,20 @@ FileChooser {
     id: root
 
     required property BlockListsScreen screen
-    readonly property list<string> filters: [qsTrId("lists_file_filter") + " (*.json)"]
 
     function choose(saving: bool): void {
         if (saving)
-            root.save(qsTrId("lists_export_title"), root.screen.fileFolder, root.filters, "json", "norvin-focus-lists.json");
+            root.save(qsTrId("lists_export_title"), root.screen.fileFolder, "norvin-focus-lists.json");
         else
-            root.open(qsTrId("lists_import_title"), root.screen.fileFolder, root.filters, false);
+            root.open(qsTrId("lists_import_title"), root.screen.fileFolder, false);
     }
 
+    filters: [qsTrId("lists_file_filter") + " (*.json)"]
     rejectText: qsTrId("import_cancel_button")
-    onChosen: (files, saving) => {
-        if (saving)
-            root.screen.exportLists(files[0]);
+    onChosen: {
+        if (root.isSaving)
+            root.screen.exportLists(root.files[0]);
         else
-            root.screen.examineImport(files[0]);
+            root.screen.examineImport(root.files[0]);
     }
 }

@@ -9,25 +9,30 @@ Item {
     id: root
 
     required property string rejectText
+    /// The kinds of file to offer, as "Name (*.ending)".
+    required property list<string> filters
+    /// What was chosen last.
+    readonly property list<url> files: dialog.selectedFiles
+    readonly property bool isSaving: dialog.fileMode === FileDialog.SaveFile
 
-    signal chosen(list<url> files, bool saving)
+    signal chosen
 
-    function open(title: string, folder: url, filters: list<string>, several: bool): void {
+    function open(title: string, folder: url, several: bool): void {
         dialog.fileMode = several ? FileDialog.OpenFiles : FileDialog.OpenFile;
-        root.show(title, folder, filters, qsTrId("file_open_button"));
+        root.show(title, folder, qsTrId("file_open_button"));
     }
 
-    function save(title: string, folder: url, filters: list<string>, suffix: string, proposed: string): void {
+    /// `proposed` is the name of a file, with its ending.
+    function save(title: string, folder: url, proposed: string): void {
         dialog.fileMode = FileDialog.SaveFile;
-        dialog.defaultSuffix = suffix;
+        dialog.defaultSuffix = proposed.slice(proposed.lastIndexOf(".") + 1);
         dialog.selectedFile = folder + "/" + proposed;
-        root.show(title, folder, filters, qsTrId("file_save_button"));
+        root.show(title, folder, qsTrId("file_save_button"));
     }
 
-    function show(title: string, folder: url, filters: list<string>, acceptText: string): void {
+    function show(title: string, folder: url, acceptText: string): void {
         dialog.title = title;
         dialog.currentFolder = folder;
-        dialog.nameFilters = filters;
         dialog.acceptLabel = acceptText;
         root.tint();
         dialog.open();
@@ -58,6 +63,7 @@ Item {
         id: dialog
 
         rejectLabel: root.rejectText
-        onAccepted: root.chosen(dialog.selectedFiles, dialog.fileMode === FileDialog.SaveFile)
+        nameFilters: root.filters
+        onAccepted: root.chosen()
     }
 }

@@ -7,7 +7,17 @@ import NorvinFocus.Ui
 Window {
     id: root
 
+    /// The pages, in the order of the sidebar.
+    enum Screen {
+        DeepWork,
+        Agenda,
+        Projects,
+        BlockLists,
+        Health
+    }
+
     required property DeepWorkScreen deepWork
+    required property PlanningScreens planning
     required property TickSoundSettings tickSounds
     required property BlockListsScreen blockLists
     required property TrackingHealthModel health
@@ -16,7 +26,7 @@ Window {
     /// What is there: 0 the bare window, 1 what the first picture shows, 2 everything.
     property int stage: 0
     readonly property Shell shell: content.item as Shell
-    property int page: 0
+    property int page: Main.Screen.DeepWork
     readonly property bool live: root.visible && root.visibility !== Window.Minimized && root.visibility !== Window.Hidden
     readonly property bool isPhaseUnderWay: root.deepWork.state === "running" || root.deepWork.state === "paused"
 
@@ -24,7 +34,7 @@ Window {
 
     function showPage(number: int): void {
         root.page = number;
-        if (number === 0)
+        if (number === Main.Screen.DeepWork)
             root.shell?.focusStart();
     }
 
@@ -42,19 +52,15 @@ Window {
     title: "Norvin Focus"
     color: Theme.background
 
-    Shortcut {
-        sequences: ["Ctrl+1"]
-        onActivated: root.showPage(0)
-    }
+    Instantiator {
+        model: 5
 
-    Shortcut {
-        sequences: ["Ctrl+2"]
-        onActivated: root.showPage(1)
-    }
+        Shortcut {
+            required property int index
 
-    Shortcut {
-        sequences: ["Ctrl+3"]
-        onActivated: root.showPage(2)
+            sequences: ["Ctrl+" + (index + 1)]
+            onActivated: root.showPage(index)
+        }
     }
 
     Shortcut {
@@ -73,6 +79,7 @@ Window {
             height: content.height
             focus: true
             deepWork: root.deepWork
+            planning: root.planning
             tickSounds: root.tickSounds
             blockLists: root.blockLists
             health: root.health
@@ -83,6 +90,10 @@ Window {
             furnished: root.stage > 1
             onPageChosen: number => root.showPage(number)
         }
+    }
+
+    Sheets {
+        planning: root.planning
     }
 
     Deferred {

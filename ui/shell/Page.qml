@@ -10,6 +10,9 @@ FocusScope {
 
     required property string heading
     required property string introduction
+    /// Whether the heading is shown; a page may show it in a way of its own.
+    property bool showsHeading: true
+    property int maximumWidth: 880
     default property alias content: column.data
     property alias headingContent: headingRow.data
 
@@ -27,12 +30,13 @@ FocusScope {
         anchors.top: parent.top
         anchors.bottom: parent.bottom
         anchors.topMargin: Theme.gap8
-        width: Math.min(parent.width - 2 * Theme.gap8, 880)
+        width: Math.min(parent.width - 2 * Theme.gap8, root.maximumWidth)
         spacing: Theme.gap4
 
         RowLayout {
             id: headingRow
 
+            visible: root.showsHeading
             spacing: Theme.gap3
 
             ThemedText {
@@ -47,6 +51,7 @@ FocusScope {
         ThemedText {
             Layout.fillWidth: true
             Layout.topMargin: -Theme.gap2
+            visible: root.showsHeading
             text: root.introduction
             color: Theme.textMuted
             wrapMode: Text.WordWrap

@@ -9,6 +9,7 @@ FocusScope {
     id: root
 
     required property DeepWorkScreen deepWork
+    required property PlanningScreens planning
     required property TickSoundSettings tickSounds
     required property BlockListsScreen blockLists
     required property TrackingHealthModel health
@@ -28,7 +29,7 @@ FocusScope {
     }
 
     Keys.onEscapePressed: event => {
-        event.accepted = root.page === 0 && root.coach !== null && root.coach.isVisible;
+        event.accepted = root.page === Main.Screen.DeepWork && root.coach !== null && root.coach.isVisible;
         if (event.accepted)
             root.coach.dismissMessage();
     }
@@ -43,6 +44,7 @@ FocusScope {
             Layout.fillHeight: true
             page: root.page
             problemCount: root.health.problemCount
+            lateCount: root.planning.agenda.overdueCount
             furnished: root.furnished
             onPageChosen: number => root.pageChosen(number)
         }
@@ -69,18 +71,30 @@ FocusScope {
                     screen: root.deepWork
                     coach: root.coach
                     tickSounds: root.tickSounds
-                    live: root.live && root.page === 0
+                    live: root.live && root.page === Main.Screen.DeepWork
                     furnished: root.furnished
                 }
 
                 LazyPage {
-                    wanted: root.page === 1
+                    wanted: root.page === Main.Screen.Agenda
+                    file: "../agenda/AgendaPage.qml"
+                    model: root.planning.agenda
+                }
+
+                LazyPage {
+                    wanted: root.page === Main.Screen.Projects
+                    file: "../projects/ProjectsPage.qml"
+                    model: root.planning
+                }
+
+                LazyPage {
+                    wanted: root.page === Main.Screen.BlockLists
                     file: "../blocklists/BlockListsView.qml"
                     model: root.blockLists
                 }
 
                 LazyPage {
-                    wanted: root.page === 2
+                    wanted: root.page === Main.Screen.Health
                     file: "../health/HealthView.qml"
                     model: root.health
                 }

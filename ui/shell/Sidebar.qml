@@ -10,6 +10,8 @@ Rectangle {
 
     required property int page
     required property int problemCount
+    /// Tasks whose day is over.
+    required property int lateCount
     /// Whether what the first picture does without is wanted.
     required property bool furnished
 
@@ -47,26 +49,44 @@ Rectangle {
             symbol: "timer"
             text: qsTrId("sidebar_deep_work")
             keys: "Ctrl+1"
-            isCurrent: root.page === 0
-            onClicked: root.pageChosen(0)
+            isCurrent: root.page === Main.Screen.DeepWork
+            onClicked: root.pageChosen(Main.Screen.DeepWork)
+        }
+
+        SidebarEntry {
+            symbol: "calendar"
+            text: qsTrId("sidebar_agenda")
+            keys: "Ctrl+2"
+            isCurrent: root.page === Main.Screen.Agenda
+            badge: root.furnished ? root.lateCount : 0
+            badgeName: root.lateCount > 0 ? qsTrId("late_tasks", root.lateCount) : ""
+            onClicked: root.pageChosen(Main.Screen.Agenda)
+        }
+
+        SidebarEntry {
+            symbol: "folder"
+            text: qsTrId("sidebar_projects")
+            keys: "Ctrl+3"
+            isCurrent: root.page === Main.Screen.Projects
+            onClicked: root.pageChosen(Main.Screen.Projects)
         }
 
         SidebarEntry {
             symbol: "hand.raised"
             text: qsTrId("sidebar_block_lists")
-            keys: "Ctrl+2"
-            isCurrent: root.page === 1
-            onClicked: root.pageChosen(1)
+            keys: "Ctrl+4"
+            isCurrent: root.page === Main.Screen.BlockLists
+            onClicked: root.pageChosen(Main.Screen.BlockLists)
         }
 
         SidebarEntry {
             symbol: "waveform.path.ecg"
             text: qsTrId("sidebar_health")
-            keys: "Ctrl+3"
-            isCurrent: root.page === 2
+            keys: "Ctrl+5"
+            isCurrent: root.page === Main.Screen.Health
             badge: root.furnished ? root.problemCount : 0
             badgeName: root.problemCount > 0 ? qsTrId("health_problems", root.problemCount) : ""
-            onClicked: root.pageChosen(2)
+            onClicked: root.pageChosen(Main.Screen.Health)
         }
 
         Item {

@@ -12,7 +12,7 @@ Item {
     required property TaskSheet sheet
     required property int field
 
-    signal left
+    signal exited
 
     function take(days: int): void {
         root.sheet.setDaysFromToday(root.field, days);
@@ -44,7 +44,7 @@ Item {
         onOpened: month.forceActiveFocus(Qt.TabFocusReason)
         onClosed: {
             root.sheet.calendar.close();
-            root.left();
+            root.exited();
         }
 
         ColumnLayout {

@@ -63,7 +63,7 @@ FocusScope {
         DayChoices {
             sheet: root.sheet
             field: root.field
-            onLeft: root.leave()
+            onExited: root.leave()
         }
     }
 }

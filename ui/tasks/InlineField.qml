@@ -14,13 +14,13 @@ EntryField {
     property bool isLeaving: false
 
     signal acceptedText(string text)
-    signal left
+    signal exited
 
     function leave(): void {
         if (root.isLeaving)
             return;
         root.isLeaving = true;
-        root.left();
+        root.exited();
     }
 
     objectName: "inlineField"

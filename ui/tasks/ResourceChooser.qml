@@ -10,9 +10,10 @@ FileChooser {
     required property TaskSheet sheet
 
     function choose(): void {
-        root.open(qsTrId("resources_choose_title"), root.sheet.fileFolder, [qsTrId("resources_all_files") + " (*)"], true);
+        root.open(qsTrId("resources_choose_title"), root.sheet.fileFolder, true);
     }
 
+    filters: [qsTrId("resources_all_files") + " (*)"]
     rejectText: qsTrId("cancel_button")
-    onChosen: files => root.sheet.attach(files)
+    onChosen: root.sheet.attach(root.files)
 }

@@ -7,7 +7,7 @@ import NorvinFocus.Ui
 Row {
     id: root
 
-    required property SubtaskSection section
+    required property SubtaskState section
     required property int index
     required property string title
     required property bool isFirst
@@ -20,7 +20,7 @@ Row {
         opacity: enabled ? 1 : 0.35
         symbol: "chevron.up"
         text: qsTrId("task_move_up").arg(root.title)
-        onClicked: root.section.move(root.index, -1)
+        onClicked: root.section.moveAsked(root.index, -1)
     }
 
     IconButton {
@@ -30,7 +30,7 @@ Row {
         opacity: enabled ? 1 : 0.35
         symbol: "chevron.down"
         text: qsTrId("task_move_down").arg(root.title)
-        onClicked: root.section.move(root.index, 1)
+        onClicked: root.section.moveAsked(root.index, 1)
     }
 
     IconButton {

@@ -7,7 +7,7 @@ import NorvinFocus.Ui
 MouseArea {
     id: root
 
-    required property SubtaskSection section
+    required property SubtaskState section
     required property int index
     /// Distance from one row to the next.
     required property real rowHeight

@@ -16,7 +16,7 @@ Item {
     required property bool isLast
     required property int subtaskCount
     required property int completedSubtaskCount
-    required property SubtaskSection section
+    required property SubtaskState section
 
     readonly property bool isCurrent: root.ListView.isCurrentItem && root.ListView.view.activeFocus
     readonly property bool isReached: hover.hovered || root.isCurrent
@@ -46,7 +46,7 @@ Item {
         }
 
         TapHandler {
-            onTapped: root.section.goTo(root.index)
+            onTapped: root.section.rowAsked(root.index)
             onDoubleTapped: root.section.sheet.showSubtask(root.index)
         }
 
@@ -83,11 +83,11 @@ Item {
                 InlineField {
                     initialText: root.title
                     onAcceptedText: text => root.section.sheet.renameSubtask(root.index, text)
-                    onLeft: {
+                    onExited: {
                         const section = root.section;
                         const row = root.index;
                         section.renamingRow = -1;
-                        section.goTo(row);
+                        section.rowAsked(row);
                     }
                 }
             }
@@ -152,11 +152,11 @@ Item {
             placeholderText: qsTrId("subtask_placeholder")
             keepsOpen: true
             onAcceptedText: text => root.section.sheet.addSubtask(root.index, text)
-            onLeft: {
+            onExited: {
                 const section = root.section;
                 const row = root.index;
                 section.typingRow = -1;
-                section.goTo(row);
+                section.rowAsked(row);
             }
         }
     }

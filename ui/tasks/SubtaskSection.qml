@@ -11,9 +11,6 @@ ColumnLayout {
     id: root
 
     required property TaskSheet sheet
-    /// The row under which a subtask is being typed, and the one that is being renamed; -1 for none.
-    property int typingRow: -1
-    property int renamingRow: -1
 
     function move(row: int, places: int): void {
         root.sheet.moveSubtask(row, places);
@@ -26,6 +23,14 @@ ColumnLayout {
     }
 
     spacing: Theme.gap2
+
+    SubtaskState {
+        id: shared
+
+        sheet: root.sheet
+        onMoveAsked: (row, places) => root.move(row, places)
+        onRowAsked: row => root.goTo(row)
+    }
 
     RowLayout {
         ThemedText {
@@ -71,9 +76,9 @@ ColumnLayout {
             else if (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)
                 root.sheet.showSubtask(row);
             else if (event.key === Qt.Key_F2)
-                root.renamingRow = row;
+                shared.renamingRow = row;
             else if (event.key === Qt.Key_Plus)
-                root.typingRow = row;
+                shared.typingRow = row;
             else if (event.key === Qt.Key_Delete)
                 root.sheet.deleteSubtask(row);
             else
@@ -82,7 +87,7 @@ ColumnLayout {
 
         delegate: SubtaskRow {
             width: list.width
-            section: root
+            section: shared
         }
     }
 

@@ -11,7 +11,7 @@ RowLayout {
     required property TaskSheet sheet
 
     signal deleteAsked
-    signal left
+    signal exited
 
     spacing: Theme.gap1
 
@@ -51,6 +51,6 @@ RowLayout {
         objectName: "taskCloseButton"
         symbol: "xmark"
         text: qsTrId("sheet_close_button")
-        onClicked: root.left()
+        onClicked: root.exited()
     }
 }

@@ -5,11 +5,12 @@ import QtQuick.Layouts
 import QtQuick.Templates as T
 import NorvinFocus.Ui
 
-/// The sheet of one task, over the page. It is there as long as the sheet is presented.
-T.Popup {
+/// The sheet of one task, over the page. Open as long as it is there.
+Item {
     id: root
 
-    required property TaskSheet sheet
+    required property TaskSheet model
+    readonly property TaskSheet sheet: root.model
 
     function leave(): void {
         // What is being typed counts as said.
@@ -23,102 +24,113 @@ T.Popup {
             main.focusTitle();
     }
 
-    objectName: "taskSheet"
-    parent: T.Overlay.overlay
-    anchors.centerIn: parent
-    modal: true
-    focus: true
-    visible: true
-    padding: 0
-    implicitWidth: 920
-    implicitHeight: Math.min(parent ? parent.height - 2 * Theme.gap6 : 760, root.sheet.isNew ? 560 : 760)
-    closePolicy: T.Popup.NoAutoClose
+    T.Popup {
+        id: popup
 
-    onOpened: main.focusTitle()
-
-    T.Overlay.modal: Rectangle {
-        color: Theme.shade
-    }
-
-    FocusScope {
-        anchors.fill: parent
+        objectName: "taskSheet"
+        parent: T.Overlay.overlay
+        anchors.centerIn: parent
+        modal: true
         focus: true
+        visible: true
+        padding: 0
+        implicitWidth: 920
+        implicitHeight: Math.min(parent ? parent.height - 2 * Theme.gap6 : 760, root.sheet.isNew ? 560 : 760)
+        closePolicy: T.Popup.NoAutoClose
 
-        Keys.onEscapePressed: root.leave()
-        Keys.onPressed: event => {
-            event.accepted = root.sheet.isNew && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter) && (event.modifiers & Qt.ControlModifier);
-            if (event.accepted)
-                root.acceptNew();
+        onOpened: main.focusTitle()
+
+        T.Overlay.modal: Rectangle {
+            color: Theme.shade
         }
-        Accessible.role: Accessible.Dialog
-        Accessible.name: root.sheet.isNew ? qsTrId("task_new_title") : qsTrId("task_detail_title")
 
-        ColumnLayout {
+        FocusScope {
             anchors.fill: parent
-            spacing: 0
+            focus: true
 
-            TaskSheetHeader {
-                Layout.fillWidth: true
-                Layout.margins: Theme.gap6
-                Layout.bottomMargin: Theme.gap2
-                sheet: root.sheet
-                onDeleteAsked: question.active = true
-                onLeft: root.leave()
+            Keys.onEscapePressed: root.leave()
+            Keys.onPressed: event => {
+                event.accepted = root.sheet.isNew && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter) && (event.modifiers & Qt.ControlModifier);
+                if (event.accepted)
+                    root.acceptNew();
             }
+            Accessible.role: Accessible.Dialog
+            Accessible.name: root.sheet.isNew ? qsTrId("task_new_title") : qsTrId("task_detail_title")
 
-            RowLayout {
-                Layout.margins: Theme.gap6
-                Layout.topMargin: 0
-                spacing: Theme.gap6
+            ColumnLayout {
+                anchors.fill: parent
+                spacing: 0
 
-                TaskSheetMain {
-                    id: main
-
+                TaskSheetHeader {
                     Layout.fillWidth: true
-                    Layout.fillHeight: true
-                    focus: true
+                    Layout.margins: Theme.gap6
+                    Layout.bottomMargin: Theme.gap2
                     sheet: root.sheet
-                    onAccepted: {
-                        if (root.sheet.isNew)
-                            root.acceptNew();
+                    onDeleteAsked: question.active = true
+                    onExited: root.leave()
+                }
+
+                RowLayout {
+                    Layout.margins: Theme.gap6
+                    Layout.topMargin: 0
+                    spacing: Theme.gap6
+
+                    TaskSheetMain {
+                        id: main
+
+                        Layout.fillWidth: true
+                        Layout.fillHeight: true
+                        focus: true
+                        sheet: root.sheet
+                        onAccepted: {
+                            if (root.sheet.isNew)
+                                root.acceptNew();
+                        }
+                    }
+
+                    TaskSheetFields {
+                        Layout.preferredWidth: 280
+                        Layout.fillHeight: true
+                        sheet: root.sheet
                     }
                 }
 
-                TaskSheetFields {
-                    Layout.preferredWidth: 280
-                    Layout.fillHeight: true
-                    sheet: root.sheet
+                RowLayout {
+                    Layout.margins: Theme.gap6
+                    Layout.topMargin: 0
+                    visible: root.sheet.isNew
+                    spacing: Theme.gap3
+
+                    ThemedText {
+                        Layout.fillWidth: true
+                        text: qsTrId("task_create_keys_hint")
+                        color: Theme.textFaint
+                        font.pixelSize: Theme.caption
+                        wrapMode: Text.WordWrap
+                    }
+
+                    PushButton {
+                        implicitHeight: Theme.controlHeightLarge
+                        text: qsTrId("cancel_button")
+                        onClicked: root.sheet.close()
+                    }
+
+                    PushButton {
+                        objectName: "taskCreateButton"
+                        kind: PushButton.Kind.Primary
+                        text: qsTrId("task_create_button")
+                        enabled: main.hasTitle
+                        onClicked: root.acceptNew()
+                    }
                 }
             }
+        }
 
-            RowLayout {
-                Layout.margins: Theme.gap6
-                Layout.topMargin: 0
-                visible: root.sheet.isNew
-                spacing: Theme.gap3
-
-                ThemedText {
-                    Layout.fillWidth: true
-                    text: qsTrId("task_create_keys_hint")
-                    color: Theme.textFaint
-                    font.pixelSize: Theme.caption
-                    wrapMode: Text.WordWrap
-                }
-
-                PushButton {
-                    implicitHeight: Theme.controlHeightLarge
-                    text: qsTrId("cancel_button")
-                    onClicked: root.sheet.close()
-                }
-
-                PushButton {
-                    objectName: "taskCreateButton"
-                    kind: PushButton.Kind.Primary
-                    text: qsTrId("task_create_button")
-                    enabled: main.hasTitle
-                    onClicked: root.acceptNew()
-                }
-            }
+        background: Rectangle {
+            radius: Theme.radiusLarge
+            color: Theme.surface
+            border.width: 1
+            border.color: Theme.outline
         }
     }
 
@@ -134,12 +146,5 @@ T.Popup {
             onAccepted: root.sheet.deleteTask()
             onClosed: question.active = false
         }
-    }
-
-    background: Rectangle {
-        radius: Theme.radiusLarge
-        color: Theme.surface
-        border.width: 1
-        border.color: Theme.outline
     }
 }

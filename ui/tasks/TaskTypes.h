@@ -1,5 +1,7 @@
 #pragma once
 
+#include "planning/PlanningEdits.h"
+#include "planning/PlanningScreens.h"
 #include "planning/SubtaskListModel.h"
 #include "planning/TaskResourceListModel.h"
 #include "planning/TaskSessionListModel.h"
@@ -9,7 +11,21 @@
 
 namespace norvin::qml {
 
-// The classes behind the sheet of a task, under the names that QML knows them by.
+// The screens of planning together, and the classes behind the sheet of a task, under the names that QML knows them by.
+
+struct PlanningScreensType {
+    Q_GADGET
+    QML_FOREIGN(norvin::PlanningScreens)
+    QML_NAMED_ELEMENT(PlanningScreens)
+    QML_UNCREATABLE("Handed to the window")
+};
+
+struct PlanningEditsType {
+    Q_GADGET
+    QML_FOREIGN(norvin::PlanningEdits)
+    QML_NAMED_ELEMENT(PlanningEdits)
+    QML_UNCREATABLE("Belongs to the planning screens")
+};
 
 struct TaskSheetType {
     Q_GADGET

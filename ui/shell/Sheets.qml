@@ -1,0 +1,23 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import NorvinFocus.Ui
+
+/// The sheets of planning, which open over whatever page is shown, and the bar that brings back what was deleted.
+Item {
+    id: root
+
+    required property PlanningScreens planning
+
+    LazySheet {
+        wanted: root.planning.taskSheet.isPresented
+        file: "../tasks/TaskSheetPopup.qml"
+        model: root.planning.taskSheet
+    }
+
+    LazySheet {
+        wanted: root.planning.edits.undoText.length > 0
+        file: "UndoBar.qml"
+        model: root.planning.edits
+    }
+}
