@@ -2,6 +2,7 @@
 
 #include "model/ModelContext.h"
 #include "model/Project.h"
+#include "planning/CalendarDays.h"
 #include "planning/PlanningNotifications.h"
 #include "planning/PlanningTexts.h"
 #include "platform/Clock.h"
@@ -92,6 +93,8 @@ QVariant AgendaRowsModel::data(const QModelIndex& index, int role) const {
         return task->isOverdue(m_clock.now()) || task->isPlannedLate(m_clock.now());
     case IsOverdueRole:
         return task->isOverdue(m_clock.now());
+    case IsPlannedForTodayRole:
+        return dateOf(task->plannedInstant(), m_clock.now()) == m_clock.now().date();
     default:
         return QIdentityProxyModel::data(index, role);
     }
@@ -106,7 +109,8 @@ QHash<int, QByteArray> AgendaRowsModel::roleNames() const {
                   {DueTextRole, "dueText"},
                   {PlannedTextRole, "plannedText"},
                   {IsLateRole, "isLate"},
-                  {IsOverdueRole, "isOverdue"}});
+                  {IsOverdueRole, "isOverdue"},
+                  {IsPlannedForTodayRole, "isPlannedForToday"}});
     return names;
 }
 

@@ -27,6 +27,7 @@ public:
         PlannedTextRole,                        ///< "plannedText": the planned day in words, empty for none
         IsLateRole,                             ///< "isLate": due or planned for a day that is over
         IsOverdueRole,                          ///< "isOverdue": due on a day that is over
+        IsPlannedForTodayRole,                  ///< "isPlannedForToday"
     };
 
     ~AgendaRowsModel() override;

@@ -32,6 +32,7 @@ QuickAddEntry::QuickAddEntry(const AgendaCollaborators& collaborators, const QLo
     , m_with(collaborators)
     , m_locale(locale)
     , m_date(collaborators.clock.now())
+    , m_chips(nullptr)
     , m_calendar(collaborators.context, collaborators.clock, locale) {
     const ModelContext& context = m_with.context;
     connect(&context, &ModelContext::projectInserted, this, &QuickAddEntry::scheduleUnderstanding);

@@ -27,7 +27,7 @@ public:
         IsUnknownRole,        ///< "isUnknown": names what is not there, and stays in the title
     };
 
-    explicit TaskEntryChips(QObject* parent = nullptr)
+    explicit TaskEntryChips(QObject* parent)
         : QAbstractListModel(parent) {}
     ~TaskEntryChips() override;
 

@@ -18,6 +18,7 @@ T.Button {
 
     property int kind: PushButton.Kind.Secondary
     property string symbol: ""
+    property color symbolColor: root.foreground
     /// Whether the text begins at the left edge rather than standing in the middle.
     property bool alignsLeft: false
     readonly property color foreground: root.kind === PushButton.Kind.Primary ? Theme.accentInk : root.kind === PushButton.Kind.Danger ? Theme.dangerInk : Theme.text
@@ -70,7 +71,7 @@ T.Button {
         Symbol {
             visible: root.symbol.length > 0
             name: root.symbol
-            color: root.foreground
+            color: root.symbolColor
             size: 18
         }
 

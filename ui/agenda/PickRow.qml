@@ -1,0 +1,87 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import NorvinFocus.Ui
+
+/// An open task that can be ticked for the day.
+Item {
+    id: root
+
+    required property int index
+    required property string title
+    required property string projectName
+    required property string projectColor
+    required property string when
+    required property bool isLate
+    required property bool isTicked
+    readonly property bool isCurrent: root.ListView.isCurrentItem && root.ListView.view.activeFocus
+
+    signal toggled
+
+    function facts(): string {
+        return [root.title, root.projectName, root.when].filter(fact => fact.length > 0).join(", ");
+    }
+
+    implicitHeight: 44
+    Accessible.role: Accessible.CheckBox
+    Accessible.name: root.facts()
+    Accessible.checkable: true
+    Accessible.checked: root.isTicked
+
+    Rectangle {
+        anchors.fill: parent
+        radius: Theme.radiusSmall
+        color: root.isTicked ? Theme.accentSurface : hover.hovered || root.isCurrent ? Theme.surfaceRaised : "transparent"
+
+        HoverHandler {
+            id: hover
+        }
+
+        TapHandler {
+            onTapped: root.toggled()
+        }
+
+        RowLayout {
+            anchors.fill: parent
+            anchors.leftMargin: Theme.gap3
+            anchors.rightMargin: Theme.gap3
+            spacing: Theme.gap3
+
+            Symbol {
+                name: root.isTicked ? "checkmark.circle.fill" : "circle"
+                color: root.isTicked ? Theme.accentText : Theme.textFaint
+                size: 18
+            }
+
+            ThemedText {
+                Layout.fillWidth: true
+                text: root.title
+                elide: Text.ElideRight
+                Accessible.ignored: true
+            }
+
+            RowFact {
+                Layout.maximumWidth: 180
+                symbol: "folder"
+                text: root.projectName
+                symbolColor: root.projectColor.length > 0 ? root.projectColor : Theme.textFaint
+                canShrink: true
+            }
+
+            ThemedText {
+                Layout.maximumWidth: 260
+                text: root.when
+                color: root.isLate ? Theme.amber : Theme.textMuted
+                font.pixelSize: Theme.caption
+                elide: Text.ElideRight
+                Accessible.ignored: true
+            }
+        }
+
+        FocusRing {
+            shown: root.isCurrent
+            distance: -1
+        }
+    }
+}
