@@ -1,5 +1,7 @@
 #include "app/CommandLine.h"
 
+#include "app/PlanningCommands.h"
+
 #include <QHash>
 #include <QSet>
 
@@ -95,6 +97,61 @@ Parsed parseChangeList(const QString& name, const Arguments& arguments) {
     return Command(change);
 }
 
+std::optional<CommandLineError> dateProblem(const QString& command, const Arguments& arguments) {
+    const auto date = arguments.values.constFind(QStringLiteral("--date"));
+    // Which day is today does not matter here.
+    if (date == arguments.values.cend() || dayOfText(*date, QDate(2000, 1, 1)))
+        return std::nullopt;
+    return CommandLineError{
+        QStringLiteral("%1: --date takes a day such as 2025-03-10, today or tomorrow, not '%2'")
+            .arg(command, *date)};
+}
+
+Parsed parseAdd(const Arguments& arguments) {
+    command::Add add;
+    add.title = arguments.positional.join(u' ').simplified();
+    add.project = arguments.values.value(QStringLiteral("--project")).simplified();
+    add.date = arguments.values.value(QStringLiteral("--date"));
+    add.priority = arguments.values.value(QStringLiteral("--priority"));
+    if (add.title.isEmpty())
+        return fail(QStringLiteral("add: give the task a title"));
+    if (arguments.values.contains(QStringLiteral("--project")) && add.project.isEmpty())
+        return fail(QStringLiteral("add: --project needs a name"));
+    static const QSet<QString> priorities{QStringLiteral("low"), QStringLiteral("medium"),
+                                          QStringLiteral("high")};
+    if (arguments.values.contains(QStringLiteral("--priority")) && !priorities.contains(add.priority)) {
+        return fail(QStringLiteral("add: the priority is low, medium or high, not '%1'").arg(add.priority));
+    }
+    if (const auto problem = dateProblem(QStringLiteral("add"), arguments))
+        return *problem;
+    return Command(add);
+}
+
+Parsed parseAgenda(const Arguments& arguments) {
+    if (const auto problem = dateProblem(QStringLiteral("agenda"), arguments))
+        return *problem;
+    return Command(command::Agenda{arguments.values.value(QStringLiteral("--date")),
+                                   arguments.flags.contains(QStringLiteral("--json"))});
+}
+
+// The commands that take one word: an id, or the name of a file.
+Parsed parseOneWord(const QString& name, const Arguments& arguments) {
+    const bool isDone = name == QLatin1String("done");
+    if (arguments.positional.size() != 1 || arguments.positional.first().isEmpty()) {
+        return fail(isDone ? QStringLiteral("done: give the id of one task")
+                           : QStringLiteral("%1: name one file").arg(name));
+    }
+    const QString& word = arguments.positional.first();
+    if (name == QLatin1String("export"))
+        return Command(command::Export{word, arguments.flags.contains(QStringLiteral("--force"))});
+    if (name == QLatin1String("import"))
+        return Command(command::Import{word});
+    if (!idDigits(word)) {
+        return fail(QStringLiteral("done: an id is four or more hexadecimal digits, not '%1'").arg(word));
+    }
+    return Command(command::Done{word});
+}
+
 struct Rule {
     QSet<QString> withValue;
     QSet<QString> flags;
@@ -114,7 +171,13 @@ const QHash<QString, Rule>& rules() {
         {QStringLiteral("stop"), {}},
         {QStringLiteral("status"), {{}, {json, QStringLiteral("--follow")}, false}},
         {QStringLiteral("tasks"), {{}, {json}, false}},
-        {QStringLiteral("add"), {{}, {}, true}},
+        {QStringLiteral("add"),
+         {{QStringLiteral("--project"), QStringLiteral("--date"), QStringLiteral("--priority")}, {}, true}},
+        {QStringLiteral("agenda"), {{QStringLiteral("--date")}, {json}, false}},
+        {QStringLiteral("projects"), {{}, {json}, false}},
+        {QStringLiteral("done"), {{}, {}, true}},
+        {QStringLiteral("export"), {{}, {QStringLiteral("--force")}, true}},
+        {QStringLiteral("import"), {{}, {}, true}},
         {QStringLiteral("block"), list},
         {QStringLiteral("allow"), list},
         {QStringLiteral("lists"), {{}, {json}, false}},
@@ -179,12 +242,14 @@ Parsed parseCommandLine(const QStringList& arguments) {
         return Command(command::Doctor{});
     if (name == QLatin1String("help"))
         return Command(command::Help{});
-    if (name == QLatin1String("add")) {
-        const QString title = given.positional.join(u' ').simplified();
-        if (title.isEmpty())
-            return fail(QStringLiteral("add: give the task a title"));
-        return Command(command::Add{title});
-    }
+    if (name == QLatin1String("add"))
+        return parseAdd(given);
+    if (name == QLatin1String("agenda"))
+        return parseAgenda(given);
+    if (name == QLatin1String("projects"))
+        return Command(command::Projects{json});
+    if (rule->takesText)
+        return parseOneWord(name, given);
     return parseChangeList(name, given);
 }
 
@@ -204,7 +269,15 @@ Commands
   status [--json] [--follow]
                       what runs now; --follow prints one JSON line per change until the program ends
   tasks [--json]      the tasks queued for the session
-  add TITLE           make a task and queue it
+  add TITLE [--project P] [--date D] [--priority low|medium|high]
+                      make a task; for today, or without a date, it is queued
+  agenda [--date D] [--json]
+                      what is planned for a day; D is 2025-03-10, today or tomorrow
+  projects [--json]   the projects
+  done ID             tick a task off; the first four digits of its id do
+  export [--force] FILE
+                      write projects and tasks to FILE.json, or the tasks to FILE.txt or FILE.ics
+  import FILE         take in the projects and tasks of such a file
   block, allow (--app ID | --site SITE --browser ID) [--remove]
                       put an application or a site on the blocked or on the allowed list, or take it off
   lists [--json]      the four lists

@@ -44,8 +44,35 @@ struct Status {
 struct Tasks {
     bool json = false;
 };
+/// Make a task; what is empty was not said.
 struct Add {
     QString title;
+    QString project;
+    /// "2025-03-10", "today" or "tomorrow".
+    QString date;
+    /// "low", "medium" or "high".
+    QString priority;
+};
+struct Agenda {
+    /// As that of Add.
+    QString date;
+    bool json = false;
+};
+struct Projects {
+    bool json = false;
+};
+/// Tick a task off.
+struct Done {
+    /// The beginning of its id, four digits at least.
+    QString id;
+};
+struct Export {
+    QString path;
+    /// Whether a file that exists may be replaced.
+    bool force = false;
+};
+struct Import {
+    QString path;
 };
 /// Change a list: an application, or a site of a browser.
 struct ChangeList {
@@ -66,7 +93,8 @@ struct Version {};
 
 using Command =
     std::variant<command::OpenWindow, command::Start, command::Pause, command::Resume, command::Stop,
-                 command::Status, command::Tasks, command::Add, command::ChangeList, command::Lists,
+                 command::Status, command::Tasks, command::Add, command::Agenda, command::Projects,
+                 command::Done, command::Export, command::Import, command::ChangeList, command::Lists,
                  command::Doctor, command::Help, command::Version>;
 
 /// Why the arguments cannot be understood, as one line in English.

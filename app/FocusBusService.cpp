@@ -63,7 +63,7 @@ Availability FocusBusService::publish() {
     m_followerWatch.setConnection(m_bus);
     m_announced = steadyProperties();
     constexpr auto exported = QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals |
-                              QDBusConnection::ExportAllProperties;
+                              QDBusConnection::ExportAllProperties | QDBusConnection::ExportAdaptors;
     if (!m_bus.registerObject(QLatin1String(focusBusPath), this, exported) ||
         !m_bus.registerService(QLatin1String(focusBusName))) {
         return Availability::unavailable(QStringLiteral("health_bus_name_taken"),

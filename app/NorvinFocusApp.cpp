@@ -1,5 +1,6 @@
 #include "app/NorvinFocusApp.h"
 
+#include "app/PlanningBusService.h"
 #include "distraction/AppBlockerService.h"
 #include "distraction/AppUsageService.h"
 #include "distraction/BrowserAlertService.h"
@@ -110,6 +111,9 @@ NorvinFocusApp::NorvinFocusApp(LinuxPlatform& platform, std::unique_ptr<ModelCon
     , m_deepWorkScreen(m_timerService, AppUsageService::shared(), MotionService::shared(),
                        m_sharedModelContainer->mainContext())
     , m_planning(m_sharedModelContainer->mainContext(), m_timerService, m_soundService, platform.clock())
+    , m_planningExchange(m_sharedModelContainer->mainContext(), *m_planning.edits(), platform.clock())
+    , m_planningCommands(m_deepWorkScreen, m_sharedModelContainer->mainContext(), m_planningExchange,
+                         platform.clock())
     , m_blockLists(platform.applications(), platform.workspace(), AppBlockerService::shared(),
                    platform.preferences())
     , m_busAvailability(Availability::available())
@@ -124,6 +128,8 @@ NorvinFocusApp::NorvinFocusApp(LinuxPlatform& platform, std::unique_ptr<ModelCon
     , m_userInterface(std::move(engine), m_deepWorkScreen, m_planning, m_tickSoundSettings, m_blockLists,
                       m_health, m_localization)
     , m_busService(sessionBus(), m_deepWorkScreen, AppBlockerService::shared(), m_health) {
+    // Another interface of the same object on the bus, which owns it.
+    new PlanningBusService(sessionBus(), m_planningCommands, &m_busService);
     m_blockLists.setBrowserHealth(&m_browserHealth);
     followStore();
     followPlatform();

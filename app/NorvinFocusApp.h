@@ -2,6 +2,7 @@
 
 #include "app/AppDelegate.h"
 #include "app/FocusBusService.h"
+#include "app/PlanningCommands.h"
 #include "distraction/AICoachService.h"
 #include "distraction/BlockListsScreen.h"
 #include "distraction/BrowserHealth.h"
@@ -11,6 +12,7 @@
 #include "focus/TimerInterruptions.h"
 #include "model/ModelContainer.h"
 #include "planning/PlanningScreens.h"
+#include "planning/exchange/PlanningExchange.h"
 #include "sound/SoundService.h"
 #include "sound/TickSoundService.h"
 #include "sound/TickSoundSettings.h"
@@ -81,6 +83,8 @@ private:
     AICoachService m_coachService;
     DeepWorkScreen m_deepWorkScreen;
     PlanningScreens m_planning;
+    PlanningExchange m_planningExchange;
+    PlanningCommands m_planningCommands;
     BlockListsScreen m_blockLists;
     Availability m_busAvailability;
     Availability m_storeAvailability;

@@ -1,11 +1,14 @@
 #include "app/RemoteControl.h"
 
 #include "app/FocusBusService.h"
+#include "app/PlanningBusService.h"
+#include "app/PlanningReport.h"
 #include "app/StatusReport.h"
 
 #include <QCoreApplication>
 #include <QDBusConnectionInterface>
 #include <QDBusServiceWatcher>
+#include <QDir>
 #include <QEventLoop>
 #include <QJsonDocument>
 #include <QProcess>
@@ -76,8 +79,8 @@ ExitCode RemoteControl::run(const Command& command) {
         return call(QStringLiteral("Resume"));
     if (std::holds_alternative<command::Stop>(command))
         return call(QStringLiteral("Stop"));
-    if (const auto* wanted = std::get_if<command::Add>(&command))
-        return call(QStringLiteral("AddTask"), {wanted->title});
+    if (const std::optional<ExitCode> code = runPlanning(command))
+        return *code;
     if (const auto* wanted = std::get_if<command::Status>(&command))
         return status(*wanted);
     if (const auto* wanted = std::get_if<command::ChangeList>(&command))
@@ -195,9 +198,62 @@ ExitCode RemoteControl::changeList(const command::ChangeList& change) {
     return call(QStringLiteral("ChangeSite"), {change.blocked, change.browser, change.site, change.remove});
 }
 
+std::optional<ExitCode> RemoteControl::runPlanning(const Command& command) {
+    QString reply;
+    if (const auto* wanted = std::get_if<command::Add>(&command)) {
+        return callPlanning(QStringLiteral("AddTask"),
+                            {wanted->title, wanted->project, wanted->date, wanted->priority});
+    }
+    if (const auto* wanted = std::get_if<command::Agenda>(&command)) {
+        const ExitCode code = callPlanning(QStringLiteral("Agenda"), {wanted->date}, &reply);
+        if (code == ExitCode::done)
+            print(stdout, wanted->json ? reply + u'\n' : agendaText(parsed(reply).object()));
+        return code;
+    }
+    if (const auto* wanted = std::get_if<command::Projects>(&command)) {
+        const ExitCode code = callPlanning(QStringLiteral("Projects"), {}, &reply);
+        if (code == ExitCode::done)
+            print(stdout, wanted->json ? reply + u'\n' : projectsText(parsed(reply).array()));
+        return code;
+    }
+    if (const auto* wanted = std::get_if<command::Done>(&command)) {
+        const ExitCode code = callPlanning(QStringLiteral("FinishTask"), {wanted->id}, &reply);
+        if (code == ExitCode::done)
+            print(stdout, QStringLiteral("Done: %1\n").arg(reply.simplified()));
+        return code;
+    }
+    if (const auto* wanted = std::get_if<command::Export>(&command)) {
+        const QString path = QDir::current().absoluteFilePath(wanted->path);
+        const ExitCode code = callPlanning(QStringLiteral("Export"), {path, wanted->force}, &reply);
+        if (code == ExitCode::done) {
+            print(stdout, qtTrId("planning_exported_format")
+                                  .arg(planningCountsText(countsOfReport(parsed(reply).object())), path) +
+                              u'\n');
+        }
+        return code;
+    }
+    if (const auto* wanted = std::get_if<command::Import>(&command)) {
+        const QString path = QDir::current().absoluteFilePath(wanted->path);
+        const ExitCode code = callPlanning(QStringLiteral("Import"), {path}, &reply);
+        if (code == ExitCode::done)
+            print(stdout, importText(importOfReport(parsed(reply).object())) + u'\n');
+        return code;
+    }
+    return std::nullopt;
+}
+
+ExitCode RemoteControl::callPlanning(const QString& method, const QVariantList& arguments, QString* reply) {
+    return callOn(planningBusInterface, method, arguments, reply);
+}
+
 ExitCode RemoteControl::call(const QString& method, const QVariantList& arguments, QString* reply) {
+    return callOn(focusBusName, method, arguments, reply);
+}
+
+ExitCode RemoteControl::callOn(const char* interface, const QString& method, const QVariantList& arguments,
+                               QString* reply) {
     QDBusMessage message = QDBusMessage::createMethodCall(
-        QLatin1String(focusBusName), QLatin1String(focusBusPath), QLatin1String(focusBusName), method);
+        QLatin1String(focusBusName), QLatin1String(focusBusPath), QLatin1String(interface), method);
     message.setArguments(arguments);
     message.setAutoStartService(false);
     const QDBusMessage answer =
@@ -208,7 +264,9 @@ ExitCode RemoteControl::call(const QString& method, const QVariantList& argument
         return ExitCode::done;
     }
     if (answer.errorName() == QLatin1String(focusBusRefused)) {
-        printError(textForKey(answer.errorMessage()));
+        printError(planningErrorText({.key = answer.errorMessage(),
+                                      .arguments = answer.arguments().value(1).toStringList(),
+                                      .line = answer.arguments().value(2).toInt()}));
         return ExitCode::refused;
     }
     if (answer.errorName() == QLatin1String("org.freedesktop.DBus.Error.ServiceUnknown"))

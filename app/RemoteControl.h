@@ -27,12 +27,18 @@ private:
     [[nodiscard]] ExitCode follow();
     [[nodiscard]] ExitCode doctor();
     [[nodiscard]] ExitCode changeList(const command::ChangeList& change);
+    [[nodiscard]] std::optional<ExitCode> runPlanning(const Command& command);
     [[nodiscard]] ExitCode launch();
     [[nodiscard]] bool waitForInstance(qint64 launchedProcess) const;
 
     /// Calls a method; prints why where it fails. @param reply takes the answer's first argument, if any
     [[nodiscard]] ExitCode call(const QString& method, const QVariantList& arguments = {},
                                 QString* reply = nullptr);
+    /// The same with the interface for projects and tasks.
+    [[nodiscard]] ExitCode callPlanning(const QString& method, const QVariantList& arguments,
+                                        QString* reply = nullptr);
+    [[nodiscard]] ExitCode callOn(const char* interface, const QString& method, const QVariantList& arguments,
+                                  QString* reply);
 
     QDBusConnection m_bus;
 };

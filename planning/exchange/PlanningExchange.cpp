@@ -152,18 +152,19 @@ void PlanningExchange::takeBack(const PlanningSnapshot& added) {
                 leave(*member);
         }
     };
-    for (const ResourceValues& values : added.resources) {
-        if (TaskResource* const resource = m_context.resource(values.id))
-            m_context.remove(*resource);
+    for (const TaskValues& values : added.tasks) {
+        if (const TaskItem* const task = m_context.task(values.id))
+            detach(task->subtasks(), [](TaskItem& subtask) { subtask.setParentTask(nullptr); });
+    }
+    // Projects first: each takes most of the rest along in one go, and what is gone with others is found no
+    // more.
+    for (const ProjectValues& values : added.projects) {
+        if (Project* const project = m_context.project(values.id)) {
+            detach(project->tasks(), [](TaskItem& task) { task.setProject(nullptr); });
+            m_context.remove(*project);
+        }
     }
     for (const TaskValues& values : added.tasks) {
-        TaskItem* const task = m_context.task(values.id);
-        if (task == nullptr)
-            continue;
-        detach(task->subtasks(), [](TaskItem& subtask) { subtask.setParentTask(nullptr); });
-    }
-    for (const TaskValues& values : added.tasks) {
-        // It may be gone with its parent.
         if (TaskItem* const task = m_context.task(values.id))
             m_context.remove(*task);
     }
@@ -171,12 +172,9 @@ void PlanningExchange::takeBack(const PlanningSnapshot& added) {
         if (ProjectPhase* const phase = m_context.phase(values.id))
             m_context.remove(*phase);
     }
-    for (const ProjectValues& values : added.projects) {
-        Project* const project = m_context.project(values.id);
-        if (project == nullptr)
-            continue;
-        detach(project->tasks(), [](TaskItem& task) { task.setProject(nullptr); });
-        m_context.remove(*project);
+    for (const ResourceValues& values : added.resources) {
+        if (TaskResource* const resource = m_context.resource(values.id))
+            m_context.remove(*resource);
     }
 }
 

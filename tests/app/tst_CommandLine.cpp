@@ -56,6 +56,20 @@ void tst_CommandLine::understandsTheOthers() {
     QCOMPARE(parsedAs<command::Add>({"add", "Read", "the", "paper"})->title,
              QStringLiteral("Read the paper"));
     QCOMPARE(parsedAs<command::Add>({"add", "--", "--dashes"})->title, QStringLiteral("--dashes"));
+    const auto add = parsedAs<command::Add>(
+        {"add", "Read", "--project", "My thesis", "it", "--date=tomorrow", "--priority", "high"});
+    QVERIFY(add);
+    QCOMPARE(add->title, QStringLiteral("Read it"));
+    QCOMPARE(QStringList({add->project, add->date, add->priority}),
+             QStringList({"My thesis", "tomorrow", "high"}));
+    const auto agenda = parsedAs<command::Agenda>({"agenda", "--date", "2025-03-10", "--json"});
+    QVERIFY(agenda && agenda->json);
+    QCOMPARE(agenda->date, QStringLiteral("2025-03-10"));
+    QVERIFY(parsedAs<command::Projects>({"projects"}));
+    QCOMPARE(parsedAs<command::Done>({"done", "1a2B"})->id, QStringLiteral("1a2B"));
+    const auto exported = parsedAs<command::Export>({"export", "--force", "plan.json"});
+    QVERIFY(exported && exported->force && exported->path == QLatin1String("plan.json"));
+    QCOMPARE(parsedAs<command::Import>({"import", "my plan.ics"})->path, QStringLiteral("my plan.ics"));
     const auto block = parsedAs<command::ChangeList>({"block", "--app", "org.example.Game", "--remove"});
     QVERIFY(block && block->blocked && block->remove);
     QCOMPARE(block->app, QStringLiteral("org.example.Game"));
@@ -85,6 +99,16 @@ void tst_CommandLine::refusesWithAClearLine_data() {
     row({"status", "--json=yes"}, "--json=yes");
     row({"add"}, "title");
     row({"add", "  "}, "title");
+    row({"add", "a", "--date", "2025-02-30"}, "2025-02-30");
+    row({"add", "a", "--priority", "urgent"}, "urgent");
+    row({"add", "a", "--project", " "}, "--project");
+    row({"agenda", "--date", "yesterday"}, "yesterday");
+    row({"done"}, "one task");
+    row({"done", "1a2"}, "1a2");
+    row({"done", "wxyz"}, "wxyz");
+    row({"done", "1a2b", "3c4d"}, "one task");
+    row({"export", "a.json", "b.json"}, "one file");
+    row({"import"}, "one file");
     row({"block"}, "--app ID");
     row({"block", "--app", ""}, "--app ID");
     row({"block", "--site", "example.org"}, "--browser ID");
@@ -103,8 +127,9 @@ void tst_CommandLine::refusesWithAClearLine() {
 
 void tst_CommandLine::helpNamesEveryCommand() {
     const QString help = commandLineHelp();
-    for (const char* name : {"start", "pause", "resume", "stop", "status", "tasks", "add", "block", "allow",
-                             "lists", "doctor", "--help", "--version"})
+    for (const char* name :
+         {"start", "pause", "resume", "stop", "status", "tasks", "add", "agenda", "projects", "done",
+          "export", "import", "block", "allow", "lists", "doctor", "--help", "--version"})
         QVERIFY2(help.contains(QLatin1String(name)), name);
 }
 
