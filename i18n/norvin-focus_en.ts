@@ -1366,10 +1366,6 @@
         <source></source>
         <translation>Search in all open tasks</translation>
     </message>
-    <message id="pick_ticked_name">
-        <source></source>
-        <translation>%1, chosen</translation>
-    </message>
     <message id="plan_for_day">
         <source></source>
         <translation>Plan for another day</translation>

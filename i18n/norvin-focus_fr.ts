@@ -1366,10 +1366,6 @@
         <source></source>
         <translation>Chercher dans toutes les tâches ouvertes</translation>
     </message>
-    <message id="pick_ticked_name">
-        <source></source>
-        <translation>%1, choisie</translation>
-    </message>
     <message id="plan_for_day">
         <source></source>
         <translation>Prévoir un autre jour</translation>

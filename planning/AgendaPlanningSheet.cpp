@@ -1,5 +1,6 @@
 #include "planning/AgendaPlanningSheet.h"
 
+#include "focus/PomodoroTimerService.h"
 #include "model/ModelContext.h"
 #include "planning/CalendarDays.h"
 #include "planning/PlanningEdits.h"
@@ -80,18 +81,27 @@ bool AgendaPlanningSheet::planTicked() {
     const QList<TaskItem*> tasks = m_pickList.tickedTasks();
     if (tasks.isEmpty())
         return false;
-    QList<std::pair<TaskId, QDateTime>> before;
+    struct Before {
+        TaskId id;
+        QDateTime planned;
+        bool wasQueued;
+    };
+    QList<Before> before;
     for (TaskItem* task : tasks) {
-        before.append({task->id(), task->plannedDate()});
+        before.append({task->id(), task->plannedDate(), m_with.timer.taskQueue().contains(task)});
         task->setPlannedDate(m_date);
     }
     // What cannot be saved stays in memory and is tried again.
     static_cast<void>(m_with.context.save());
     m_with.edits.offerUndo(qtTrId("undo_planned_format", static_cast<int>(tasks.size())).arg(dateText()),
-                           [&context = m_with.context, before] {
-                               for (const auto& [id, planned] : before) {
-                                   if (TaskItem* const task = context.task(id))
-                                       task->setPlannedDate(planned);
+                           [&context = m_with.context, &timer = m_with.timer, before] {
+                               for (const Before& each : before) {
+                                   TaskItem* const task = context.task(each.id);
+                                   if (task == nullptr)
+                                       continue;
+                                   if (!each.wasQueued)
+                                       timer.removeTaskFromQueue(task);
+                                   task->setPlannedDate(each.planned);
                                }
                            });
     return true;

@@ -53,8 +53,10 @@ void DailyAgendaView::setSelectedDate(const QDateTime& date) {
 
 void DailyAgendaView::rebuildList() {
     // Rows of the former list may be what is being called from.
-    if (m_list)
+    if (m_list) {
+        m_list->retire();
         m_list.release()->deleteLater();
+    }
     m_list = std::make_unique<FilteredTaskList>(m_selectedDate, m_with, m_locale);
     Q_EMIT listChanged();
 }

@@ -149,6 +149,11 @@ void FilteredTaskList::scheduleSync() {
         Qt::QueuedConnection);
 }
 
+void FilteredTaskList::retire() {
+    // What has been put off to the end of this turn belongs to what happened while the list was shown.
+    disconnect(this, nullptr, this, nullptr);
+}
+
 void FilteredTaskList::syncWithDeepWorkQueue(const QList<TaskItem*>& newTasks) {
     if (!isToday())
         return;

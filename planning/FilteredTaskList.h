@@ -66,6 +66,8 @@ public:
     Q_INVOKABLE void completeAt(int row);
     /// Brings the timer's queue in line with these tasks of today; does nothing on other days.
     void syncWithDeepWorkQueue(const QList<TaskItem*>& newTasks);
+    /// The list is shown no longer: the queue does not follow it from the next turn on.
+    void retire();
     /// The day's line for a list of so many tasks. None of those that the list shows is done.
     [[nodiscard]] QString dayProgressBar(int count) const;
     [[nodiscard]] QString progressText() const { return dayProgressBar(this->count()); }

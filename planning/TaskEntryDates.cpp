@@ -88,7 +88,8 @@ public:
         if (core.isEmpty())
             return std::nullopt;
         bool isUnmistakable = isMarked || isOn;
-        if (!hasArticle && !isThis && (phrase.day = readNamedDay()).isValid())
+        const bool isDayAfter = core == QLatin1String("day");
+        if ((!hasArticle || isDayAfter) && !isThis && (phrase.day = readNamedDay()).isValid())
             isUnmistakable = true;
         else if ((phrase.day = readIsoDate()).isValid())
             isUnmistakable = true;
@@ -270,10 +271,10 @@ std::optional<DatePhrase> datePhraseAt(const QStringList& words, QDate today, co
 }
 
 bool claimsDate(const QString& word) {
-    static const QSet<QString> words =
-        setOf("from since until till about of after every each last past and or to vs the my our your "
-              "depuis des de du d' apres chaque tous toutes les tout jusqu'a jusqu'au jusque a au et ou "
-              "dernier mon ma notre votre");
+    static const QSet<QString> words = setOf(
+        "the le la from since until till about of after every each last past and or to vs the my our your "
+        "depuis des de du d' apres chaque tous toutes les tout jusqu'a jusqu'au jusque a au et ou "
+        "dernier mon ma notre votre");
     return words.contains(word);
 }
 

@@ -246,10 +246,14 @@ void TaskEntryParser::readDates(Parsed& parsed) const {
             found.push_back({i, *phrase});
         i += phrase ? static_cast<size_t>(phrase->wordCount) : 1;
     }
+    // What is marked, though it names nothing or was put back into the title, does not go on with a sentence.
     const auto isAtEnd = [&parsed](size_t next) {
-        return std::all_of(
-            parsed.words.cbegin() + static_cast<std::ptrdiff_t>(next), parsed.words.cend(),
-            [](const Word& word) { return word.field || (!word.isPlain && isPartOfDay(word.key)); });
+        return std::all_of(parsed.words.cbegin() + static_cast<std::ptrdiff_t>(next), parsed.words.cend(),
+                           [&parsed](const Word& word) {
+                               return word.field ||
+                                      QStringLiteral("#@\\").contains(parsed.line[word.start]) ||
+                                      (!word.isPlain && isPartOfDay(word.key));
+                           });
     };
     for (auto last = found.crbegin(); last != found.crend(); ++last) {
         const auto count = static_cast<size_t>(last->phrase.wordCount);
