@@ -256,12 +256,10 @@ int KanbanBoardView::addTask(const QString& title, const QString& statusValue) {
     return columns()[static_cast<size_t>(status)]->rowOf(*task);
 }
 
-int KanbanBoardView::moveTask(const QString& taskId, KanbanColumnView* column) {
-    const TaskItem* task = taskWithId(taskId);
-    if (task == nullptr || column == nullptr || !column->drop({taskId}))
-        return -1;
+int KanbanBoardView::rowOf(const QString& taskId, KanbanColumnView* column) {
     settle();
-    return column->rowOf(*task);
+    const TaskItem* task = taskWithId(taskId);
+    return task != nullptr && column != nullptr ? column->rowOf(*task) : -1;
 }
 
 void KanbanBoardView::openTask(const QString& taskId) {

@@ -91,6 +91,8 @@ public:
     void setShowEditProject(bool show);
     [[nodiscard]] ManagePhasesSheet* phaseSheet() { return &m_phaseSheet; }
 
+    /// Lets go of the project.
+    Q_INVOKABLE void close() { setProject(nullptr); }
     /// To be called when the board comes to the front: another day may have begun.
     Q_INVOKABLE void refresh();
     /// Takes what changed into account now rather than at the end of the turn.
@@ -101,9 +103,8 @@ public:
     /// Makes a task of that title, trimmed, with the status, in the project and the selected phase.
     /// @return its row in the column of the status; −1 for a blank title, which makes none
     Q_INVOKABLE int addTask(const QString& title, const QString& statusValue);
-    /// Moves the card of a task to a column, as dropping it there does.
-    /// @return its row there; −1 where it cannot be moved
-    Q_INVOKABLE int moveTask(const QString& taskId, norvin::KanbanColumnView* column);
+    /// @return the task's row in the column, as the store is now; −1 where it is not shown there
+    Q_INVOKABLE int rowOf(const QString& taskId, norvin::KanbanColumnView* column);
     Q_INVOKABLE void openTask(const QString& taskId);
     Q_INVOKABLE void planTask(const QString& taskId);
     /// What the deletion takes along, in the user's language; empty for nothing.

@@ -28,7 +28,8 @@ public:
         bool operator==(const Row&) const = default;
     };
 
-    using QAbstractListModel::QAbstractListModel;
+    explicit PhaseRowsModel(QObject* parent)
+        : QAbstractListModel(parent) {}
     ~PhaseRowsModel() override;
 
     [[nodiscard]] const QList<Row>& rows() const { return m_rows; }

@@ -14,7 +14,8 @@ ProjectSheet::ProjectSheet(ModelContext& context, PlanningEdits& edits, Clock& c
     : QObject(parent)
     , m_context(context)
     , m_edits(edits)
-    , m_clock(clock) {
+    , m_clock(clock)
+    , m_phases(nullptr) {
     connect(&m_context, &ModelContext::projectAboutToBeRemoved, this, [this](const Project* project) {
         if (project == m_project)
             dropProject();

@@ -244,8 +244,9 @@ void KanbanBoardTest::tasksAreAddedMovedAndDeleted() {
     QCOMPARE(second->createdAt(), rig->focus.clock.now());
     board->setSelectedPhaseID(QString());
     QCOMPARE(shown(), QStringLiteral("first|second|"));
-    QCOMPARE(board->moveTask(second->id().toString(), board->toDo()), 1);
-    QCOMPARE(board->moveTask(QStringLiteral("nobody"), board->toDo()), -1);
+    QVERIFY(board->toDo()->drop(payloadOf(second)));
+    QCOMPARE(board->rowOf(second->id().toString(), board->toDo()), 1);
+    QCOMPARE(board->rowOf(second->id().toString(), board->inProgress()), -1);
 
     QSignalSpy posted(&rig->notifications, &PlanningNotifications::posted);
     const QString id = second->id().toString();

@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
+import QtQuick.Templates as T
 import NorvinFocus.Ui
 
 /// A sheet or bar that is loaded while it is wanted.
@@ -13,12 +14,15 @@ Loader {
     required property QtObject model
 
     function follow(): void {
-        if (root.wanted)
+        if (root.wanted) {
             root.setSource(root.file, {
                 model: root.model
             });
-        else
+        } else {
+            // Closing gives the keyboard back to where it came from.
+            (root.item as T.Popup)?.close();
             root.setSource("");
+        }
     }
 
     onWantedChanged: root.follow()

@@ -10,9 +10,21 @@ Item {
     required property PlanningScreens planning
 
     LazySheet {
+        wanted: root.planning.agenda.showPlanningSheet
+        file: "../agenda/PlanningSheetPopup.qml"
+        model: root.planning.agenda
+    }
+
+    LazySheet {
         wanted: root.planning.taskSheet.isPresented
         file: "../tasks/TaskSheetPopup.qml"
         model: root.planning.taskSheet
+    }
+
+    LazySheet {
+        wanted: root.planning.projectSheet.isPresented
+        file: "../projects/ProjectSheetPopup.qml"
+        model: root.planning.projectSheet
     }
 
     LazySheet {

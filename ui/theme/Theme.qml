@@ -40,6 +40,7 @@ QtObject {
     readonly property color danger: "#b91c1c"
     readonly property color dangerHover: "#991b1b"
     readonly property color dangerInk: "#ffffff"
+    readonly property color dangerText: "#ff8a8a"
     readonly property color focusRing: "#b79bff"
 
     // Distances, multiples of four.

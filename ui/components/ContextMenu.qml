@@ -1,0 +1,33 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import NorvinFocus.Ui
+
+/// A menu of what can be done to one thing. Arrow keys, Enter and Escape as everywhere.
+T.Menu {
+    id: root
+
+    implicitWidth: 248
+    implicitHeight: contentHeight + topPadding + bottomPadding
+    padding: Theme.gap1
+    margins: Theme.gap2
+    modal: true
+    dim: false
+
+    contentItem: ListView {
+        implicitHeight: contentHeight
+        model: root.contentModel
+        currentIndex: root.currentIndex
+        interactive: false
+        highlightMoveDuration: 0
+    }
+
+    background: Rectangle {
+        radius: Theme.radius
+        color: Theme.surfaceHover
+        border.width: 1
+        border.color: Theme.outline
+    }
+
+}
