@@ -1075,6 +1075,10 @@
         <source></source>
         <translation>Late tasks</translation>
     </message>
+    <message id="length_minutes">
+        <source></source>
+        <translation>%1 min</translation>
+    </message>
     <message id="list_blocked">
         <source></source>
         <translation>Blocked</translation>

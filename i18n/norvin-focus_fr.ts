@@ -1075,6 +1075,10 @@
         <source></source>
         <translation>Tâches en retard</translation>
     </message>
+    <message id="length_minutes">
+        <source></source>
+        <translation>%1 min</translation>
+    </message>
     <message id="list_blocked">
         <source></source>
         <translation>Bloquée</translation>

@@ -59,10 +59,7 @@ void TaskResourceListModel::look(const TaskResource& resource) {
 
 void TaskResourceListModel::setPlace(const QString& resourceId, const QUrl& url) {
     Place& place = m_places[resourceId];
-    const State state = url.isEmpty() ? State::missing : State::found;
-    if (place.state == state && place.url == url)
-        return;
-    place = {state, url};
+    place = {url.isEmpty(), url};
     for (int row = 0; row < m_rows.size(); ++row) {
         if (m_rows.at(row)->id().toString() == resourceId)
             Q_EMIT dataChanged(index(row), index(row));
@@ -91,8 +88,8 @@ QVariant TaskResourceListModel::data(const QModelIndex& index, int role) const {
         return resource->name();
     case UrlRole:
         return place.url;
-    case StateRole:
-        return QVariant::fromValue(place.state);
+    case IsMissingRole:
+        return place.isMissing;
     case IsImageRole:
         return resource->isImage();
     default:
@@ -104,7 +101,7 @@ QHash<int, QByteArray> TaskResourceListModel::roleNames() const {
     return {{ResourceIdRole, "resourceId"},
             {NameRole, "name"},
             {UrlRole, "fileUrl"},
-            {StateRole, "fileState"},
+            {IsMissingRole, "isMissing"},
             {IsImageRole, "isImage"}};
 }
 

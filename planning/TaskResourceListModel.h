@@ -19,11 +19,9 @@ public:
         ResourceIdRole = Qt::UserRole + 1, ///< "resourceId": text
         NameRole,                          ///< "name": text
         UrlRole,                           ///< "fileUrl": where the file is; empty while not known
-        StateRole,                         ///< "fileState": a State
+        IsMissingRole,                     ///< "isMissing": it was looked for and is not there
         IsImageRole,                       ///< "isImage"
     };
-    enum class State { unknown, found, missing };
-    Q_ENUM(State)
 
     explicit TaskResourceListModel(QObject* parent);
     ~TaskResourceListModel() override;
@@ -44,7 +42,7 @@ Q_SIGNALS:
 
 private:
     struct Place {
-        State state = State::unknown;
+        bool isMissing = false;
         QUrl url;
     };
     void follow();

@@ -21,6 +21,9 @@ namespace norvin {
 
 namespace {
 
+constexpr auto plannedField = QLatin1String("plannedDate");
+constexpr auto dueField = QLatin1String("dueDate");
+
 template <class T>
 EntityId<T> idFrom(const QString& text) {
     return EntityId<T>(QUuid::fromString(text));
@@ -306,28 +309,31 @@ QDateTime TaskSheet::createdAt() const {
     return m_task != nullptr ? m_task->createdAt() : QDateTime();
 }
 
-void TaskSheet::setDate(DateField field, const QDateTime& date) {
+void TaskSheet::setDate(const QString& field, const QDateTime& date) {
+    const bool isDue = field == dueField;
+    if (!isDue && field != plannedField)
+        return;
     if (m_task != nullptr) {
-        field == DateField::planned ? m_task->setPlannedDate(date) : m_task->setDueDate(date);
+        isDue ? m_task->setDueDate(date) : m_task->setPlannedDate(date);
         return;
     }
-    (field == DateField::planned ? m_draft.plannedDate : m_draft.dueDate) = date;
+    (isDue ? m_draft.dueDate : m_draft.plannedDate) = date;
     Q_EMIT fieldsChanged();
 }
 
-void TaskSheet::setDaysFromToday(DateField field, int days) {
+void TaskSheet::setDaysFromToday(const QString& field, int days) {
     const QDateTime now = m_clock.now();
     setDate(field, startOfDate(now.date().addDays(days), now));
 }
 
-void TaskSheet::chooseDay(DateField field) {
+void TaskSheet::chooseDay(const QString& field) {
     m_chosenField = field;
     const QDateTime now = m_clock.now();
-    const QDateTime date = field == DateField::planned ? plannedDate() : dueDate();
+    const QDateTime date = field == dueField ? dueDate() : plannedDate();
     m_calendar.open(date.isValid() ? inZoneOf(date, now).date() : now.date());
 }
 
-void TaskSheet::clearDay(DateField field) {
+void TaskSheet::clearDay(const QString& field) {
     setDate(field, {});
 }
 

@@ -60,9 +60,6 @@ class TaskSheet final : public QObject {
     Q_PROPERTY(QUrl fileFolder READ fileFolder NOTIFY presentedChanged)
     Q_PROPERTY(norvin::AgendaCalendarPopover* calendar READ calendar CONSTANT)
 public:
-    enum class DateField { planned, due };
-    Q_ENUM(DateField)
-
     TaskSheet(ModelContext& context, PlanningEdits& edits, PlanningNotifications& notifications, Clock& clock,
               QObject* parent = nullptr);
     ~TaskSheet() override;
@@ -112,11 +109,12 @@ public:
     /// Makes the task and closes. @return false, with the sheet open, while the title is empty
     Q_INVOKABLE bool create();
     Q_INVOKABLE void close();
+    // The date meant is "plannedDate" or "dueDate"; others are ignored.
     /// Sets a date to the day that many days after today.
-    Q_INVOKABLE void setDaysFromToday(norvin::TaskSheet::DateField field, int days);
-    Q_INVOKABLE void clearDay(norvin::TaskSheet::DateField field);
+    Q_INVOKABLE void setDaysFromToday(const QString& field, int days);
+    Q_INVOKABLE void clearDay(const QString& field);
     /// Lets a day of the calendar be chosen for a date: from now on, a day chosen there is that date.
-    Q_INVOKABLE void chooseDay(norvin::TaskSheet::DateField field);
+    Q_INVOKABLE void chooseDay(const QString& field);
     Q_INVOKABLE void showParent();
 
     /// Adds a subtask to the task of a row, or to the task itself for −1. @return whether one was made
@@ -165,7 +163,7 @@ private:
     void letGo(const TaskItem* task);
     void setNotice(const QString& key);
     [[nodiscard]] Project* project() const;
-    void setDate(DateField field, const QDateTime& date);
+    void setDate(const QString& field, const QDateTime& date);
     [[nodiscard]] QDateTime plannedDate() const;
     [[nodiscard]] QDateTime dueDate() const;
     [[nodiscard]] QString dayText(const QDateTime& date) const;
@@ -183,7 +181,7 @@ private:
     TaskResourceListModel m_resources{this};
     TaskSessionListModel m_sessions;
     AgendaCalendarPopover m_calendar;
-    DateField m_chosenField = DateField::planned;
+    QString m_chosenField;
     QString m_noticeKey;
     QString m_fileFolder;
 };

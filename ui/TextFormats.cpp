@@ -26,6 +26,13 @@ QString TextFormats::duration(int seconds) const {
     return qtTrId("duration_seconds").arg(m_locale.toString(whole));
 }
 
+QString TextFormats::minutes(int minutes) const {
+    const int whole = std::max(minutes, 0);
+    if (whole >= 60)
+        return qtTrId("duration_hours_minutes").arg(m_locale.toString(whole / 60), twoDigits(whole % 60));
+    return qtTrId("length_minutes").arg(m_locale.toString(whole));
+}
+
 QString TextFormats::decimal(double value) const {
     return m_locale.toString(value, 'f', 1);
 }

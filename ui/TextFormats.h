@@ -19,6 +19,8 @@ public:
     /// A length in seconds, in at most two units ("42 s", "3 min 05 s", "2 h 10 min"); negative ones read as
     /// 0.
     Q_INVOKABLE [[nodiscard]] QString duration(int seconds) const;
+    /// A length in whole minutes ("25 min", "2 h 10 min"); negative ones read as 0.
+    Q_INVOKABLE [[nodiscard]] QString minutes(int minutes) const;
     /// A number with one decimal.
     Q_INVOKABLE [[nodiscard]] QString decimal(double value) const;
     /// A number with one decimal and its sign, with a true minus; zero has no sign.

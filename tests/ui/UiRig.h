@@ -28,9 +28,9 @@ struct UiRig {
         for (const char* name : {"Archive Manager", "Calculator", "Editor", "Game", "Terminal"})
             install(QString::fromLatin1(name));
         health.refresh();
-        userInterface = std::make_unique<UserInterface>(std::make_unique<InterfaceEngine>(), deepWork,
-                                                        planning, tickSoundSettings, blockLists, health,
-                                                        *localization);
+        userInterface =
+            std::make_unique<UserInterface>(std::make_unique<InterfaceEngine>(), deepWork, planning,
+                                            tickSoundSettings, blockLists, health, *localization);
         userInterface->setCoach(coach);
         loaded = userInterface->load();
     }
@@ -60,6 +60,34 @@ struct UiRig {
     /// In the order of the sidebar.
     enum class Page { deepWork, agenda, projects, blockLists, health };
     void showPage(Page page) const { press(Qt::Key_1 + static_cast<int>(page), Qt::ControlModifier); }
+
+    /// The item of that name which the keyboard is in or below, is reached by Tab; fails where it is not.
+    void tabTo(const char* name) const {
+        const auto hasKeyboard = [this, name] {
+            const QQuickItem* wanted = item(name);
+            return wanted != nullptr && wanted->hasActiveFocus();
+        };
+        for (int presses = 0; presses < 60 && !hasKeyboard(); ++presses)
+            press(Qt::Key_Tab);
+        QVERIFY2(hasKeyboard(), qPrintable(QLatin1String(name) + QStringLiteral(", not ") + focusName()));
+    }
+    /// What the keyboard is in.
+    [[nodiscard]] QString focusName() const {
+        const QQuickItem* focused = window()->activeFocusItem();
+        return focused == nullptr
+                   ? QString()
+                   : QLatin1String(focused->metaObject()->className()) + u' ' + focused->objectName();
+    }
+    void click(const QQuickItem* item, Qt::MouseButton button = Qt::LeftButton) const {
+        QTest::mouseClick(window(), button, {},
+                          item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint());
+    }
+    /// Keeps what the window shows as <name>.png in the folder that NORVIN_PICTURES names, if it names one.
+    void keepPicture(const QString& name) const {
+        const QString folder = qEnvironmentVariable("NORVIN_PICTURES");
+        if (!folder.isEmpty())
+            window()->grabWindow().save(folder + u'/' + name + QStringLiteral(".png"));
+    }
 
     [[nodiscard]] static QList<QQuickItem*> visibleItems(QQuickItem* root) {
         QList<QQuickItem*> found;

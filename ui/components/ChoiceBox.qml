@@ -87,8 +87,10 @@ T.ComboBox {
         id: choice
 
         required property int index
-        required property string name
-        required property string color
+        // A map, as the model has it.
+        required property var modelData
+        readonly property string name: choice.modelData.name
+        readonly property string color: choice.modelData.color
 
         width: ListView.view.width
         implicitHeight: Theme.controlHeightSmall + 4

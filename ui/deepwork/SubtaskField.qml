@@ -31,5 +31,9 @@ EntryField {
             root.close();
     }
 
+    // The queue below must not hear the keys that were meant for the field.
+    Keys.priority: Keys.AfterItem
     Keys.onEscapePressed: root.close()
+    Keys.onReturnPressed: event => event.accepted = true
+    Keys.onEnterPressed: event => event.accepted = true
 }

@@ -27,8 +27,12 @@ Item {
         rightPadding: Theme.gap2
         topPadding: Theme.gap2
         bottomPadding: Theme.gap2
+        implicitWidth: row.implicitWidth + leftPadding + rightPadding
+        implicitHeight: row.implicitHeight + topPadding + bottomPadding
 
         RowLayout {
+            id: row
+
             spacing: Theme.gap3
             Accessible.role: Accessible.AlertMessage
             Accessible.name: words.text

@@ -10,7 +10,8 @@ Item {
     id: root
 
     required property TaskSheet sheet
-    required property int field
+    /// "plannedDate" or "dueDate".
+    required property string field
 
     signal exited
 
@@ -35,6 +36,8 @@ Item {
         x: root.parent ? root.parent.width - width : 0
         margins: Theme.gap3
         padding: Theme.gap3
+        implicitWidth: choices.implicitWidth + leftPadding + rightPadding
+        implicitHeight: choices.implicitHeight + topPadding + bottomPadding
         modal: true
         dim: false
         focus: true
@@ -48,6 +51,9 @@ Item {
         }
 
         ColumnLayout {
+            id: choices
+
+            width: popup.availableWidth
             spacing: Theme.gap3
 
             RowLayout {
@@ -78,13 +84,16 @@ Item {
             MonthGrid {
                 id: month
 
+                Layout.alignment: Qt.AlignHCenter
                 calendar: root.sheet.calendar
             }
         }
 
         background: Rectangle {
             radius: Theme.radiusLarge
-            color: Theme.surfaceHover
+            color: Theme.surface
+            border.width: 1
+            border.color: Theme.outline
         }
     }
 }

@@ -8,7 +8,8 @@ FocusScope {
     id: root
 
     required property TaskSheet sheet
-    required property int field
+    /// "plannedDate" or "dueDate".
+    required property string field
     required property string name
     /// Empty for no day.
     required property string dayText
@@ -37,6 +38,7 @@ FocusScope {
         focus: true
         font.weight: Font.Normal
         alignsLeft: true
+        symbolColor: root.isLate ? Theme.amber : Theme.text
         symbol: root.isLate ? "calendar.badge.exclamationmark" : "calendar"
         text: root.hasDay ? root.dayText : qsTrId("task_no_day")
         Accessible.name: root.name + ", " + button.text + (root.isLate ? ", " + qsTrId("task_is_late") : "")

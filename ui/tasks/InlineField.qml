@@ -43,5 +43,9 @@ EntryField {
             root.leave();
     }
 
+    // The list below must not hear the keys that were meant for the field.
+    Keys.priority: Keys.AfterItem
     Keys.onEscapePressed: root.leave()
+    Keys.onReturnPressed: event => event.accepted = true
+    Keys.onEnterPressed: event => event.accepted = true
 }

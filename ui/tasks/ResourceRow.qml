@@ -12,11 +12,10 @@ T.AbstractButton {
     required property int index
     required property string name
     required property url fileUrl
-    required property int fileState
+    required property bool isMissing
     required property bool isImage
     required property TaskSheet sheet
-    readonly property bool isMissing: root.fileState === TaskResourceListModel.State.missing
-    readonly property bool isFound: root.fileState === TaskResourceListModel.State.found
+    readonly property bool isFound: root.fileUrl.toString().length > 0
     readonly property bool hasPicture: root.isImage && root.isFound
 
     function open(): void {

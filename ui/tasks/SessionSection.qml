@@ -22,7 +22,7 @@ ColumnLayout {
 
     ThemedText {
         Layout.fillWidth: true
-        text: root.sessions.count > 0 ? qsTrId("task_sessions_total", root.sessions.count).arg(Localization.formats.duration(60 * root.sessions.totalMinutes)) : qsTrId("task_sessions_none")
+        text: root.sessions.count > 0 ? qsTrId("task_sessions_total", root.sessions.count).arg(Localization.formats.minutes(root.sessions.totalMinutes)) : qsTrId("task_sessions_none")
         color: root.sessions.count > 0 ? Theme.text : Theme.textFaint
         wrapMode: Text.WordWrap
     }
@@ -68,7 +68,7 @@ ColumnLayout {
             ThemedText {
                 id: length
 
-                text: Localization.formats.duration(60 * row.minutes)
+                text: Localization.formats.minutes(row.minutes)
                 font.pixelSize: Theme.caption
             }
 

@@ -19,7 +19,9 @@ ColumnLayout {
 
     function goTo(row: int): void {
         list.currentIndex = row;
-        list.forceActiveFocus(Qt.TabFocusReason);
+        // The list would give the keyboard back to the field that is going.
+        if (list.currentItem)
+            list.currentItem.forceActiveFocus(Qt.TabFocusReason);
     }
 
     spacing: Theme.gap2

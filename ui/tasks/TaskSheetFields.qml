@@ -105,7 +105,7 @@ Flickable {
                 objectName: "taskPlanned"
                 width: parent.width
                 sheet: root.sheet
-                field: TaskSheet.planned
+                field: "plannedDate"
                 name: qsTrId("task_planned_label")
                 dayText: root.sheet.plannedText
                 isLate: root.sheet.isPlannedLate
@@ -120,7 +120,7 @@ Flickable {
                 objectName: "taskDue"
                 width: parent.width
                 sheet: root.sheet
-                field: TaskSheet.due
+                field: "dueDate"
                 name: qsTrId("task_due_label")
                 dayText: root.sheet.dueText
                 isLate: root.sheet.isOverdue

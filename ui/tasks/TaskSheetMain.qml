@@ -21,9 +21,12 @@ FocusScope {
 
     function commit(): void {
         pause.stop();
-        if (root.hasTitle)
-            root.sheet.title = title.text;
-        root.sheet.taskDescription = description.text;
+        // Setting one of them has the other shown as it is.
+        const words = title.text;
+        const notes = description.text;
+        if (words.trim().length > 0)
+            root.sheet.title = words;
+        root.sheet.taskDescription = notes;
     }
 
     function follow(): void {

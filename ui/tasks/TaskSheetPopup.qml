@@ -35,7 +35,7 @@ Item {
         visible: true
         padding: 0
         implicitWidth: 920
-        implicitHeight: Math.min(parent ? parent.height - 2 * Theme.gap6 : 760, root.sheet.isNew ? 560 : 760)
+        implicitHeight: Math.min(parent ? parent.height - 2 * Theme.gap6 : 760, root.sheet.isNew ? 640 : 760)
         closePolicy: T.Popup.NoAutoClose
 
         onOpened: main.focusTitle()
@@ -49,13 +49,14 @@ Item {
             focus: true
 
             Keys.onEscapePressed: root.leave()
-            Keys.onPressed: event => {
-                event.accepted = root.sheet.isNew && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter) && (event.modifiers & Qt.ControlModifier);
-                if (event.accepted)
-                    root.acceptNew();
-            }
             Accessible.role: Accessible.Dialog
             Accessible.name: root.sheet.isNew ? qsTrId("task_new_title") : qsTrId("task_detail_title")
+
+            Shortcut {
+                sequences: ["Ctrl+Return", "Ctrl+Enter"]
+                enabled: root.sheet.isNew
+                onActivated: root.acceptNew()
+            }
 
             ColumnLayout {
                 anchors.fill: parent
