@@ -111,8 +111,7 @@ NorvinFocusApp::NorvinFocusApp(LinuxPlatform& platform, std::unique_ptr<ModelCon
     , m_deepWorkScreen(m_timerService, AppUsageService::shared(), MotionService::shared(),
                        m_sharedModelContainer->mainContext())
     , m_planning(m_sharedModelContainer->mainContext(), m_timerService, m_soundService, platform.clock())
-    , m_planningExchange(m_sharedModelContainer->mainContext(), *m_planning.edits(), platform.clock())
-    , m_planningCommands(m_deepWorkScreen, m_sharedModelContainer->mainContext(), m_planningExchange,
+    , m_planningCommands(m_deepWorkScreen, m_sharedModelContainer->mainContext(), *m_planning.exchange(),
                          platform.clock())
     , m_blockLists(platform.applications(), platform.workspace(), AppBlockerService::shared(),
                    platform.preferences())

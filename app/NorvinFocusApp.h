@@ -12,7 +12,6 @@
 #include "focus/TimerInterruptions.h"
 #include "model/ModelContainer.h"
 #include "planning/PlanningScreens.h"
-#include "planning/exchange/PlanningExchange.h"
 #include "sound/SoundService.h"
 #include "sound/TickSoundService.h"
 #include "sound/TickSoundSettings.h"
@@ -83,7 +82,6 @@ private:
     AICoachService m_coachService;
     DeepWorkScreen m_deepWorkScreen;
     PlanningScreens m_planning;
-    PlanningExchange m_planningExchange;
     PlanningCommands m_planningCommands;
     BlockListsScreen m_blockLists;
     Availability m_busAvailability;

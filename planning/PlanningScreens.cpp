@@ -13,7 +13,8 @@ PlanningScreens::PlanningScreens(ModelContext& context, PomodoroTimerService& ti
     , m_projectSheet(context, m_edits, clock)
     , m_projects(context, m_edits, m_projectSheet)
     , m_board(context, m_edits, m_notifications, m_projectSheet, clock)
-    , m_taskSheet(context, m_edits, m_notifications, clock) {
+    , m_taskSheet(context, m_edits, m_notifications, clock)
+    , m_exchange(context, m_edits, clock) {
     connect(&m_projects, &AllProjectsView::projectOpened, &m_board, &KanbanBoardView::setProject);
     connect(&m_board, &KanbanBoardView::showAddTaskChanged, this, [this] {
         if (!m_board.showAddTask())
@@ -41,6 +42,7 @@ void PlanningScreens::retranslate(const QLocale& locale) {
     m_board.setLocale(locale);
     m_board.retranslate();
     m_taskSheet.setLocale(locale);
+    m_exchange.retranslate();
 }
 
 void PlanningScreens::showTask(const QString& taskId) {

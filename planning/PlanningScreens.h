@@ -7,6 +7,7 @@
 #include "planning/PlanningNotifications.h"
 #include "planning/ProjectSheet.h"
 #include "planning/TaskSheet.h"
+#include "planning/exchange/PlanningExchange.h"
 
 #include <QObject>
 
@@ -21,6 +22,9 @@ class PlanningScreens final : public QObject {
     Q_PROPERTY(norvin::ProjectSheet* projectSheet READ projectSheet CONSTANT)
     Q_PROPERTY(norvin::TaskSheet* taskSheet READ taskSheet CONSTANT)
     Q_PROPERTY(norvin::PlanningEdits* edits READ edits CONSTANT)
+    Q_PROPERTY(norvin::PlanningExchange* exchange READ exchange CONSTANT)
+    /// Where to look for files first.
+    Q_PROPERTY(QUrl fileFolder READ fileFolder CONSTANT)
 public:
     /// Everything must outlive this.
     PlanningScreens(ModelContext& context, PomodoroTimerService& timer, SoundService& sounds, Clock& clock,
@@ -33,6 +37,8 @@ public:
     [[nodiscard]] ProjectSheet* projectSheet() { return &m_projectSheet; }
     [[nodiscard]] TaskSheet* taskSheet() { return &m_taskSheet; }
     [[nodiscard]] PlanningEdits* edits() { return &m_edits; }
+    [[nodiscard]] PlanningExchange* exchange() { return &m_exchange; }
+    [[nodiscard]] QUrl fileFolder() const { return m_taskSheet.fileFolder(); }
     [[nodiscard]] PlanningNotifications& notifications() { return m_notifications; }
 
     /// Looks at the clock again, which may have jumped.
@@ -51,6 +57,7 @@ private:
     AllProjectsView m_projects;
     KanbanBoardView m_board;
     TaskSheet m_taskSheet;
+    PlanningExchange m_exchange;
 };
 
 } // namespace norvin

@@ -85,7 +85,11 @@ struct UiRig {
     /// Keeps what the window shows as <name>.png in the folder that NORVIN_PICTURES names, if it names one.
     void keepPicture(const QString& name) const {
         const QString folder = qEnvironmentVariable("NORVIN_PICTURES");
-        if (!folder.isEmpty())
+        if (folder.isEmpty())
+            return;
+        QSignalSpy drawn(window(), &QQuickWindow::frameSwapped);
+        window()->update();
+        if (drawn.wait())
             window()->grabWindow().save(folder + u'/' + name + QStringLiteral(".png"));
     }
 

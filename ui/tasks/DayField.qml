@@ -62,6 +62,8 @@ FocusScope {
     Deferred {
         id: choices
 
+        width: parent.width
+
         DayChoices {
             sheet: root.sheet
             field: root.field

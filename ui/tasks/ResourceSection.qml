@@ -4,11 +4,13 @@ import QtQuick
 import QtQuick.Layouts
 import NorvinFocus.Ui
 
-/// The files attached to the task. More come by the button, or dropped here from a file manager.
+/// The files attached to the task. More come by the button, or dropped on the sheet from a file manager.
 ColumnLayout {
     id: root
 
     required property TaskSheet sheet
+    /// Whether files are being dragged over the sheet.
+    required property bool isDropTarget
 
     function chooseFiles(): void {
         if (!files.item)
@@ -63,31 +65,18 @@ ColumnLayout {
         Layout.fillWidth: true
         implicitHeight: 56
         radius: Theme.radius
-        color: drop.containsDrag ? Theme.accentSurface : "transparent"
+        color: root.isDropTarget ? Theme.accentSurface : "transparent"
         border.width: 1
-        border.color: drop.containsDrag ? Theme.accentText : Theme.outline
+        border.color: root.isDropTarget ? Theme.accentText : Theme.outline
 
         ThemedText {
             anchors.fill: parent
             anchors.margins: Theme.gap3
-            text: drop.containsDrag ? qsTrId("resources_drop_now") : qsTrId("resources_drop_here")
-            color: drop.containsDrag ? Theme.text : Theme.textMuted
+            text: root.isDropTarget ? qsTrId("resources_drop_now") : qsTrId("resources_drop_here")
+            color: root.isDropTarget ? Theme.text : Theme.textMuted
             horizontalAlignment: Text.AlignHCenter
             verticalAlignment: Text.AlignVCenter
             wrapMode: Text.WordWrap
-        }
-
-        DropArea {
-            id: drop
-
-            objectName: "resourceDrop"
-            anchors.fill: parent
-            keys: ["text/uri-list"]
-            onDropped: event => {
-                root.sheet.attach(event.urls);
-                // The file stays where it is: only where it lies is noted.
-                event.accept(Qt.CopyAction);
-            }
         }
     }
 }

@@ -137,7 +137,22 @@ FocusScope {
                 Layout.fillWidth: true
                 visible: !root.sheet.isNew
                 sheet: root.sheet
+                isDropTarget: drop.containsDrag
             }
+        }
+    }
+
+    DropArea {
+        id: drop
+
+        objectName: "resourceDrop"
+        anchors.fill: parent
+        enabled: !root.sheet.isNew
+        keys: ["text/uri-list"]
+        onDropped: event => {
+            root.sheet.attach(event.urls);
+            // The file stays where it is: only where it lies is noted.
+            event.accept(Qt.CopyAction);
         }
     }
 }

@@ -27,6 +27,13 @@ struct PlanningEditsType {
     QML_UNCREATABLE("Belongs to the planning screens")
 };
 
+struct PlanningExchangeType {
+    Q_GADGET
+    QML_FOREIGN(norvin::PlanningExchange)
+    QML_NAMED_ELEMENT(PlanningExchange)
+    QML_UNCREATABLE("Belongs to the planning screens")
+};
+
 struct TaskSheetType {
     Q_GADGET
     QML_FOREIGN(norvin::TaskSheet)
