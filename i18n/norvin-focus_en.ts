@@ -1755,6 +1755,10 @@
         <source></source>
         <translation>Quit and lose the session?</translation>
     </message>
+    <message id="quoted_format">
+        <source></source>
+        <translation>“%1”</translation>
+    </message>
     <message id="rearming_button">
         <source></source>
         <translation>Re-arm</translation>

@@ -1755,6 +1755,10 @@
         <source></source>
         <translation>Quitter et perdre la session ?</translation>
     </message>
+    <message id="quoted_format">
+        <source></source>
+        <translation>« %1 »</translation>
+    </message>
     <message id="rearming_button">
         <source></source>
         <translation>Se réarmer</translation>

@@ -25,7 +25,6 @@ ListView {
     activeFocusOnTab: root.count > 0
     boundsBehavior: Flickable.StopAtBounds
     highlightMoveDuration: 0
-    reuseItems: true
     model: root.tasks
     Accessible.role: Accessible.List
     Accessible.name: qsTrId("daily_objectives")
@@ -40,6 +39,8 @@ ListView {
     }
 
     Keys.onPressed: event => {
+        // The row that the last key took away must not be the one that this key is for.
+        root.forceLayout();
         const row = root.currentIndex;
         event.accepted = row >= 0;
         if (row < 0)
@@ -61,7 +62,7 @@ ListView {
     delegate: AgendaTaskCard {
         id: card
 
-        width: root.width - Theme.gap3
+        width: root.width - (root.contentHeight > root.height ? Theme.gap3 : 0)
         onOpened: {
             root.currentIndex = card.index;
             root.forceActiveFocus(Qt.MouseFocusReason);

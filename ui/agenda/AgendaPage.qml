@@ -10,9 +10,18 @@ Page {
 
     required property DailyAgendaView model
     readonly property bool isEmpty: root.model.list.count === 0
+    /// What opened the popup that is open.
+    property Item opener: null
 
     function focusStart(): void {
         quickField.forceActiveFocus(Qt.TabFocusReason);
+    }
+
+    function takeKeyboardBack(): void {
+        if (root.opener?.visible)
+            root.opener.forceActiveFocus(Qt.PopupFocusReason);
+        else
+            root.focusStart();
     }
 
     heading: qsTrId("daily_agenda")
@@ -34,12 +43,17 @@ Page {
 
     headingContent: [
         PushButton {
+            id: lateButton
+
             objectName: "lateTasksButton"
             visible: root.model.overdueCount > 0
             symbol: "calendar.badge.exclamationmark"
             symbolColor: Theme.amber
             text: qsTrId("late_tasks", root.model.overdueCount)
-            onClicked: root.model.showLateTasks = true
+            onClicked: {
+                root.opener = lateButton;
+                root.model.showLateTasks = true;
+            }
         },
         PushButton {
             objectName: "goToToday"
@@ -57,7 +71,10 @@ Page {
             objectName: "calendarButton"
             symbol: "calendar"
             text: qsTrId("calendar_open")
-            onClicked: root.model.showCalendar = true
+            onClicked: {
+                root.opener = calendarButton;
+                root.model.showCalendar = true;
+            }
 
             Deferred {
                 width: calendarButton.width
@@ -67,12 +84,13 @@ Page {
                 CalendarPopup {
                     height: calendarButton.height
                     calendar: root.model.calendar
-                    onLeft: root.model.showCalendar = false
+                    onClosed: root.model.showCalendar = false
                 }
             }
         },
         PushButton {
             objectName: "planButton"
+            visible: !root.isEmpty
             symbol: "plus.circle"
             text: qsTrId("add_to_my_agenda")
             onClicked: root.model.plan("")
@@ -149,6 +167,29 @@ Page {
         onPlanningAsked: tab => root.model.plan(tab)
     }
 
+    Connections {
+        function onShowCalendarChanged(): void {
+            if (!root.model.showCalendar)
+                root.takeKeyboardBack();
+        }
+
+        function onShowLateTasksChanged(): void {
+            if (!root.model.showLateTasks)
+                root.takeKeyboardBack();
+        }
+
+        target: root.model
+    }
+
+    Connections {
+        function onTaskToUnscheduleChanged(): void {
+            if (!root.model.list.asksToUnschedule)
+                list.forceActiveFocus(Qt.PopupFocusReason);
+        }
+
+        target: root.model.list
+    }
+
     Deferred {
         visible: false
         active: root.model.list.asksToUnschedule
@@ -156,11 +197,12 @@ Page {
         QuestionDialog {
             visible: true
             title: qsTrId("confirm_unschedule_task_title")
-            message: "“" + root.model.list.titleToUnschedule + "”\n" + qsTrId("confirm_unschedule_task_message")
+            message: qsTrId("quoted_format").arg(root.model.list.titleToUnschedule) + "\n" + qsTrId("confirm_unschedule_task_message")
             acceptText: qsTrId("unschedule_button")
             rejectText: qsTrId("cancel_button")
             onAccepted: root.model.list.confirmUnschedule()
-            onClosed: root.model.list.cancelUnschedule()
+            // Only when the answer, which comes after this, has been heard.
+            onClosed: Qt.callLater(root.model.list.cancelUnschedule)
         }
     }
 

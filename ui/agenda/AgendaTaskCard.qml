@@ -115,8 +115,6 @@ Item {
                         symbol: "folder"
                         text: root.projectName
                         symbolColor: root.projectColor.length > 0 ? root.projectColor : Theme.textFaint
-                        canShrink: true
-                        Layout.maximumWidth: 260
                     }
 
                     RowFact {

@@ -13,7 +13,16 @@ Item {
     required property AgendaCalendarPopover calendar
     property string title: ""
 
-    signal left
+    signal closed
+
+    Connections {
+        target: root.calendar
+
+        // Closing gives the keyboard back, which being thrown away does not.
+        function onChosen(): void {
+            popup.close();
+        }
+    }
 
     T.Popup {
         id: popup
@@ -23,6 +32,8 @@ Item {
         x: root.title.length > 0 ? Math.round((parent.width - width) / 2) : root.width - width
         y: root.title.length > 0 ? Math.round((parent.height - height) / 2) : root.height + Theme.gap1
         margins: Theme.gap3
+        implicitWidth: content.implicitWidth + leftPadding + rightPadding
+        implicitHeight: content.implicitHeight + topPadding + bottomPadding
         padding: Theme.gap4
         modal: true
         dim: root.title.length > 0
@@ -31,13 +42,16 @@ Item {
         closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
 
         onOpened: month.forceActiveFocus(Qt.TabFocusReason)
-        onClosed: root.left()
+        // Only when whoever asked has heard of the day.
+        onClosed: Qt.callLater(root.closed)
 
         T.Overlay.modal: Rectangle {
             color: popup.dim ? Theme.shade : "transparent"
         }
 
         ColumnLayout {
+            id: content
+
             spacing: Theme.gap3
 
             ThemedText {

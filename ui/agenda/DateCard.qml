@@ -27,7 +27,7 @@ T.AbstractButton {
     Accessible.checked: root.isSelected
 
     contentItem: Column {
-        topPadding: Theme.gap2
+        topPadding: 10
         spacing: 0
 
         ThemedText {

@@ -18,7 +18,7 @@ ListView {
     objectName: "dateStrip"
     orientation: ListView.Horizontal
     implicitHeight: 80
-    clip: false
+    clip: true
     spacing: 12
     activeFocusOnTab: true
     keyNavigationEnabled: false
@@ -55,7 +55,7 @@ ListView {
 
         FocusRing {
             shown: root.activeFocus && (card.isSelected || (root.selectedRow < 0 && card.index === 0))
-            distance: 2
+            distance: -2
             innerRadius: Theme.radius
         }
     }

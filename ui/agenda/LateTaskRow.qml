@@ -93,11 +93,9 @@ Item {
                     }
 
                     RowFact {
-                        Layout.maximumWidth: 240
                         symbol: "folder"
                         text: root.projectName
                         symbolColor: root.projectColor.length > 0 ? root.projectColor : Theme.textFaint
-                        canShrink: true
                     }
 
                     Item {

@@ -82,7 +82,6 @@ T.Popup {
             activeFocusOnTab: true
             boundsBehavior: Flickable.StopAtBounds
             highlightMoveDuration: 0
-            reuseItems: true
             model: root.tasks
             Accessible.role: Accessible.List
             Accessible.name: qsTrId("late_tasks_title")
@@ -97,6 +96,7 @@ T.Popup {
             }
 
             Keys.onPressed: event => {
+                list.forceLayout();
                 event.accepted = list.currentIndex >= 0;
                 if (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)
                     root.tasks.openAt(list.currentIndex);
@@ -109,7 +109,7 @@ T.Popup {
             delegate: LateTaskRow {
                 id: row
 
-                width: list.width - Theme.gap3
+                width: list.width - (list.contentHeight > list.height ? Theme.gap3 : 0)
                 onOpened: {
                     list.currentIndex = row.index;
                     list.forceActiveFocus(Qt.MouseFocusReason);
@@ -139,7 +139,7 @@ T.Popup {
         CalendarPopup {
             calendar: root.tasks.calendar
             title: qsTrId("plan_for_day_title").arg(root.tasks.titleToPlan)
-            onLeft: root.tasks?.cancelDay()
+            onClosed: root.tasks?.cancelDay()
         }
     }
 

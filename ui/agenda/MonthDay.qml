@@ -27,7 +27,7 @@ T.AbstractButton {
     contentItem: Item {
         ThemedText {
             anchors.horizontalCenter: parent.horizontalCenter
-            y: root.taskCount > 0 ? 7 : Math.round((parent.height - height) / 2)
+            y: 8
             text: String(root.day)
             color: root.ink
             font.weight: root.isToday || root.isSelected ? Font.Bold : Font.Normal
@@ -54,7 +54,7 @@ T.AbstractButton {
 
         ThemedText {
             anchors.horizontalCenter: parent.horizontalCenter
-            y: 24
+            y: 25
             visible: root.taskCount > 3
             text: String(root.taskCount)
             color: root.isSelected ? Theme.accentInk : Theme.accentText

@@ -113,7 +113,7 @@ FocusScope {
             delegate: PickRow {
                 id: row
 
-                width: rows.width - Theme.gap3
+                width: rows.width - (rows.contentHeight > rows.height ? Theme.gap3 : 0)
                 onToggled: {
                     rows.currentIndex = row.index;
                     rows.forceActiveFocus(Qt.MouseFocusReason);

@@ -61,16 +61,23 @@ Item {
                 Accessible.ignored: true
             }
 
-            RowFact {
-                Layout.maximumWidth: 180
-                symbol: "folder"
-                text: root.projectName
-                symbolColor: root.projectColor.length > 0 ? root.projectColor : Theme.textFaint
-                canShrink: true
+            Item {
+                Layout.preferredWidth: 150
+                implicitHeight: fact.implicitHeight
+
+                RowFact {
+                    id: fact
+
+                    symbol: "folder"
+                    text: root.projectName
+                    symbolColor: root.projectColor.length > 0 ? root.projectColor : Theme.textFaint
+                    maximumTextWidth: 150 - 14 - Theme.gap1
+                }
             }
 
             ThemedText {
-                Layout.maximumWidth: 260
+                Layout.preferredWidth: 212
+                horizontalAlignment: Text.AlignRight
                 text: root.when
                 color: root.isLate ? Theme.amber : Theme.textMuted
                 font.pixelSize: Theme.caption

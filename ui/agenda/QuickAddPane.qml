@@ -150,7 +150,7 @@ FocusScope {
                         CalendarPopup {
                             height: day.height
                             calendar: root.entry.calendar
-                            onLeft: root.entry.showCalendar = false
+                            onClosed: root.entry.showCalendar = false
                         }
                     }
                 }

@@ -12,7 +12,8 @@ RowLayout {
     required property string text
     property color symbolColor: Theme.textFaint
     property color color: Theme.textMuted
-    property bool canShrink: false
+    /// Longer texts are cut.
+    property int maximumTextWidth: 240
 
     visible: root.text.length > 0
     spacing: Theme.gap1
@@ -24,7 +25,7 @@ RowLayout {
     }
 
     ThemedText {
-        Layout.fillWidth: root.canShrink
+        Layout.maximumWidth: root.maximumTextWidth
         text: root.text
         color: root.color
         font.pixelSize: Theme.caption
