@@ -25,7 +25,8 @@ Item {
     readonly property bool isCurrent: root.ListView.isCurrentItem && root.ListView.view.activeFocus
     readonly property bool isReached: hover.hovered || root.isCurrent
     readonly property bool showsDetail: root.isTask && (root.projectName.length > 0 || root.subtaskCount > 0)
-    readonly property bool isTyping: root.queue.subtaskRow === root.index
+    // A row that is being taken away has the index −1, which also stands for no row.
+    readonly property bool isTyping: root.index >= 0 && root.queue.subtaskRow === root.index
 
     function detail(): string {
         const steps = root.subtaskCount > 0 ? qsTrId("subtasks_done").arg(root.completedSubtaskCount).arg(root.subtaskCount) : "";
