@@ -99,7 +99,8 @@ void AgendaViewTest::aDayIsFilledAndEmptiedByKeyboard() {
     rig->press(Qt::Key_Menu);
     QTRY_VERIFY(
         rig->window()->findChild<QObject*>(QStringLiteral("agendaMenu"))->property("opened").toBool());
-    rig->press(Qt::Key_Up);
+    for (int presses = 0; presses < 3; ++presses)
+        rig->press(Qt::Key_Down);
     rig->press(Qt::Key_Return);
     QTRY_VERIFY(rig->window()->activeFocusItem()->property("text").toString() == qtTrId("cancel_button"));
     rig->press(Qt::Key_Tab);
