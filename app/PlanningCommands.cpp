@@ -129,15 +129,17 @@ PlanningCommands::Outcome<QString> PlanningCommands::finish(const QString& id) {
     TaskItem* const task = std::get<TaskItem*>(found);
     if (task->isDone())
         return PlanningError{"refused_task_already_done", {task->title()}};
-    // In the queue it counts for the session that runs.
+    // In the queue, the session goes on to the next one.
     const TaskQueueModel& queue = *m_screen.queue();
     int row = 0;
     while (row < queue.rowCount() && queue.taskAt(row) != task)
         ++row;
     if (row < queue.rowCount())
         m_screen.toggleDone(row);
-    else
+    else {
         task->setStatus(TaskStatus::done);
+        m_screen.timer().recordTaskCompletion(task->parentTask() != nullptr);
+    }
     static_cast<void>(m_context.save());
     return task->title();
 }

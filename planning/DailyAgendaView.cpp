@@ -1,5 +1,6 @@
 #include "planning/DailyAgendaView.h"
 
+#include "focus/PomodoroTimerService.h"
 #include "model/ModelContext.h"
 #include "planning/CalendarDays.h"
 #include "planning/PlanningNotifications.h"
@@ -58,6 +59,7 @@ void DailyAgendaView::rebuildList() {
         m_list.release()->deleteLater();
     }
     m_list = std::make_unique<FilteredTaskList>(m_selectedDate, m_with, m_locale);
+    m_list->setIsShown(m_isShown);
     Q_EMIT listChanged();
 }
 
@@ -138,6 +140,7 @@ void DailyAgendaView::setIsShown(bool shown) {
     if (shown)
         refresh();
     m_isShown = shown;
+    m_list->setIsShown(shown);
     Q_EMIT isShownChanged();
 }
 
@@ -165,11 +168,30 @@ void DailyAgendaView::plan(const QString& tab) {
 void DailyAgendaView::scheduleCount() {
     if (std::exchange(m_isCountScheduled, true))
         return;
-    QMetaObject::invokeMethod(this, &DailyAgendaView::countOverdue, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, &DailyAgendaView::followTasks, Qt::QueuedConnection);
+}
+
+void DailyAgendaView::followTasks() {
+    m_isCountScheduled = false;
+    countOverdue();
+    queueToday();
+}
+
+void DailyAgendaView::queueToday() {
+    const AgendaDay day = dayOf(m_with.clock.now());
+    std::vector<TaskItem*> standing = m_with.context.fetchTasks(
+        [&day](const TaskItem& task) { return isOnAgendaDay(task, day.start, day.end); },
+        [](const TaskItem& a, const TaskItem& b) { return a.priorityValue() > b.priorityValue(); });
+    const QSet<TaskId> before = std::exchange(m_onAgendaToday, {});
+    for (const TaskItem* task : standing)
+        m_onAgendaToday.insert(task->id());
+    for (TaskItem* task : standing) {
+        if (!before.contains(task->id()))
+            m_with.timer.addTaskToQueue(task);
+    }
 }
 
 void DailyAgendaView::countOverdue() {
-    m_isCountScheduled = false;
     const int count = countLateTasks(m_with.context, Instant(startOfDay(m_with.clock.now())));
     if (count == m_overdueCount)
         return;
@@ -202,7 +224,7 @@ void DailyAgendaView::refresh() {
         m_calendar->refresh();
     if (m_planningSheet)
         m_planningSheet->refresh();
-    countOverdue();
+    followTasks();
     Q_EMIT selectedDateChanged();
 }
 

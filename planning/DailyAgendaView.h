@@ -9,6 +9,7 @@
 #include <QLocale>
 #include <QObject>
 #include <QPointer>
+#include <QSet>
 #include <QString>
 
 #include <memory>
@@ -17,8 +18,11 @@ namespace norvin {
 
 class ClockTimer;
 
-/// What the daily agenda shows and does. Lives as long as the window, so that the timer's queue follows the
-/// plan for today whether or not the page was opened. Main thread only.
+/// What the daily agenda shows and does. Main thread only.
+///
+/// Lives as long as the window: what comes to stand on today's agenda is queued for the timer whether or not
+/// the page is seen. Only a page that is seen takes tasks out of the queue, so that one which was ticked off
+/// on the Deep Work screen stays there to be looked at.
 ///
 /// A page that nobody sees goes on to the new day at midnight; one that is seen stays on the day that it
 /// shows, and only its strip of days moves on.
@@ -105,7 +109,9 @@ private:
     void handleNotification(const QString& name, TaskItem* task);
     void rebuildList();
     void scheduleCount();
+    void followTasks();
     void countOverdue();
+    void queueToday();
     void waitForMidnight();
 
     AgendaCollaborators m_with;
@@ -122,6 +128,8 @@ private:
     /// The task that the sheet is to be opened for.
     QPointer<TaskItem> m_taskToPlan;
     PlanningTab m_planningTabToOpen = PlanningTab::quickAdd;
+    /// Those on today's agenda when it was last looked at.
+    QSet<TaskId> m_onAgendaToday;
     int m_overdueCount = 0;
     bool m_isCountScheduled = false;
     bool m_showPlanningSheet = false;

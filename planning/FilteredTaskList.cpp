@@ -54,7 +54,6 @@ FilteredTaskList::FilteredTaskList(const QDateTime& selectedDate, const AgendaCo
         if (task == m_taskToUnschedule)
             cancelUnschedule();
     });
-    scheduleSync();
 }
 
 FilteredTaskList::~FilteredTaskList() = default;
@@ -137,7 +136,7 @@ void FilteredTaskList::completeAt(int row) {
 }
 
 void FilteredTaskList::scheduleSync() {
-    if (std::exchange(m_isSyncScheduled, true))
+    if (!m_isShown || std::exchange(m_isSyncScheduled, true))
         return;
     // Not within the change: whoever makes it may be about to change the queue, too.
     QMetaObject::invokeMethod(

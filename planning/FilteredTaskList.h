@@ -27,8 +27,8 @@ struct AgendaCollaborators {
 /// date those due on it. The highest priority comes first, tasks of the same in store order. Made anew for
 /// each day. Main thread only.
 ///
-/// While its day is today, the timer's queue follows the list: once after the list was made, and each time
-/// tasks come or go, at the end of the event-loop turn.
+/// While its day is today and somebody sees it, the timer's queue follows the list: each time tasks come or
+/// go, at the end of the event-loop turn.
 class FilteredTaskList final : public AgendaRowsModel {
     Q_OBJECT
     /// What is being typed as a new task.
@@ -46,6 +46,8 @@ public:
 
     [[nodiscard]] const QDateTime& selectedDate() const { return m_selectedDate; }
     [[nodiscard]] QList<TaskItem*> filteredTasks() const;
+    /// Whether somebody can see the list. Not at first.
+    void setIsShown(bool shown) { m_isShown = shown; }
     [[nodiscard]] const QString& quickTaskTitle() const { return m_quickTaskTitle; }
     void setQuickTaskTitle(const QString& title);
     /// Null while none waits for confirmation.
@@ -85,6 +87,7 @@ private:
     QString m_quickTaskTitle;
     QPointer<TaskItem> m_taskToUnschedule;
     bool m_isSyncScheduled = false;
+    bool m_isShown = false;
 };
 
 } // namespace norvin

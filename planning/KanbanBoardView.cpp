@@ -22,9 +22,9 @@ KanbanBoardView::KanbanBoardView(ModelContext& context, PlanningEdits& edits,
     , m_notifications(notifications)
     , m_projectSheet(projectSheet)
     , m_clock(clock)
-    , m_toDo(TaskStatus::todo, clock)
-    , m_inProgress(TaskStatus::inProgress, clock)
-    , m_done(TaskStatus::done, clock)
+    , m_toDo(TaskStatus::todo, edits, clock)
+    , m_inProgress(TaskStatus::inProgress, edits, clock)
+    , m_done(TaskStatus::done, edits, clock)
     , m_phases(context)
     , m_phaseSheet(context, edits, clock) {
     followStore();

@@ -2,6 +2,7 @@
 
 #include "model/Project.h"
 #include "model/ProjectPhase.h"
+#include "planning/PlanningEdits.h"
 #include "planning/PlanningTexts.h"
 #include "platform/Clock.h"
 
@@ -11,9 +12,11 @@
 
 namespace norvin {
 
-KanbanColumnView::KanbanColumnView(TaskStatus status, const Clock& clock, QObject* parent)
+KanbanColumnView::KanbanColumnView(TaskStatus status, PlanningEdits& edits, const Clock& clock,
+                                   QObject* parent)
     : EntityListModel(parent)
     , m_status(status)
+    , m_edits(edits)
     , m_clock(clock) {}
 
 KanbanColumnView::~KanbanColumnView() = default;
@@ -79,7 +82,7 @@ bool KanbanColumnView::drop(const QStringList& payload) {
     TaskItem* const task = taskToDrop(payload);
     if (task == nullptr)
         return false;
-    task->setStatus(m_status);
+    m_edits.setStatus(*task, m_status);
     return true;
 }
 

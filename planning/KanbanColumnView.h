@@ -11,10 +11,11 @@
 namespace norvin {
 
 class Clock;
+class PlanningEdits;
 class Project;
 
 /// One column of a project's board: its tasks of one status, in store order. Main thread only.
-class KanbanColumnView final : public EntityListModel {
+class KanbanColumnView final : public norvin::EntityListModel {
     Q_OBJECT
     /// In the user's language.
     Q_PROPERTY(QString title READ title NOTIFY titleChanged)
@@ -38,8 +39,8 @@ public:
     };
     Q_ENUM(Role)
 
-    /// @param clock must outlive this
-    KanbanColumnView(TaskStatus status, const Clock& clock, QObject* parent = nullptr);
+    /// edits and clock must outlive this.
+    KanbanColumnView(TaskStatus status, PlanningEdits& edits, const Clock& clock, QObject* parent = nullptr);
     ~KanbanColumnView() override;
 
     [[nodiscard]] QString title() const;
@@ -82,6 +83,7 @@ private:
     [[nodiscard]] TaskItem* taskToDrop(const QStringList& payload) const;
 
     TaskStatus m_status;
+    PlanningEdits& m_edits;
     const Clock& m_clock;
     QLocale m_locale;
     Project* m_project = nullptr;
