@@ -1390,6 +1390,14 @@
         <source></source>
         <translation>Day</translation>
     </message>
+    <message id="planning_export_button">
+        <source></source>
+        <translation>Export projects and tasks</translation>
+    </message>
+    <message id="planning_export_title">
+        <source></source>
+        <translation>Export projects and tasks</translation>
+    </message>
     <message id="planning_exported_format">
         <source></source>
         <translation>Exported to %2: %1.</translation>
@@ -1522,6 +1530,26 @@
         <source></source>
         <translation>Version “%1” of the file is not known here; perhaps a newer program wrote it.</translation>
     </message>
+    <message id="planning_filter_all">
+        <source></source>
+        <translation>Everything that can be read</translation>
+    </message>
+    <message id="planning_filter_calendar">
+        <source></source>
+        <translation>iCalendar</translation>
+    </message>
+    <message id="planning_filter_json">
+        <source></source>
+        <translation>All of planning</translation>
+    </message>
+    <message id="planning_filter_todo">
+        <source></source>
+        <translation>Todo.txt</translation>
+    </message>
+    <message id="planning_import_button">
+        <source></source>
+        <translation>Import projects and tasks</translation>
+    </message>
     <message id="planning_import_ignored" numerus="yes">
         <source></source>
         <translation>
@@ -1532,6 +1560,10 @@
     <message id="planning_import_there_format">
         <source></source>
         <translation>Already here, and left as it is: %1.</translation>
+    </message>
+    <message id="planning_import_title">
+        <source></source>
+        <translation>Import projects and tasks</translation>
     </message>
     <message id="planning_imported_format">
         <source></source>

@@ -1390,6 +1390,14 @@
         <source></source>
         <translation>Jour</translation>
     </message>
+    <message id="planning_export_button">
+        <source></source>
+        <translation>Exporter projets et tâches</translation>
+    </message>
+    <message id="planning_export_title">
+        <source></source>
+        <translation>Exporter projets et tâches</translation>
+    </message>
     <message id="planning_exported_format">
         <source></source>
         <translation>Exporté vers %2 : %1.</translation>
@@ -1522,6 +1530,26 @@
         <source></source>
         <translation>La version « %1 » du fichier n’est pas connue ici ; un programme plus récent l’a peut-être écrit.</translation>
     </message>
+    <message id="planning_filter_all">
+        <source></source>
+        <translation>Tout ce qui peut être lu</translation>
+    </message>
+    <message id="planning_filter_calendar">
+        <source></source>
+        <translation>iCalendar</translation>
+    </message>
+    <message id="planning_filter_json">
+        <source></source>
+        <translation>Toute la planification</translation>
+    </message>
+    <message id="planning_filter_todo">
+        <source></source>
+        <translation>Todo.txt</translation>
+    </message>
+    <message id="planning_import_button">
+        <source></source>
+        <translation>Importer projets et tâches</translation>
+    </message>
     <message id="planning_import_ignored" numerus="yes">
         <source></source>
         <translation>
@@ -1532,6 +1560,10 @@
     <message id="planning_import_there_format">
         <source></source>
         <translation>Déjà présent et laissé tel quel : %1.</translation>
+    </message>
+    <message id="planning_import_title">
+        <source></source>
+        <translation>Importer projets et tâches</translation>
     </message>
     <message id="planning_imported_format">
         <source></source>

@@ -8,7 +8,8 @@ import NorvinFocus.Ui
 Page {
     id: root
 
-    required property AllProjectsView model
+    required property PlanningScreens planning
+    readonly property AllProjectsView model: root.planning.projects
     readonly property bool isEmpty: root.model.projects.total === 0
     readonly property bool showsTiles: root.model.projects.count > 0
 
@@ -46,13 +47,30 @@ Page {
         }
     }
 
-    headingContent: PushButton {
-        objectName: "newProjectButton"
-        kind: PushButton.Kind.Primary
-        visible: !root.isEmpty
-        symbol: "plus"
-        text: qsTrId("project_new_button")
-        onClicked: root.model.createProject()
+    headingContent: [
+        ExchangeButtons {
+            planning: root.planning
+        },
+        PushButton {
+            objectName: "newProjectButton"
+            kind: PushButton.Kind.Primary
+            visible: !root.isEmpty
+            symbol: "plus"
+            text: qsTrId("project_new_button")
+            onClicked: root.model.createProject()
+        }
+    ]
+
+    Banner {
+        objectName: "exchangeNotice"
+        Layout.fillWidth: true
+        visible: root.planning.exchange.noticeText.length > 0
+        text: root.planning.exchange.noticeText
+        symbol: root.planning.exchange.isNoticeProblem ? "exclamationmark.triangle" : "checkmark"
+        foreground: root.planning.exchange.isNoticeProblem ? Theme.amber : Theme.legitimate
+        color: root.planning.exchange.isNoticeProblem ? Theme.amberSurface : Theme.legitimateSurface
+        isDismissible: true
+        onDismissed: root.planning.exchange.dismissNotice()
     }
 
     RowLayout {

@@ -8,12 +8,14 @@ Page {
     id: root
 
     required property PlanningScreens model
+    property bool isComplete: false
     readonly property bool showsBoard: root.model.board.hasProject
 
     heading: qsTrId("projects_title")
     introduction: ""
     showsHeading: false
 
+    Component.onCompleted: root.isComplete = true
     onEntered: {
         if (root.showsBoard)
             (board.item as Page).enter();
@@ -31,14 +33,14 @@ Page {
 
             anchors.fill: parent
             visible: !root.showsBoard
-            model: root.model.projects
+            planning: root.model
         },
         LazyPage {
             id: board
 
             anchors.fill: parent
             visible: root.showsBoard
-            wanted: root.showsBoard
+            wanted: root.isComplete && root.showsBoard
             file: "../kanban/KanbanPage.qml"
             model: root.model.board
         }
