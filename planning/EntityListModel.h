@@ -10,6 +10,8 @@ namespace norvin {
 
 /// Rows of planning entities that a screen shows. Whoever fills it hands over the whole list each time; the
 /// model tells its views the difference, row by row. Main thread only.
+///
+/// Derived classes name it with its namespace: the QML tools know it only so.
 class EntityListModel : public QAbstractListModel {
     Q_OBJECT
     Q_PROPERTY(int count READ count NOTIFY countChanged)

@@ -16,7 +16,6 @@ ManagePhasesSheet::ManagePhasesSheet(ModelContext& context, PlanningEdits& edits
     , m_edits(edits)
     , m_clock(clock)
     , m_phases(context) {
-    connect(&m_edits, &PlanningEdits::undoChanged, this, &ManagePhasesSheet::undoChanged);
     connect(&m_context, &ModelContext::phaseAboutToBeRemoved, this, [this](const ProjectPhase* phase) {
         if (phase->id().toString() == m_editingPhaseId)
             cancelEdit();
@@ -132,10 +131,6 @@ void ManagePhasesSheet::saveEdit(const QString& phaseId) {
     }
     cancelEdit();
     m_phases.settle();
-}
-
-QString ManagePhasesSheet::undoText() const {
-    return m_edits.undoText();
 }
 
 void ManagePhasesSheet::undo() {

@@ -22,8 +22,6 @@ class ManagePhasesSheet final : public QObject {
     /// Text of the id of the phase that is being renamed; empty for none.
     Q_PROPERTY(QString editingPhaseId READ editingPhaseId NOTIFY editingChanged)
     Q_PROPERTY(QString editingName READ editingName WRITE setEditingName NOTIFY editingChanged)
-    /// What undo() would take back, in the user's language; empty for nothing.
-    Q_PROPERTY(QString undoText READ undoText NOTIFY undoChanged)
 public:
     /// Everything must outlive this.
     ManagePhasesSheet(ModelContext& context, PlanningEdits& edits, Clock& clock, QObject* parent = nullptr);
@@ -39,7 +37,6 @@ public:
     [[nodiscard]] const QString& editingPhaseId() const { return m_editingPhaseId; }
     [[nodiscard]] const QString& editingName() const { return m_editingName; }
     void setEditingName(const QString& name);
-    [[nodiscard]] QString undoText() const;
 
     /// Adds a phase named newPhaseName, trimmed, with the number of phases as its place, and clears the name;
     /// a blank one adds nothing.
@@ -57,12 +54,12 @@ public:
     Q_INVOKABLE void cancelEdit();
     /// Names the phase editingName, trimmed, and ends the renaming; a blank name leaves it its own.
     Q_INVOKABLE void saveEdit(const QString& phaseId);
+    /// Takes the last edit of planning back, if it still can be.
     Q_INVOKABLE void undo();
 
 Q_SIGNALS:
     void newPhaseNameChanged();
     void editingChanged();
-    void undoChanged();
 
 private:
     [[nodiscard]] QList<ProjectPhase*> phasesAt(const QList<int>& rows) const;

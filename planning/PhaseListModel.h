@@ -10,7 +10,7 @@ class ProjectPhase;
 
 /// The phases of a project by orderIndex, those with the same one in store order, kept up to date at the end
 /// of each event-loop turn. Main thread only.
-class PhaseListModel final : public EntityListModel {
+class PhaseListModel final : public norvin::EntityListModel {
     Q_OBJECT
 public:
     enum Role {

@@ -18,7 +18,7 @@ class TaskItem;
 /// The projects whose name or description contains what is looked for, with what their tasks come to. Tasks
 /// are counted without their subtasks. What changes in the store is counted at the end of the event-loop
 /// turn, and only in the projects that it touches. Empty before the first load(). Main thread only.
-class ProjectListModel final : public EntityListModel {
+class ProjectListModel final : public norvin::EntityListModel {
     Q_OBJECT
     /// Projects there are, whatever is looked for.
     Q_PROPERTY(int total READ total NOTIFY totalChanged)

@@ -117,7 +117,6 @@ void ManagePhasesSheetTest::tasksOfADeletedPhaseStay() {
     QCOMPARE(listed(), QStringLiteral("2C"));
     QCOMPARE(task->project(), project);
     QCOMPARE(task->phase(), nullptr);
-    QVERIFY(!sheet->undoText().isEmpty());
     sheet->undo();
     QCOMPARE(listed(), QStringLiteral("0A 1B 2C"));
     QCOMPARE(task->phase()->name(), QStringLiteral("B"));

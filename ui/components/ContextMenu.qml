@@ -8,12 +8,21 @@ import NorvinFocus.Ui
 T.Menu {
     id: root
 
-    implicitWidth: 248
+    /// What was chosen last.
+    property string choice: ""
+
+    /// The menu has closed; the choice is empty where it was left without one. The keyboard can go where it should.
+    signal finished(string choice)
+
+    implicitWidth: 280
     implicitHeight: contentHeight + topPadding + bottomPadding
     padding: Theme.gap1
     margins: Theme.gap2
     modal: true
     dim: false
+
+    onAboutToShow: root.choice = ""
+    onClosed: root.finished(root.choice)
 
     contentItem: ListView {
         implicitHeight: contentHeight

@@ -10,13 +10,17 @@ T.MenuItem {
     id: root
 
     property string symbol: ""
+    /// What the menu calls it when it is chosen; empty where whoever makes it hears that itself.
+    property string choice: ""
     /// It takes something away.
     property bool isDangerous: false
 
-    implicitWidth: 240
+    implicitWidth: 272
     implicitHeight: visible ? Theme.controlHeightSmall + 4 : 0
     hoverEnabled: true
     Accessible.name: root.text
+
+    onTriggered: (root.menu as ContextMenu).choice = root.choice
 
     contentItem: RowLayout {
         spacing: Theme.gap3

@@ -35,10 +35,6 @@ FocusScope {
         cursorShape: Qt.IBeamCursor
     }
 
-    TapHandler {
-        onTapped: area.forceActiveFocus(Qt.MouseFocusReason)
-    }
-
     Flickable {
         id: flick
 

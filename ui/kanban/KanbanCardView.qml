@@ -43,22 +43,26 @@ Item {
     }
 
     function priorityColor(): color {
-        return root.priorityValue === 2 ? Theme.dangerText : root.priorityValue === 1 ? Theme.amber : Theme.textMuted;
+        return root.priorityValue === 2 ? Theme.amber : root.priorityValue === 1 ? Theme.textMuted : Theme.textFaint;
+    }
+
+    function spokenDay(day: string, late: bool): string {
+        return late ? qsTrId("card_late_name").arg(day) : day;
     }
 
     function spokenName(): string {
-        const parts = [root.title];
+        let name = root.title;
         if (root.priorityName().length > 0)
-            parts.push(qsTrId("card_priority_name").arg(root.priorityName()));
+            name += ", " + qsTrId("card_priority_name").arg(root.priorityName());
         if (root.dueText.length > 0)
-            parts.push(root.isOverdue ? qsTrId("card_late_name").arg(qsTrId("card_due_name").arg(root.dueText)) : qsTrId("card_due_name").arg(root.dueText));
+            name += ", " + root.spokenDay(qsTrId("card_due_name").arg(root.dueText), root.isOverdue);
         if (root.plannedText.length > 0)
-            parts.push(root.isPlannedLate ? qsTrId("card_late_name").arg(qsTrId("card_planned_name").arg(root.plannedText)) : qsTrId("card_planned_name").arg(root.plannedText));
+            name += ", " + root.spokenDay(qsTrId("card_planned_name").arg(root.plannedText), root.isPlannedLate);
         if (root.subtaskCount > 0)
-            parts.push(qsTrId("subtasks_done").arg(root.completedSubtaskCount).arg(root.subtaskCount));
+            name += ", " + qsTrId("subtasks_done").arg(root.completedSubtaskCount).arg(root.subtaskCount);
         if (root.resourceCount > 0)
-            parts.push(qsTrId("count_files", root.resourceCount));
-        return parts.join(", ");
+            name += ", " + qsTrId("count_files", root.resourceCount);
+        return name;
     }
 
     implicitHeight: body.height
@@ -87,7 +91,8 @@ Item {
             spacing: Theme.gap2
 
             ThemedText {
-                width: parent.width - (root.isReached ? Theme.gap6 : 0)
+                // The button beside it comes and goes; the words stay where they are.
+                width: parent.width - Theme.gap6
                 text: root.title
                 color: root.isDone ? Theme.textMuted : Theme.text
                 font.strikeout: root.isDone

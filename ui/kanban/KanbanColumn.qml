@@ -26,6 +26,9 @@ Rectangle {
         field.active = true;
     }
 
+    Layout.fillWidth: true
+    Layout.fillHeight: true
+    Layout.preferredWidth: 1
     radius: Theme.radiusLarge
     color: root.column.isDropTargeted ? Theme.accentSurface : Theme.surface
     border.width: root.column.isDropTargeted ? 2 : 0

@@ -10,6 +10,11 @@ RowLayout {
 
     required property KanbanBoardView board
 
+    /// The keyboard goes back to where the sheet of phases was asked for.
+    function takeKeyboard(): void {
+        phases.forceActiveFocus(Qt.PopupFocusReason);
+    }
+
     spacing: Theme.gap3
 
     IconButton {
@@ -49,6 +54,8 @@ RowLayout {
     }
 
     PushButton {
+        id: phases
+
         objectName: "boardPhases"
         symbol: "rectangle.split.3x1"
         text: qsTrId("phases_label")

@@ -11,9 +11,17 @@ Page {
     required property KanbanBoardView model
     property int lastPlace: 0
 
+    function columnAt(place: int): KanbanColumn {
+        if (place === 0)
+            return toDo;
+        if (place === 1)
+            return inProgress;
+        return done;
+    }
+
     function goTo(place: int, row: int): void {
         root.lastPlace = place;
-        (columns.itemAt(place) as KanbanColumn).goTo(row);
+        root.columnAt(place).goTo(row);
     }
 
     heading: root.model.projectName
@@ -53,7 +61,18 @@ Page {
         }
     }
 
+    Connections {
+        target: root.model
+
+        function onShowManagePhasesChanged(): void {
+            if (!root.model.showManagePhases)
+                header.takeKeyboard();
+        }
+    }
+
     KanbanHeader {
+        id: header
+
         Layout.fillWidth: true
         board: root.model
     }
@@ -71,21 +90,28 @@ Page {
         Layout.bottomMargin: Theme.gap6
         spacing: Theme.gap4
 
-        Repeater {
-            id: columns
+        KanbanColumn {
+            id: toDo
 
-            model: 3
+            board: state
+            column: root.model.toDo
+            place: 0
+        }
 
-            KanbanColumn {
-                required property int index
+        KanbanColumn {
+            id: inProgress
 
-                Layout.fillWidth: true
-                Layout.fillHeight: true
-                Layout.preferredWidth: 1
-                board: state
-                column: state.columnAt(index)
-                place: index
-            }
+            board: state
+            column: root.model.inProgress
+            place: 1
+        }
+
+        KanbanColumn {
+            id: done
+
+            board: state
+            column: root.model.done
+            place: 2
         }
     }
 
@@ -98,10 +124,15 @@ Page {
         visible: false
 
         CardMenu {
+            id: cardMenu
+
             board: state
             taskId: menu.taskId
             place: menu.place
-            onClosed: (columns.itemAt(root.lastPlace) as KanbanColumn).takeKeyboard()
+            onFinished: choice => {
+                root.columnAt(root.lastPlace).takeKeyboard();
+                cardMenu.act(choice);
+            }
         }
     }
 
@@ -122,7 +153,7 @@ Page {
             onAccepted: root.model.deleteTask(question.taskId)
             onClosed: {
                 question.active = false;
-                (columns.itemAt(root.lastPlace) as KanbanColumn).takeKeyboard();
+                root.columnAt(root.lastPlace).takeKeyboard();
             }
         }
     }

@@ -25,7 +25,11 @@ QtObject {
 
     /// From the left, counted from 0.
     function columnAt(place: int): KanbanColumnView {
-        return place === 0 ? root.board.toDo : place === 1 ? root.board.inProgress : root.board.done;
+        if (place === 0)
+            return root.board.toDo;
+        if (place === 1)
+            return root.board.inProgress;
+        return root.board.done;
     }
 
     /// Moves a card to a column, as dropping it there does, and the keyboard with it.

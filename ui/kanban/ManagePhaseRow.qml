@@ -42,9 +42,10 @@ Item {
             id: hover
         }
 
-        TapHandler {
-            onTapped: root.pressed(root.index)
-            onDoubleTapped: root.sheet.beginEdit(root.phaseId)
+        MouseArea {
+            anchors.fill: parent
+            onPressed: root.pressed(root.index)
+            onDoubleClicked: root.sheet.beginEdit(root.phaseId)
         }
 
         RowLayout {
@@ -97,7 +98,7 @@ Item {
                     }
                     // Going elsewhere keeps what was typed.
                     onActiveFocusChanged: {
-                        if (!field.activeFocus && root.isEditing)
+                        if (!field.activeFocus && root.sheet.editingPhaseId === root.phaseId)
                             root.sheet.saveEdit(root.phaseId);
                     }
                 }

@@ -13,6 +13,7 @@ T.Popup {
     readonly property ManagePhasesSheet sheet: root.board.phaseSheet
 
     function leave(): void {
+        root.close();
         root.board.showManagePhases = false;
     }
 
@@ -98,35 +99,12 @@ T.Popup {
                 message: qsTrId("manage_phases_empty_subtitle")
             }
 
-            RowLayout {
-                spacing: Theme.gap3
-
-                ThemedText {
-                    Layout.fillWidth: true
-                    text: root.sheet.undoText
-                    color: Theme.textMuted
-                    elide: Text.ElideRight
-                    Accessible.role: Accessible.AlertMessage
-                    Accessible.name: text
-                }
-
-                PushButton {
-                    objectName: "phasesUndo"
-                    visible: root.sheet.undoText.length > 0
-                    implicitHeight: Theme.controlHeightLarge
-                    text: qsTrId("undo_button")
-                    onClicked: {
-                        entry.takeKeyboard();
-                        root.sheet.undo();
-                    }
-                }
-
-                PushButton {
-                    objectName: "phasesDone"
-                    kind: PushButton.Kind.Primary
-                    text: qsTrId("sheet_done_button")
-                    onClicked: root.leave()
-                }
+            PushButton {
+                objectName: "phasesDone"
+                Layout.alignment: Qt.AlignRight
+                kind: PushButton.Kind.Primary
+                text: qsTrId("sheet_done_button")
+                onClicked: root.leave()
             }
         }
     }

@@ -14,7 +14,7 @@ T.AbstractButton {
 
     leftPadding: Theme.gap3
     rightPadding: Theme.gap3
-    implicitWidth: Math.min(row.implicitWidth, 260) + 2 * Theme.gap3
+    implicitWidth: Math.min(Math.ceil(implicitContentWidth), 260) + 2 * Theme.gap3
     implicitHeight: Theme.controlHeightSmall
     hoverEnabled: true
     focusPolicy: Qt.NoFocus
@@ -22,31 +22,23 @@ T.AbstractButton {
     Accessible.name: qsTrId("board_column_name").arg(root.text).arg(qsTrId("tasks_count_format", root.taskCount))
     Accessible.selected: root.isChosen
 
-    contentItem: Item {
-        RowLayout {
-            id: row
+    contentItem: RowLayout {
+        spacing: Theme.gap2
 
-            anchors.centerIn: parent
-            width: Math.min(implicitWidth, parent.width)
-            spacing: Theme.gap2
+        ThemedText {
+            Layout.fillWidth: true
+            text: root.text
+            color: root.isChosen ? Theme.accentInk : root.hovered ? Theme.text : Theme.textMuted
+            font.weight: root.isChosen ? Font.DemiBold : Font.Normal
+            elide: Text.ElideRight
+            Accessible.ignored: true
+        }
 
-            ThemedText {
-                id: title
-
-                Layout.fillWidth: true
-                text: root.text
-                color: root.isChosen ? Theme.accentInk : root.hovered ? Theme.text : Theme.textMuted
-                font.weight: root.isChosen ? Font.DemiBold : Font.Normal
-                elide: Text.ElideRight
-                Accessible.ignored: true
-            }
-
-            ThemedText {
-                text: String(root.taskCount)
-                color: root.isChosen ? Theme.accentInk : Theme.textFaint
-                font.pixelSize: Theme.caption
-                Accessible.ignored: true
-            }
+        ThemedText {
+            text: String(root.taskCount)
+            color: root.isChosen ? Theme.accentInk : Theme.textFaint
+            font.pixelSize: Theme.caption
+            Accessible.ignored: true
         }
     }
 

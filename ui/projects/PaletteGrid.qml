@@ -99,8 +99,9 @@ FocusScope {
                     id: hover
                 }
 
-                TapHandler {
-                    onTapped: {
+                MouseArea {
+                    anchors.fill: parent
+                    onPressed: {
                         root.forceActiveFocus(Qt.MouseFocusReason);
                         root.choose(cell.index);
                     }

@@ -43,17 +43,18 @@ Item {
             id: hover
         }
 
-        TapHandler {
-            onPressedChanged: {
-                if (pressed)
-                    root.pressed(root.index);
+        MouseArea {
+            anchors.fill: parent
+            acceptedButtons: Qt.LeftButton | Qt.RightButton
+            onPressed: mouse => {
+                root.pressed(root.index);
+                if (mouse.button === Qt.RightButton)
+                    root.menuAsked(root.index, mouse.x + body.x, mouse.y + body.y);
             }
-            onTapped: root.opened(root.projectId)
-        }
-
-        TapHandler {
-            acceptedButtons: Qt.RightButton
-            onTapped: point => root.menuAsked(root.index, point.position.x + body.x, point.position.y + body.y)
+            onClicked: mouse => {
+                if (mouse.button === Qt.LeftButton)
+                    root.opened(root.projectId);
+            }
         }
 
         ColumnLayout {

@@ -85,25 +85,33 @@ GridView {
 
         ContextMenu {
             objectName: "projectMenu"
-            onClosed: root.forceActiveFocus(Qt.PopupFocusReason)
+            onFinished: choice => {
+                root.forceActiveFocus(Qt.PopupFocusReason);
+                if (choice === "open")
+                    root.screen.openProject(root.menuProjectId);
+                else if (choice === "edit")
+                    root.screen.editProject(root.menuProjectId);
+                else if (choice === "delete")
+                    root.deletionAsked(root.menuProjectId, root.menuProjectName);
+            }
 
             ContextMenuItem {
+                choice: "open"
                 symbol: "rectangle.split.3x1"
                 text: qsTrId("project_open_button")
-                onTriggered: root.screen.openProject(root.menuProjectId)
             }
 
             ContextMenuItem {
+                choice: "edit"
                 symbol: "pencil"
                 text: qsTrId("edit_project")
-                onTriggered: root.screen.editProject(root.menuProjectId)
             }
 
             ContextMenuItem {
+                choice: "delete"
                 symbol: "trash"
                 isDangerous: true
                 text: qsTrId("project_delete_button")
-                onTriggered: root.deletionAsked(root.menuProjectId, root.menuProjectName)
             }
         }
     }

@@ -13,16 +13,24 @@ Loader {
     /// What is shown.
     required property QtObject model
 
+    /// Whether it has the keyboard while it is there, and gives it back.
+    property bool takesKeyboard: true
+    /// What had the keyboard before the sheet.
+    property Item asker: null
+
     function follow(): void {
         if (root.wanted) {
+            root.asker = root.Window.activeFocusItem;
             root.setSource(root.file, {
                 model: root.model
             });
-        } else {
-            // Closing gives the keyboard back to where it came from.
-            (root.item as T.Popup)?.close();
-            root.setSource("");
+            return;
         }
+        (root.item as T.Popup)?.close();
+        root.setSource("");
+        if (root.takesKeyboard && root.asker?.visible)
+            root.asker.forceActiveFocus(Qt.PopupFocusReason);
+        root.asker = null;
     }
 
     onWantedChanged: root.follow()

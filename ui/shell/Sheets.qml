@@ -30,6 +30,7 @@ Item {
     LazySheet {
         wanted: root.planning.edits.undoText.length > 0
         file: "UndoBar.qml"
+        takesKeyboard: false
         model: root.planning.edits
     }
 }
