@@ -173,10 +173,6 @@
         <source></source>
         <translation>%1, %2</translation>
     </message>
-    <message id="board_new_task_button">
-        <source></source>
-        <translation>Add a task</translation>
-    </message>
     <message id="board_new_task_name">
         <source></source>
         <translation>New task, %1</translation>

@@ -173,10 +173,6 @@
         <source></source>
         <translation>%1, %2</translation>
     </message>
-    <message id="board_new_task_button">
-        <source></source>
-        <translation>Ajouter une tâche</translation>
-    </message>
     <message id="board_new_task_name">
         <source></source>
         <translation>Nouvelle tâche, %1</translation>
