@@ -67,7 +67,7 @@ void AgendaRowsModel::refreshRows(const QLocale& locale) {
     Q_EMIT textsChanged();
 }
 
-void AgendaRowsModel::openAt(int row) {
+void AgendaRowsModel::openRow(int row) {
     if (TaskItem* task = taskAt(row))
         m_notifications.post(PlanningNotifications::showTaskDetail, task);
 }

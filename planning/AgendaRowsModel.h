@@ -15,7 +15,6 @@ class Project;
 /// What the lists of the agenda show of their tasks, over a live list of them. Main thread only.
 class AgendaRowsModel : public QIdentityProxyModel {
     Q_OBJECT
-    Q_PROPERTY(int count READ count NOTIFY countChanged)
 public:
     /// Beside those of LiveTaskList.
     enum Role {
@@ -39,9 +38,6 @@ public:
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
-    /// Opens the detail sheet of a row's task.
-    Q_INVOKABLE void openAt(int row);
-
     /// Reads all rows again: the day, or the language, is another one.
     void refreshRows(const QLocale& locale);
 
@@ -51,6 +47,8 @@ Q_SIGNALS:
     void textsChanged();
 
 protected:
+    /// Opens the detail sheet of a row's task.
+    void openRow(int row);
     AgendaRowsModel(ModelContext& context, Clock& clock, PlanningNotifications& notifications,
                     const QLocale& locale, LiveTaskList::Predicate accept, LiveTaskList::Order order,
                     QObject* parent);

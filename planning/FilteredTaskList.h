@@ -31,6 +31,7 @@ struct AgendaCollaborators {
 /// go, at the end of the event-loop turn.
 class FilteredTaskList final : public AgendaRowsModel {
     Q_OBJECT
+    Q_PROPERTY(int count READ count NOTIFY countChanged)
     /// What is being typed as a new task.
     Q_PROPERTY(
         QString quickTaskTitle READ quickTaskTitle WRITE setQuickTaskTitle NOTIFY quickTaskTitleChanged)
@@ -57,6 +58,8 @@ public:
 
     /// Makes a task of quickTaskTitle on this day; a title of white space makes none and stays.
     Q_INVOKABLE void createQuickTaskWithoutProject();
+    /// Opens the detail sheet of a row's task.
+    Q_INVOKABLE void openAt(int row) { openRow(row); }
     /// Asks for confirmation; nothing else.
     void requestUnschedule(TaskItem* task);
     Q_INVOKABLE void requestUnscheduleAt(int row) { requestUnschedule(taskAt(row)); }

@@ -22,6 +22,8 @@ public:
                  const QLocale& locale, QObject* parent = nullptr);
     ~LateTaskList() override;
 
+    /// Opens the detail sheet of a row's task.
+    Q_INVOKABLE void openAt(int row) { openRow(row); }
     /// Plans the task of a row for today, or for another day. It stays in the list while its due date is
     /// over.
     Q_INVOKABLE void planForTodayAt(int row);

@@ -10,17 +10,13 @@ Page {
 
     required property DailyAgendaView model
     readonly property bool isEmpty: root.model.list.count === 0
-    /// What opened the popup that is open.
-    property Item opener: null
 
     function focusStart(): void {
         quickField.forceActiveFocus(Qt.TabFocusReason);
     }
 
     function takeKeyboardBack(): void {
-        if (root.opener?.visible)
-            root.opener.forceActiveFocus(Qt.PopupFocusReason);
-        else
+        if (!toolbar.takeKeyboardBack())
             root.focusStart();
     }
 
@@ -41,61 +37,16 @@ Page {
         value: root.visible && root.Window.visibility !== Window.Hidden && root.Window.visibility !== Window.Minimized
     }
 
-    headingContent: [
-        PushButton {
-            id: lateButton
+    headingContent: AgendaToolbar {
+        id: toolbar
 
-            objectName: "lateTasksButton"
-            visible: root.model.overdueCount > 0
-            symbol: "calendar.badge.exclamationmark"
-            symbolColor: Theme.amber
-            text: qsTrId("late_tasks", root.model.overdueCount)
-            onClicked: {
-                root.opener = lateButton;
-                root.model.showLateTasks = true;
-            }
-        },
-        PushButton {
-            objectName: "goToToday"
-            visible: !root.model.isToday
-            text: qsTrId("go_to_today_button")
-            onClicked: {
-                root.model.goToToday();
-                strip.positionViewAtBeginning();
-                strip.forceActiveFocus(Qt.TabFocusReason);
-            }
-        },
-        PushButton {
-            id: calendarButton
-
-            objectName: "calendarButton"
-            symbol: "calendar"
-            text: qsTrId("calendar_open")
-            onClicked: {
-                root.opener = calendarButton;
-                root.model.showCalendar = true;
-            }
-
-            Deferred {
-                width: calendarButton.width
-                height: calendarButton.height
-                active: root.model.showCalendar
-
-                CalendarPopup {
-                    height: calendarButton.height
-                    calendar: root.model.calendar
-                    onClosed: root.model.showCalendar = false
-                }
-            }
-        },
-        PushButton {
-            objectName: "planButton"
-            visible: !root.isEmpty
-            symbol: "plus.circle"
-            text: qsTrId("add_to_my_agenda")
-            onClicked: root.model.plan("")
+        model: root.model
+        onCalledOff: root.takeKeyboardBack()
+        onTodayChosen: {
+            strip.positionViewAtBeginning();
+            strip.forceActiveFocus(Qt.TabFocusReason);
         }
-    ]
+    }
 
     DateStrip {
         id: strip
@@ -167,27 +118,18 @@ Page {
         onPlanningAsked: tab => root.model.plan(tab)
     }
 
-    Connections {
-        function onShowCalendarChanged(): void {
-            if (!root.model.showCalendar)
-                root.takeKeyboardBack();
-        }
+    // Only when the answer, which comes after the question has closed, has been heard.
+    Timer {
+        id: afterAnswer
 
-        function onShowLateTasksChanged(): void {
-            if (!root.model.showLateTasks)
-                root.takeKeyboardBack();
-        }
-
-        target: root.model
-    }
-
-    Connections {
-        function onTaskToUnscheduleChanged(): void {
-            if (!root.model.list.asksToUnschedule)
+        interval: 0
+        onTriggered: {
+            root.model.list.cancelUnschedule();
+            if (root.isEmpty)
+                root.focusStart();
+            else
                 list.forceActiveFocus(Qt.PopupFocusReason);
         }
-
-        target: root.model.list
     }
 
     Deferred {
@@ -201,8 +143,7 @@ Page {
             acceptText: qsTrId("unschedule_button")
             rejectText: qsTrId("cancel_button")
             onAccepted: root.model.list.confirmUnschedule()
-            // Only when the answer, which comes after this, has been heard.
-            onClosed: Qt.callLater(root.model.list.cancelUnschedule)
+            onClosed: afterAnswer.start()
         }
     }
 

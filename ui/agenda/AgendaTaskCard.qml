@@ -27,14 +27,21 @@ Item {
     signal opened
     signal menuAsked(point place)
 
-    function facts(): string {
-        const facts = [root.isLate ? qsTrId("task_late_mark") : "", root.priorityLabel, root.projectName, root.dueText.length > 0 ? qsTrId("chip_due").arg(root.dueText) : "", root.plannedText.length > 0 ? qsTrId("chip_planned").arg(root.plannedText) : ""];
-        return facts.filter(fact => fact.length > 0).join(", ");
+    function withFact(text: string, fact: string): string {
+        return fact.length > 0 ? text + ", " + fact : text;
+    }
+
+    function spokenText(): string {
+        const row = qsTrId("agenda_row_name").arg(root.index + 1).arg(root.title);
+        const due = root.dueText.length > 0 ? qsTrId("chip_due").arg(root.dueText) : "";
+        const planned = root.plannedText.length > 0 ? qsTrId("chip_planned").arg(root.plannedText) : "";
+        const late = root.isLate ? qsTrId("task_late_mark") : "";
+        return root.withFact(root.withFact(root.withFact(root.withFact(root.withFact(row, late), root.priorityLabel), root.projectName), due), planned);
     }
 
     implicitHeight: Math.max(64, words.implicitHeight + 2 * Theme.gap3)
     Accessible.role: Accessible.ListItem
-    Accessible.name: qsTrId("agenda_row_name").arg(root.index + 1).arg(root.title) + ", " + root.facts()
+    Accessible.name: root.spokenText()
 
     Rectangle {
         anchors.fill: parent

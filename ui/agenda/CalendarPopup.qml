@@ -24,11 +24,25 @@ Item {
         }
     }
 
+    // Only when whoever asked has heard of the day.
+    Timer {
+        id: afterChoice
+
+        interval: 0
+        onTriggered: root.closed()
+    }
+
     T.Popup {
         id: popup
 
+        function host(): Item {
+            if (root.title.length > 0)
+                return T.Overlay.overlay;
+            return root;
+        }
+
         objectName: "calendarPopup"
-        parent: root.title.length > 0 ? T.Overlay.overlay : root
+        parent: popup.host()
         x: root.title.length > 0 ? Math.round((parent.width - width) / 2) : root.width - width
         y: root.title.length > 0 ? Math.round((parent.height - height) / 2) : root.height + Theme.gap1
         margins: Theme.gap3
@@ -42,8 +56,7 @@ Item {
         closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
 
         onOpened: month.forceActiveFocus(Qt.TabFocusReason)
-        // Only when whoever asked has heard of the day.
-        onClosed: Qt.callLater(root.closed)
+        onClosed: afterChoice.start()
 
         T.Overlay.modal: Rectangle {
             color: popup.dim ? Theme.shade : "transparent"

@@ -45,36 +45,6 @@ T.AbstractButton {
     Keys.onEnterPressed: root.clicked()
     Keys.onDeletePressed: root.clicked()
 
-    contentItem: Item {
-        RowLayout {
-            id: row
-
-            anchors.centerIn: parent
-            spacing: Theme.gap2
-
-            Symbol {
-                name: root.symbolName()
-                color: root.isUnknown ? Theme.amber : root.swatch.length > 0 ? root.swatch : Theme.accentText
-                size: 14
-            }
-
-            ThemedText {
-                Layout.maximumWidth: 300
-                text: root.label
-                color: root.isUnknown ? Theme.amber : Theme.text
-                elide: Text.ElideRight
-                Accessible.ignored: true
-            }
-
-            Symbol {
-                visible: !root.isUnknown
-                name: "xmark"
-                color: root.hovered ? Theme.text : Theme.textFaint
-                size: 12
-            }
-        }
-    }
-
     background: Rectangle {
         radius: height / 2
         color: root.isUnknown ? Theme.amberSurface : root.down ? Theme.surfacePressed : root.hovered ? Theme.surfaceHover : Theme.accentSurface
@@ -83,6 +53,34 @@ T.AbstractButton {
             shown: root.visualFocus
             innerRadius: parent.height / 2
             distance: 1
+        }
+    }
+
+    RowLayout {
+        id: row
+
+        anchors.centerIn: parent
+        spacing: Theme.gap2
+
+        Symbol {
+            name: root.symbolName()
+            color: root.isUnknown ? Theme.amber : root.swatch.length > 0 ? root.swatch : Theme.accentText
+            size: 14
+        }
+
+        ThemedText {
+            Layout.maximumWidth: 300
+            text: root.label
+            color: root.isUnknown ? Theme.amber : Theme.text
+            elide: Text.ElideRight
+            Accessible.ignored: true
+        }
+
+        Symbol {
+            visible: !root.isUnknown
+            name: "xmark"
+            color: root.hovered ? Theme.text : Theme.textFaint
+            size: 12
         }
     }
 }

@@ -24,14 +24,20 @@ Item {
     signal plannedForToday
     signal dayAsked
 
-    function facts(): string {
-        const facts = [root.parentTitle.length > 0 ? qsTrId("subtask_of").arg(root.parentTitle) : "", root.projectName, root.dueText.length > 0 ? qsTrId("chip_due").arg(root.dueText) : "", root.plannedText.length > 0 ? qsTrId("chip_planned").arg(root.plannedText) : ""];
-        return facts.filter(fact => fact.length > 0).join(", ");
+    function withFact(text: string, fact: string): string {
+        return fact.length > 0 ? text + ", " + fact : text;
+    }
+
+    function spokenText(): string {
+        const parent = root.parentTitle.length > 0 ? qsTrId("subtask_of").arg(root.parentTitle) : "";
+        const due = root.dueText.length > 0 ? qsTrId("chip_due").arg(root.dueText) : "";
+        const planned = root.plannedText.length > 0 ? qsTrId("chip_planned").arg(root.plannedText) : "";
+        return root.withFact(root.withFact(root.withFact(root.withFact(root.title, parent), root.projectName), due), planned);
     }
 
     implicitHeight: words.implicitHeight + 2 * Theme.gap2
     Accessible.role: Accessible.ListItem
-    Accessible.name: root.title + ", " + root.facts()
+    Accessible.name: root.spokenText()
 
     Rectangle {
         anchors.fill: parent

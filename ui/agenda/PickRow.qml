@@ -19,13 +19,13 @@ Item {
 
     signal toggled
 
-    function facts(): string {
-        return [root.title, root.projectName, root.when].filter(fact => fact.length > 0).join(", ");
+    function withFact(text: string, fact: string): string {
+        return fact.length > 0 ? text + ", " + fact : text;
     }
 
     implicitHeight: 44
     Accessible.role: Accessible.CheckBox
-    Accessible.name: root.facts()
+    Accessible.name: root.withFact(root.withFact(root.title, root.projectName), root.when)
     Accessible.checkable: true
     Accessible.checked: root.isTicked
 
