@@ -1753,7 +1753,7 @@
     </message>
     <message id="quick_add_hint">
         <source></source>
-        <translation>Rédiger le rapport !haute #Thèse @Brouillon demain avant le 12 décembre</translation>
+        <translation>!haute Rédiger le rapport #Thèse @Brouillon demain avant le 12 décembre</translation>
     </message>
     <message id="quick_add_name">
         <source></source>

@@ -25,6 +25,15 @@ const std::array<std::pair<TaskPriority, QString>, 3>& priorityNames() {
     return names;
 }
 
+QString whyUnknown(const TaskEntry::Unknown& unknown, bool hasProject) {
+    if (unknown.isAmbiguous)
+        return qtTrId("chip_ambiguous").arg(unknown.name);
+    if (unknown.field == TaskEntryField::project)
+        return qtTrId("chip_unknown_project").arg(unknown.name);
+    return hasProject ? qtTrId("chip_unknown_phase").arg(unknown.name)
+                      : qtTrId("chip_phase_without_project").arg(unknown.name);
+}
+
 } // namespace
 
 QuickAddEntry::QuickAddEntry(const AgendaCollaborators& collaborators, const QLocale& locale, QObject* parent)
@@ -246,14 +255,8 @@ void QuickAddEntry::fillChips() {
             {Kind::plannedDay, qtTrId("chip_planned").arg(dayInWords(plannedDay(), today, m_locale))});
     if (m_entry.dueDay.isValid())
         chips.append({Kind::dueDay, qtTrId("chip_due").arg(dayInWords(m_entry.dueDay, today, m_locale))});
-    for (const TaskEntry::Unknown& unknown : std::as_const(m_entry.unknown)) {
-        const bool isProject = unknown.field == TaskEntryField::project;
-        const char* key = unknown.isAmbiguous    ? "chip_ambiguous"
-                          : isProject            ? "chip_unknown_project"
-                          : project() != nullptr ? "chip_unknown_phase"
-                                                 : "chip_phase_without_project";
-        chips.append({Kind::unknown, qtTrId(key).arg(unknown.name)});
-    }
+    for (const TaskEntry::Unknown& unknown : std::as_const(m_entry.unknown))
+        chips.append({Kind::unknown, whyUnknown(unknown, project() != nullptr)});
     m_chips.set(chips);
 }
 
