@@ -81,12 +81,14 @@ private:
         QTRY_COMPARE(object->property("contentHeight").toDouble(), 36.0 * entries);
         rig->click(saying(text));
     }
-    /// How far the first row of a list is from its top.
-    [[nodiscard]] double firstRowOffset(const char* list) const {
+    /// Waits until the first row of a list has come to its top.
+    void waitForFirstRow(const char* list) const {
+        static_cast<void>(rig->window()->grabWindow()); // begins what moves the rows
         QQuickItem* view = visible(list);
         QQuickItem* row = nullptr;
         QMetaObject::invokeMethod(view, "itemAtIndex", Q_RETURN_ARG(QQuickItem*, row), Q_ARG(int, 0));
-        return row != nullptr ? row->mapToItem(view, QPointF()).y() : -1.0;
+        QVERIFY(row);
+        QTRY_COMPARE(row->mapToItem(view, QPointF()).y(), 0.0);
     }
     [[nodiscard]] QQuickItem* saying(const QString& text) const {
         for (QQuickItem* item : rig->visibleItems()) {
@@ -232,8 +234,8 @@ void ProjectsViewTest::aProjectIsEditedWithThePointer() {
     for (ProjectPhase* phase : thesis->phases())
         thesis->tasks().at(phase->orderIndex())->setPhase(phase);
     rig->click(visible("phaseRemove"));
-    QTRY_VERIFY(visible("removalNote"));
-    QTRY_COMPARE(firstRowOffset("phaseNames"), 0.0);
+    QVERIFY(!visible("removalNote")->property("text").toString().isEmpty());
+    waitForFirstRow("phaseNames");
     rig->keepPicture(QStringLiteral("project-edit"));
     const QStringList names = sheet().phaseNames();
     QCOMPARE(names.size(), 2);
@@ -291,8 +293,9 @@ void ProjectsViewTest::nothingIsCutInFrench() {
     QTRY_VERIFY(hasKeyboard("projectName"));
     projects().front()->tasks().front()->setPhase(projects().front()->phases().at(0));
     rig->click(visible("phaseRemove"));
-    QTRY_VERIFY(visible("removalNote"));
+    QVERIFY(!visible("removalNote")->property("text").toString().isEmpty());
     QCOMPARE(isCut(), QString());
+    waitForFirstRow("phaseNames");
     rig->keepPicture(QStringLiteral("project-edit-fr"));
     rig->window()->resize(2560, 1440);
     sheet().setPresented(false);

@@ -93,16 +93,17 @@ ColumnLayout {
         }
     }
 
+    // Keeps its place while it is empty, so that nothing moves under the pointer.
     ThemedText {
         objectName: "removalNote"
         Layout.fillWidth: true
-        visible: text.length > 0
         text: root.sheet.removalNote
         color: Theme.amber
         font.pixelSize: Theme.caption
         wrapMode: Text.WordWrap
         Accessible.role: Accessible.AlertMessage
         Accessible.name: text
+        Accessible.ignored: text.length === 0
     }
 
     RowLayout {
