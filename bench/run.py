@@ -5,6 +5,7 @@ meanwhile meets both. The store holds ten years of a heavy user. Nothing here pa
 
 import json
 import random
+import re
 import sqlite3
 import statistics
 import subprocess
@@ -177,14 +178,48 @@ def measure_browser(program, kind, identifier):
         pages.close()
 
 
-def measure_store(program):
+def measure_scrolling(program):
+    """Milliseconds of each frame drawn while a board of 500 cards a column is scrolled with the wheel."""
+    desktop = Desktop()
+    try:
+        desktop.environment["QT_LOGGING_RULES"] = "qt.scenegraph.time.renderloop=true"
+        app = Application(desktop, program)
+        app.write_preferences(tick_sound_enabled="false")
+        app.launch()
+        desktop.bring_to_front(app.windows()[0])
+        made = {"createdAt": "2026-01-01T00:00:00.000Z"}
+        project = {"id": str(uuid.uuid4()), "name": "Board", "projectDescription": "", "colorHex": "#7c3aed",
+                   "emoji": "📋", **made}
+        tasks = [{"id": str(uuid.uuid4()), "title": f"Task {i} of a long board", "taskDescription": "",
+                  "statusValue": ("To Do", "In Progress", "Done")[i % 3], "priorityValue": i % 3, "dueDate": None,
+                  "plannedDate": None, "project": project["id"], "phase": None, "parentTask": None, **made}
+                 for i in range(1500)]
+        file = desktop.path("board.json")
+        with open(file, "w", encoding="utf-8") as text:
+            json.dump({"format": "norvin-focus-planning", "version": 1, "projects": [project], "phases": [],
+                       "tasks": tasks, "resources": []}, text)
+        app.do("import", file)
+        desktop.run("xdotool", "key", "--delay", "500", "ctrl+3", "Return", "sleep", "2")
+        before = len(app.log())
+        desktop.run("xdotool", "mousemove", "500", "600")
+        for _ in range(120):
+            desktop.run("xdotool", "click", "5")
+            time.sleep(0.016)
+        return [int(length) for length in re.findall(r"rendered with .*? in (\d+)ms", app.log()[before:])]
+    finally:
+        desktop.close()
+
+
+def run_benchmarks(program):
     output = subprocess.run([program, "--benchmark_format=json", "--benchmark_repetitions=3",
                              "--benchmark_enable_random_interleaving=true"],
                             check=True, capture_output=True, text=True).stdout
     runs = {}
     for run in json.loads(output)["benchmarks"]:
         if run["run_type"] == "iteration":
-            runs.setdefault(run["name"].split("/")[0], []).append(run)
+            name, *arguments = run["name"].split("/")
+            size = [argument for argument in arguments if argument.isdigit()]
+            runs.setdefault("/".join([name, *size]) if program.endswith("planning") else name, []).append(run)
 
     def median(name, key):
         return statistics.median(run[key] for run in runs[name])
@@ -238,7 +273,7 @@ def main():
             rows.append((f"session, {kind.name} in front: CPU of the {what}, looked into / not",
                          f"{with_it[0] / max(without[0], 0.001):.2f}", f"{with_it[0]:.3f} / {without[0]:.3f} %", "–"))
 
-    median = measure_store(str(build / "bin" / "bench_store"))
+    median = run_benchmarks(str(build / "bin" / "bench_store"))
     for percentile, budget in (("p50_us", "0.5 ms more"), ("p99_us", "2 ms more")):
         save, sqlite, flush = (median(name, percentile)
                                for name in ("saveThroughContext", "saveThroughSqlite", "flushBare"))
@@ -250,6 +285,18 @@ def main():
     load, scan = median("loadPlanningGraph", "real_time"), median("scanPlanningRows", "real_time")
     rows.append(("load of 200 projects and 20,000 tasks / a bare scan of their rows", f"{load / scan:.2f}",
                  f"{load / 1e6:.1f} / {scan / 1e6:.1f} ms", "–"))
+
+    median = run_benchmarks(str(build / "bin" / "bench_planning"))
+    for name, what in (("openAgenda", "the planning screens made, today listed"), ("switchDay", "another day shown"),
+                       ("showMonth", "another month shown"), ("openBoard", "a board opened"),
+                       ("moveCard", "a card moved and saved"), ("typeInSearch", "a letter typed in the search for tasks"),
+                       ("searchProjects", "a letter typed in the search for projects")):
+        few, many = median(f"{name}/20", "real_time"), median(f"{name}/20000", "real_time")
+        rows.append((f"{what}, of 20,000 tasks in 200 projects / of 20 tasks", f"{many / few:.2f}",
+                     f"{many:.0f} / {few:.0f} µs", "–"))
+    frames = measure_scrolling(program)
+    rows.append(("scrolling a board of 500 cards a column: longest frame / 16 ms", f"{max(frames) / 16:.2f}",
+                 f"{max(frames)} ms, median {statistics.median(frames):.0f}, {len(frames)} frames", "1"))
 
     print("| what | measured | from | at most |\n| --- | --- | --- | --- |")
     for row in rows:
