@@ -594,7 +594,7 @@
     </message>
     <message id="default_phases_hint">
         <source></source>
-        <translation>Each becomes a tab of the board. Alt+↑↓ moves one.</translation>
+        <translation>The tabs of the board. Alt+↑↓ moves one.</translation>
     </message>
     <message id="default_phases_label">
         <source></source>

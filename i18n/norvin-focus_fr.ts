@@ -594,7 +594,7 @@
     </message>
     <message id="default_phases_hint">
         <source></source>
-        <translation>Chacune devient un onglet du tableau. Alt+↑↓ la déplace.</translation>
+        <translation>Les onglets du tableau. Alt+↑↓ en déplace un.</translation>
     </message>
     <message id="default_phases_label">
         <source></source>

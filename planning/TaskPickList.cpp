@@ -29,7 +29,8 @@ TaskPickList::TaskPickList(ModelContext& context, Clock& clock, const QLocale& l
     , m_locale(locale) {
     connect(&m_context, &ModelContext::taskInserted, this, &TaskPickList::scheduleLoad);
     connect(&m_context, &ModelContext::taskChanged, this, [this](const TaskItem* task) {
-        m_keys.remove(task);
+        if (m_isOpen)
+            m_changed.insert(task);
         scheduleLoad();
     });
     connect(&m_context, &ModelContext::taskAboutToBeRemoved, this, &TaskPickList::forget);
@@ -69,7 +70,7 @@ void TaskPickList::close() {
     m_all.clear();
     m_rows.clear();
     m_ticked.clear();
-    m_keys.clear();
+    m_changed.clear();
     m_projectKeys.clear();
     endResetModel();
     Q_EMIT countChanged();
@@ -98,10 +99,16 @@ void TaskPickList::load() {
     std::sort(places.begin(), places.end(), [](const Place& a, const Place& b) {
         return std::tie(a.group, a.date, a.inStore) < std::tie(b.group, b.date, b.inStore);
     });
+    QHash<const TaskItem*, QString> keys;
+    for (const Candidate& known : m_all) {
+        if (!known.key.isNull() && !m_changed.contains(known.task))
+            keys.insert(known.task, known.key);
+    }
+    m_changed.clear();
     m_all.clear();
     m_all.reserve(places.size());
     for (const Place& place : places)
-        m_all.push_back(place.task);
+        m_all.push_back({place.task, keys.value(place.task)});
     fillProjects();
     find();
 }
@@ -135,17 +142,16 @@ void TaskPickList::setProjectId(const QString& id) {
     find();
 }
 
-const QString& TaskPickList::keyOf(const TaskItem& task) {
-    QString& key = m_keys[&task];
-    if (key.isNull())
-        key = searchKey(task.title()) + QLatin1Char(' ');
-    return key;
+const QString& TaskPickList::keyOf(Candidate& candidate) {
+    if (candidate.key.isNull())
+        candidate.key = searchKey(candidate.task->title()) + QLatin1Char(' ');
+    return candidate.key;
 }
 
 void TaskPickList::warmUp() {
     const size_t end = std::min(m_warm + keysAtATime, m_all.size());
     while (m_warm < end)
-        static_cast<void>(keyOf(*m_all[m_warm++]));
+        static_cast<void>(keyOf(m_all[m_warm++]));
     if (m_warm >= m_all.size())
         m_warmUp.stop();
 }
@@ -161,23 +167,24 @@ void TaskPickList::setSearchText(const QString& text) {
 void TaskPickList::find() {
     const QStringList words = searchKey(m_searchText).split(QLatin1Char(' '), Qt::SkipEmptyParts);
     const Project* const project = m_project ? m_context.project(*m_project) : nullptr;
-    const auto isFound = [this, &words, project](const TaskItem& task) {
-        if (project != nullptr && task.project() != project)
+    const auto projectSays = [this](const Project* of, const QString& word) {
+        if (of == nullptr)
             return false;
-        return std::all_of(words.cbegin(), words.cend(), [this, &task](const QString& word) {
-            if (keyOf(task).contains(word))
-                return true;
-            if (task.project() == nullptr)
-                return false;
-            QString& key = m_projectKeys[task.project()];
-            if (key.isNull())
-                key = searchKey(task.project()->name()) + QLatin1Char(' ');
-            return key.contains(word);
-        });
+        QString& key = m_projectKeys[of];
+        if (key.isNull())
+            key = searchKey(of->name()) + QLatin1Char(' ');
+        return key.contains(word);
     };
-    Tasks found;
-    std::copy_if(m_all.cbegin(), m_all.cend(), std::back_inserter(found),
-                 [&isFound](const TaskItem* task) { return isFound(*task); });
+    std::vector<TaskItem*> found;
+    for (Candidate& candidate : m_all) {
+        const Project* const of = candidate.task->project();
+        if (project != nullptr && of != project)
+            continue;
+        if (std::all_of(words.cbegin(), words.cend(), [&](const QString& word) {
+                return keyOf(candidate).contains(word) || projectSays(of, word);
+            }))
+            found.push_back(candidate.task);
+    }
     if (found == m_rows) {
         if (count() > 0)
             Q_EMIT dataChanged(index(0), index(count() - 1));
@@ -190,7 +197,6 @@ void TaskPickList::find() {
 }
 
 void TaskPickList::forget(TaskItem* task) {
-    m_keys.remove(task);
     const auto row = std::find(m_rows.begin(), m_rows.end(), task);
     if (row != m_rows.end()) {
         const int number = static_cast<int>(std::distance(m_rows.begin(), row));
@@ -198,7 +204,8 @@ void TaskPickList::forget(TaskItem* task) {
         m_rows.erase(row);
         endRemoveRows();
     }
-    std::erase(m_all, task);
+    std::erase_if(m_all, [task](const Candidate& candidate) { return candidate.task == task; });
+    m_changed.remove(task);
     if (m_ticked.remove(task))
         Q_EMIT tickedCountChanged();
     scheduleLoad();
@@ -217,8 +224,10 @@ void TaskPickList::toggle(int row) {
 
 QList<TaskItem*> TaskPickList::tickedTasks() const {
     QList<TaskItem*> tasks;
-    std::copy_if(m_all.cbegin(), m_all.cend(), std::back_inserter(tasks),
-                 [this](TaskItem* task) { return m_ticked.contains(task); });
+    for (const Candidate& candidate : m_all) {
+        if (m_ticked.contains(candidate.task))
+            tasks.append(candidate.task);
+    }
     return tasks;
 }
 

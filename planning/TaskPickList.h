@@ -79,11 +79,15 @@ Q_SIGNALS:
     void tickedCountChanged();
 
 private:
-    using Tasks = std::vector<TaskItem*>;
+    struct Candidate {
+        TaskItem* task;
+        /// What a search sees of the title; null until it is first asked for.
+        QString key;
+    };
     void load();
     void find();
     void warmUp();
-    [[nodiscard]] const QString& keyOf(const TaskItem& task);
+    static const QString& keyOf(Candidate& candidate);
     void forget(TaskItem* task);
     void scheduleLoad();
     void fillProjects();
@@ -97,11 +101,12 @@ private:
     std::optional<ProjectId> m_project;
     /// The task that the list was opened for.
     std::optional<TaskId> m_asked;
-    Tasks m_all;
-    Tasks m_rows;
+    // Keys are made once for each text, since every character that is typed looks at all of them.
+    std::vector<Candidate> m_all;
+    std::vector<TaskItem*> m_rows;
     QSet<TaskItem*> m_ticked;
-    // Made once for each text, since every key that is typed looks at all of them.
-    QHash<const TaskItem*, QString> m_keys;
+    /// Whose keys are out of date.
+    QSet<const TaskItem*> m_changed;
     QHash<const Project*, QString> m_projectKeys;
     /// Makes the keys in the background, a few at a time.
     QTimer m_warmUp;

@@ -55,7 +55,7 @@ ColumnLayout {
         text: list.count > 0 ? qsTrId("default_phases_hint") : qsTrId("default_phases_empty")
         color: Theme.textFaint
         font.pixelSize: Theme.caption
-        wrapMode: Text.WordWrap
+        elide: Text.ElideRight
     }
 
     ListView {

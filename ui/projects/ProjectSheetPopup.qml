@@ -71,6 +71,7 @@ T.Popup {
                     id: fields
 
                     Layout.preferredWidth: 432
+                    Layout.maximumWidth: 432
                     Layout.alignment: Qt.AlignTop
                     sheet: root.model
                 }
