@@ -1,5 +1,5 @@
-// The planning screens over 20 tasks and over 20,000: what a user waits for at each step. Everything runs on fakes and
-// a store in memory, so that only the work of the screens and of the context is measured.
+// The planning screens over 20 tasks and over 20,000: what a user waits for at each step. Everything runs on
+// fakes and a store in memory, so that only the work of the screens and of the context is measured.
 
 #include "planning/PlanningScreens.h"
 #include "tests/support/FocusRig.h"

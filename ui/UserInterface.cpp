@@ -30,9 +30,10 @@ constexpr int bodyPixelSize = 14;
 
 } // namespace
 
-UserInterface::UserInterface(std::unique_ptr<InterfaceEngine> engine, DeepWorkScreen& deepWork, PlanningScreens& planning,
-                             TickSoundSettings& tickSounds, BlockListsScreen& blockLists,
-                             TrackingHealthModel& health, Localization& localization, QObject* parent)
+UserInterface::UserInterface(std::unique_ptr<InterfaceEngine> engine, DeepWorkScreen& deepWork,
+                             PlanningScreens& planning, TickSoundSettings& tickSounds,
+                             BlockListsScreen& blockLists, TrackingHealthModel& health,
+                             Localization& localization, QObject* parent)
     : QObject(parent)
     , m_deepWork(deepWork)
     , m_planning(planning)

@@ -30,9 +30,9 @@ class UserInterface final : public QObject {
     Q_PROPERTY(QString storeProblem READ storeProblem WRITE setStoreProblem NOTIFY storeProblemChanged)
 public:
     /// Everything given by reference must outlive this.
-    UserInterface(std::unique_ptr<InterfaceEngine> engine, DeepWorkScreen& deepWork, PlanningScreens& planning,
-                  TickSoundSettings& tickSounds, BlockListsScreen& blockLists, TrackingHealthModel& health,
-                  Localization& localization, QObject* parent = nullptr);
+    UserInterface(std::unique_ptr<InterfaceEngine> engine, DeepWorkScreen& deepWork,
+                  PlanningScreens& planning, TickSoundSettings& tickSounds, BlockListsScreen& blockLists,
+                  TrackingHealthModel& health, Localization& localization, QObject* parent = nullptr);
     ~UserInterface() override;
 
     /// Whose messages the Deep Work screen shows, to be said before load(). @param coach must outlive this

@@ -21,9 +21,7 @@ public:
     }
 
 protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter(this).fillRect(QRect({}, size()), Qt::darkCyan);
-    }
+    void paintEvent(QPaintEvent*) override { QPainter(this).fillRect(QRect({}, size()), Qt::darkCyan); }
     void mouseMoveEvent(QMouseEvent* event) override {
         if (!event->buttons().testFlag(Qt::LeftButton))
             return;

@@ -11,7 +11,8 @@
 
 namespace norvin::qml {
 
-// The screens of planning together, and the classes behind the sheet of a task, under the names that QML knows them by.
+// The screens of planning together, and the classes behind the sheet of a task, under the names that QML
+// knows them by.
 
 struct PlanningScreensType {
     Q_GADGET
