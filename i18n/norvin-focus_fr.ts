@@ -1672,8 +1672,8 @@
     <message id="project_progress" numerus="yes">
         <source></source>
         <translation>
-            <numerusform>%1 tâche sur %n terminée</numerusform>
-            <numerusform>%1 tâches sur %n terminées</numerusform>
+            <numerusform>Tâche terminée : %1 sur %n</numerusform>
+            <numerusform>Tâches terminées : %1 sur %n</numerusform>
         </translation>
     </message>
     <message id="project_search_placeholder">
