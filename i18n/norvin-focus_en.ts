@@ -134,6 +134,10 @@
         <source></source>
         <translation>Applications</translation>
     </message>
+    <message id="attach_not_opened">
+        <source></source>
+        <translation>The desktop has no application that opens this file.</translation>
+    </message>
     <message id="attach_refused_again">
         <source></source>
         <translation>A file that is attached already was left out.</translation>
@@ -1871,10 +1875,6 @@
         <source></source>
         <translation>%1, the file is missing</translation>
     </message>
-    <message id="resource_not_opened">
-        <source></source>
-        <translation>The desktop has no application that opens this file.</translation>
-    </message>
     <message id="resource_open">
         <source></source>
         <translation>Open %1</translation>
@@ -2299,6 +2299,10 @@
     <message id="task_open_detail">
         <source></source>
         <translation>Open the task</translation>
+    </message>
+    <message id="task_open_sheet">
+        <source></source>
+        <translation>Show and edit %1</translation>
     </message>
     <message id="task_phase_label">
         <source></source>

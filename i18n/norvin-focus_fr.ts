@@ -134,6 +134,10 @@
         <source></source>
         <translation>Applications</translation>
     </message>
+    <message id="attach_not_opened">
+        <source></source>
+        <translation>Aucune application du bureau n’ouvre ce fichier.</translation>
+    </message>
     <message id="attach_refused_again">
         <source></source>
         <translation>Un fichier déjà joint a été laissé de côté.</translation>
@@ -1871,10 +1875,6 @@
         <source></source>
         <translation>%1, le fichier est introuvable</translation>
     </message>
-    <message id="resource_not_opened">
-        <source></source>
-        <translation>Aucune application du bureau n’ouvre ce fichier.</translation>
-    </message>
     <message id="resource_open">
         <source></source>
         <translation>Ouvrir %1</translation>
@@ -2299,6 +2299,10 @@
     <message id="task_open_detail">
         <source></source>
         <translation>Ouvrir la tâche</translation>
+    </message>
+    <message id="task_open_sheet">
+        <source></source>
+        <translation>Voir et modifier %1</translation>
     </message>
     <message id="task_phase_label">
         <source></source>

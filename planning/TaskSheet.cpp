@@ -458,7 +458,7 @@ void TaskSheet::removeResource(int row) {
 }
 
 void TaskSheet::reportUnopened() {
-    setNotice(QStringLiteral("resource_not_opened"));
+    setNotice(QStringLiteral("attach_not_opened"));
 }
 
 QUrl TaskSheet::fileFolder() const {

@@ -66,7 +66,7 @@ TextsTest::Texts TextsTest::texts(const QString& language) {
 QSet<QString> TextsTest::usedKeys() {
     static const QRegularExpression call(QStringLiteral(R"re(q[st]TrId\(\s*"([a-z0-9_]+)")re"));
     static const QRegularExpression written(QStringLiteral(
-        R"re("((?:accessibility|browser_restart|count|extension|health|planning_file|refused|window_closed)_[a-z0-9_]+)")re"));
+        R"re("((?:accessibility|attach|browser_restart|count|extension|health|planning_file|refused|window_closed)_[a-z0-9_]+)")re"));
     QSet<QString> keys;
     for (const char* folder :
          {"app", "distraction", "focus", "model", "planning", "platform", "sound", "ui"}) {

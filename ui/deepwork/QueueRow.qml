@@ -120,6 +120,7 @@ Item {
                     queue: root.queue
                     index: root.index
                     queueIndex: root.queueIndex
+                    taskId: root.taskId
                     title: root.title
                     isTask: root.isTask
                     canBecomeActive: root.isTask && !root.isActive && !root.isDone

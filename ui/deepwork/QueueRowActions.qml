@@ -10,6 +10,7 @@ Row {
     required property QueueState queue
     required property int index
     required property int queueIndex
+    required property string taskId
     required property string title
     required property bool isTask
     required property bool canBecomeActive
@@ -49,6 +50,14 @@ Row {
         symbol: "plus"
         text: qsTrId("subtask_add").arg(root.title)
         onClicked: root.queue.subtaskRow = root.index
+    }
+
+    IconButton {
+        objectName: "openTask"
+        implicitWidth: 28
+        symbol: "pencil"
+        text: qsTrId("task_open_sheet").arg(root.title)
+        onClicked: (root.Window.window as Main)?.planning.showTask(root.taskId)
     }
 
     IconButton {
