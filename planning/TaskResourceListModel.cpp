@@ -88,6 +88,8 @@ QVariant TaskResourceListModel::data(const QModelIndex& index, int role) const {
         return resource->name();
     case UrlRole:
         return place.url;
+    case IsFoundRole:
+        return !place.url.isEmpty();
     case IsMissingRole:
         return place.isMissing;
     case IsImageRole:
@@ -98,11 +100,8 @@ QVariant TaskResourceListModel::data(const QModelIndex& index, int role) const {
 }
 
 QHash<int, QByteArray> TaskResourceListModel::roleNames() const {
-    return {{ResourceIdRole, "resourceId"},
-            {NameRole, "name"},
-            {UrlRole, "fileUrl"},
-            {IsMissingRole, "isMissing"},
-            {IsImageRole, "isImage"}};
+    return {{ResourceIdRole, "resourceId"}, {NameRole, "name"},           {UrlRole, "fileUrl"},
+            {IsFoundRole, "isFound"},       {IsMissingRole, "isMissing"}, {IsImageRole, "isImage"}};
 }
 
 } // namespace norvin

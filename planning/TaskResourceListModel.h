@@ -19,6 +19,7 @@ public:
         ResourceIdRole = Qt::UserRole + 1, ///< "resourceId": text
         NameRole,                          ///< "name": text
         UrlRole,                           ///< "fileUrl": where the file is; empty while not known
+        IsFoundRole,                       ///< "isFound": it was looked for and is there
         IsMissingRole,                     ///< "isMissing": it was looked for and is not there
         IsImageRole,                       ///< "isImage"
     };

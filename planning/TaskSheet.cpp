@@ -37,6 +37,10 @@ QString textOf(const ProjectPhase* phase) {
     return phase != nullptr ? phase->id().toString() : QString();
 }
 
+QVariantMap choice(const QString& id, const QString& name, const QString& color = {}) {
+    return {{QStringLiteral("id"), id}, {QStringLiteral("name"), name}, {QStringLiteral("color"), color}};
+}
+
 // The task and all below it that belong to its project go to another.
 void moveTree(TaskItem& root, Project* target) {
     Project* const former = root.project();
@@ -137,8 +141,10 @@ void TaskSheet::letGo(const TaskItem* task) {
 }
 
 void TaskSheet::retranslate() {
-    if (m_isPresented)
-        Q_EMIT fieldsChanged();
+    if (!m_isPresented)
+        return;
+    Q_EMIT choicesChanged();
+    Q_EMIT fieldsChanged();
 }
 
 void TaskSheet::setLocale(const QLocale& locale) {
@@ -250,24 +256,19 @@ QVariantList TaskSheet::projects() const {
     std::stable_sort(sorted.begin(), sorted.end(), [&collator](const Project* a, const Project* b) {
         return collator.compare(a->name(), b->name()) < 0;
     });
-    QVariantList choices;
+    QVariantList choices{choice({}, qtTrId("task_no_project"))};
     for (const Project* each : sorted) {
-        choices.append(
-            QVariantMap{{QStringLiteral("id"), textOf(each)},
-                        {QStringLiteral("name"),
-                         each->emoji().isEmpty() ? each->name() : each->emoji() + u' ' + each->name()},
-                        {QStringLiteral("color"), each->colorHex()}});
+        const QString name = each->emoji().isEmpty() ? each->name() : each->emoji() + u' ' + each->name();
+        choices.append(choice(textOf(each), name, each->colorHex()));
     }
     return choices;
 }
 
 QVariantList TaskSheet::phases() const {
-    QVariantList choices;
+    QVariantList choices{choice({}, qtTrId("task_no_phase"))};
     if (const Project* const of = project()) {
         for (const ProjectPhase* phase : of->sortedPhases())
-            choices.append(QVariantMap{{QStringLiteral("id"), textOf(phase)},
-                                       {QStringLiteral("name"), phase->name()},
-                                       {QStringLiteral("color"), QString()}});
+            choices.append(choice(textOf(phase), phase->name()));
     }
     return choices;
 }

@@ -38,8 +38,8 @@ class TaskSheet final : public QObject {
     /// Texts of ids; empty for none.
     Q_PROPERTY(QString projectId READ projectId WRITE setProjectId NOTIFY fieldsChanged)
     Q_PROPERTY(QString phaseId READ phaseId WRITE setPhaseId NOTIFY fieldsChanged)
-    /// All projects by name, and the phases of the chosen one in order: maps with "id", "name", and of
-    /// projects "color".
+    /// What can be chosen, none first: the projects by name, and the phases of the chosen one in order. Maps
+    /// with "id", "name" and "color", which may be empty.
     Q_PROPERTY(QVariantList projects READ projects NOTIFY choicesChanged)
     Q_PROPERTY(QVariantList phases READ phases NOTIFY choicesChanged)
     /// Days as texts in the language of the window; empty for none.

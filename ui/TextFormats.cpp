@@ -33,6 +33,10 @@ QString TextFormats::minutes(int minutes) const {
     return qtTrId("length_minutes").arg(m_locale.toString(whole));
 }
 
+QString TextFormats::dateTime(const QDateTime& instant) const {
+    return m_locale.toString(instant, QLocale::ShortFormat);
+}
+
 QString TextFormats::decimal(double value) const {
     return m_locale.toString(value, 'f', 1);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDateTime>
 #include <QLocale>
 #include <QObject>
 #include <QString>
@@ -21,6 +22,8 @@ public:
     Q_INVOKABLE [[nodiscard]] QString duration(int seconds) const;
     /// A length in whole minutes ("25 min", "2 h 10 min"); negative ones read as 0.
     Q_INVOKABLE [[nodiscard]] QString minutes(int minutes) const;
+    /// A day and time, short.
+    Q_INVOKABLE [[nodiscard]] QString dateTime(const QDateTime& instant) const;
     /// A number with one decimal.
     Q_INVOKABLE [[nodiscard]] QString decimal(double value) const;
     /// A number with one decimal and its sign, with a true minus; zero has no sign.

@@ -98,7 +98,7 @@ private Q_SLOTS:
         QCOMPARE(task->project(), other);
         QCOMPARE(child->project(), other);
         QVERIFY(foreign->project() == nullptr && task->phase() == nullptr);
-        QCOMPARE(rig.sheet.projects().first().toMap().value(QStringLiteral("name")).toString(),
+        QCOMPARE(rig.sheet.projects().at(1).toMap().value(QStringLiteral("name")).toString(),
                  QStringLiteral("Garden"));
 
         rig.sheet.setDaysFromToday(QStringLiteral("plannedDate"), -1);

@@ -97,7 +97,7 @@ Page {
         isDismissible: true
         onActionChosen: {
             if (root.model.browserHealth.bannerLeadsToHealth)
-                (root.Window.window as Main)?.showPage(Main.Screen.Health);
+                (root.Window.window as Main)?.showPage(Main.PageNumber.Health);
             else
                 root.model.browserHealth.bannerAct();
         }

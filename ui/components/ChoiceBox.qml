@@ -135,13 +135,12 @@ T.ComboBox {
     popup: T.Popup {
         y: root.height + Theme.gap1
         width: Math.max(root.width, 220)
-        height: Math.min(list.contentHeight + topPadding + bottomPadding, 320)
+        height: Math.min(contentItem.implicitHeight + topPadding + bottomPadding, 320)
         padding: Theme.gap1
         margins: Theme.gap2
 
         contentItem: ListView {
-            id: list
-
+            implicitHeight: contentHeight
             clip: true
             model: root.delegateModel
             currentIndex: root.highlightedIndex

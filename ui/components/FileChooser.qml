@@ -33,6 +33,7 @@ Item {
     function show(title: string, folder: url, acceptText: string): void {
         dialog.title = title;
         dialog.currentFolder = folder;
+        dialog.nameFilters = root.filters;
         dialog.acceptLabel = acceptText;
         root.tint();
         dialog.open();
@@ -63,7 +64,6 @@ Item {
         id: dialog
 
         rejectLabel: root.rejectText
-        nameFilters: root.filters
         onAccepted: root.chosen()
     }
 }

@@ -8,7 +8,7 @@ Window {
     id: root
 
     /// The pages, in the order of the sidebar.
-    enum Screen {
+    enum PageNumber {
         DeepWork,
         Agenda,
         Projects,
@@ -26,7 +26,7 @@ Window {
     /// What is there: 0 the bare window, 1 what the first picture shows, 2 everything.
     property int stage: 0
     readonly property Shell shell: content.item as Shell
-    property int page: Main.Screen.DeepWork
+    property int page: Main.PageNumber.DeepWork
     readonly property bool live: root.visible && root.visibility !== Window.Minimized && root.visibility !== Window.Hidden
     readonly property bool isPhaseUnderWay: root.deepWork.state === "running" || root.deepWork.state === "paused"
 
@@ -34,7 +34,7 @@ Window {
 
     function showPage(number: int): void {
         root.page = number;
-        if (number === Main.Screen.DeepWork)
+        if (number === Main.PageNumber.DeepWork)
             root.shell?.focusStart();
     }
 

@@ -29,7 +29,7 @@ FocusScope {
     }
 
     Keys.onEscapePressed: event => {
-        event.accepted = root.page === Main.Screen.DeepWork && root.coach !== null && root.coach.isVisible;
+        event.accepted = root.page === Main.PageNumber.DeepWork && root.coach !== null && root.coach.isVisible;
         if (event.accepted)
             root.coach.dismissMessage();
     }
@@ -71,30 +71,30 @@ FocusScope {
                     screen: root.deepWork
                     coach: root.coach
                     tickSounds: root.tickSounds
-                    live: root.live && root.page === Main.Screen.DeepWork
+                    live: root.live && root.page === Main.PageNumber.DeepWork
                     furnished: root.furnished
                 }
 
                 LazyPage {
-                    wanted: root.page === Main.Screen.Agenda
+                    wanted: root.page === Main.PageNumber.Agenda
                     file: "../agenda/AgendaPage.qml"
                     model: root.planning.agenda
                 }
 
                 LazyPage {
-                    wanted: root.page === Main.Screen.Projects
+                    wanted: root.page === Main.PageNumber.Projects
                     file: "../projects/ProjectsPage.qml"
                     model: root.planning
                 }
 
                 LazyPage {
-                    wanted: root.page === Main.Screen.BlockLists
+                    wanted: root.page === Main.PageNumber.BlockLists
                     file: "../blocklists/BlockListsView.qml"
                     model: root.blockLists
                 }
 
                 LazyPage {
-                    wanted: root.page === Main.Screen.Health
+                    wanted: root.page === Main.PageNumber.Health
                     file: "../health/HealthView.qml"
                     model: root.health
                 }

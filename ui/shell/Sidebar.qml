@@ -49,44 +49,44 @@ Rectangle {
             symbol: "timer"
             text: qsTrId("sidebar_deep_work")
             keys: "Ctrl+1"
-            isCurrent: root.page === Main.Screen.DeepWork
-            onClicked: root.pageChosen(Main.Screen.DeepWork)
+            isCurrent: root.page === Main.PageNumber.DeepWork
+            onClicked: root.pageChosen(Main.PageNumber.DeepWork)
         }
 
         SidebarEntry {
             symbol: "calendar"
             text: qsTrId("sidebar_agenda")
             keys: "Ctrl+2"
-            isCurrent: root.page === Main.Screen.Agenda
+            isCurrent: root.page === Main.PageNumber.Agenda
             badge: root.furnished ? root.lateCount : 0
             badgeName: root.lateCount > 0 ? qsTrId("late_tasks", root.lateCount) : ""
-            onClicked: root.pageChosen(Main.Screen.Agenda)
+            onClicked: root.pageChosen(Main.PageNumber.Agenda)
         }
 
         SidebarEntry {
             symbol: "folder"
             text: qsTrId("sidebar_projects")
             keys: "Ctrl+3"
-            isCurrent: root.page === Main.Screen.Projects
-            onClicked: root.pageChosen(Main.Screen.Projects)
+            isCurrent: root.page === Main.PageNumber.Projects
+            onClicked: root.pageChosen(Main.PageNumber.Projects)
         }
 
         SidebarEntry {
             symbol: "hand.raised"
             text: qsTrId("sidebar_block_lists")
             keys: "Ctrl+4"
-            isCurrent: root.page === Main.Screen.BlockLists
-            onClicked: root.pageChosen(Main.Screen.BlockLists)
+            isCurrent: root.page === Main.PageNumber.BlockLists
+            onClicked: root.pageChosen(Main.PageNumber.BlockLists)
         }
 
         SidebarEntry {
             symbol: "waveform.path.ecg"
             text: qsTrId("sidebar_health")
             keys: "Ctrl+5"
-            isCurrent: root.page === Main.Screen.Health
+            isCurrent: root.page === Main.PageNumber.Health
             badge: root.furnished ? root.problemCount : 0
             badgeName: root.problemCount > 0 ? qsTrId("health_problems", root.problemCount) : ""
-            onClicked: root.pageChosen(Main.Screen.Health)
+            onClicked: root.pageChosen(Main.PageNumber.Health)
         }
 
         Item {

@@ -12,10 +12,10 @@ T.AbstractButton {
     required property int index
     required property string name
     required property url fileUrl
+    required property bool isFound
     required property bool isMissing
     required property bool isImage
     required property TaskSheet sheet
-    readonly property bool isFound: root.fileUrl.toString().length > 0
     readonly property bool hasPicture: root.isImage && root.isFound
 
     function open(): void {
@@ -51,7 +51,8 @@ T.AbstractButton {
                 cache: false
                 fillMode: Image.PreserveAspectCrop
                 // No more of a large picture is kept than is shown.
-                sourceSize: Qt.size(96, 96)
+                sourceSize.width: 96
+                sourceSize.height: 96
             }
 
             Symbol {

@@ -49,7 +49,7 @@ ColumnLayout {
             required property int minutes
             required property bool hasScore
             required property real score
-            readonly property string when: row.startTime.toLocaleString(Localization.locale, Locale.ShortFormat)
+            readonly property string when: Localization.formats.dateTime(row.startTime)
 
             width: list.width
             height: 28

@@ -20,8 +20,9 @@ Item {
 
     readonly property bool isCurrent: root.ListView.isCurrentItem && root.ListView.view.activeFocus
     readonly property bool isReached: hover.hovered || root.isCurrent
-    readonly property bool isTyping: root.section.typingRow === root.index
-    readonly property bool isRenaming: root.section.renamingRow === root.index
+    // A row that goes has no index.
+    readonly property bool isTyping: root.index >= 0 && root.section.typingRow === root.index
+    readonly property bool isRenaming: root.index >= 0 && root.section.renamingRow === root.index
     readonly property int indent: 24 * Math.min(root.depth, 8)
 
     implicitHeight: body.height + (root.isTyping ? Theme.controlHeight + Theme.gap1 : 0)
@@ -130,7 +131,7 @@ Item {
                     anchors.fill: parent
                     section: root.section
                     index: root.index
-                    rowHeight: body.height + root.ListView.view.spacing
+                    rowHeight: body.height + root.section.spacing
                     content: root.ListView.view.contentItem
                 }
             }

@@ -60,7 +60,7 @@ ColumnLayout {
         interactive: false
         activeFocusOnTab: true
         highlightMoveDuration: 0
-        spacing: 2
+        spacing: shared.spacing
         model: root.sheet.subtasks
         Accessible.role: Accessible.List
         Accessible.name: qsTrId("subtasks_title")

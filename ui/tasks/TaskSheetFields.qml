@@ -64,13 +64,7 @@ Flickable {
                 objectName: "taskProject"
                 width: parent.width
                 name: qsTrId("task_project_label")
-                model: [
-                    {
-                        id: "",
-                        name: qsTrId("task_no_project"),
-                        color: ""
-                    }
-                ].concat(root.sheet.projects)
+                model: root.sheet.projects
                 chosenId: root.sheet.projectId
                 onChosen: choiceId => root.sheet.projectId = choiceId
             }
@@ -85,13 +79,7 @@ Flickable {
                 objectName: "taskPhase"
                 width: parent.width
                 name: qsTrId("task_phase_label")
-                model: [
-                    {
-                        id: "",
-                        name: qsTrId("task_no_phase"),
-                        color: ""
-                    }
-                ].concat(root.sheet.phases)
+                model: root.sheet.phases
                 chosenId: root.sheet.phaseId
                 onChosen: choiceId => root.sheet.phaseId = choiceId
             }
