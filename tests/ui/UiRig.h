@@ -61,15 +61,47 @@ struct UiRig {
     enum class Page { deepWork, agenda, projects, blockLists, health };
     void showPage(Page page) const { press(Qt::Key_1 + static_cast<int>(page), Qt::ControlModifier); }
 
-    /// The item of that name which the keyboard is in or below, is reached by Tab; fails where it is not.
+    /// The first item of that name that is shown; null for none.
+    [[nodiscard]] QQuickItem* visible(const char* name) const {
+        for (QQuickItem* item : visibleItems()) {
+            if (item->objectName() == QLatin1String(name))
+                return item;
+        }
+        return nullptr;
+    }
+    /// Whether the keyboard is in the item or below it.
+    [[nodiscard]] bool hasKeyboard(const char* name) const {
+        const QQuickItem* item = visible(name);
+        return item != nullptr && item->hasActiveFocus();
+    }
     void tabTo(const char* name) const {
-        const auto hasKeyboard = [this, name] {
-            const QQuickItem* wanted = item(name);
-            return wanted != nullptr && wanted->hasActiveFocus();
-        };
-        for (int presses = 0; presses < 60 && !hasKeyboard(); ++presses)
+        for (int presses = 0; presses < 60 && !hasKeyboard(name); ++presses)
             press(Qt::Key_Tab);
-        QVERIFY2(hasKeyboard(), qPrintable(QLatin1String(name) + QStringLiteral(", not ") + focusName()));
+        QVERIFY2(hasKeyboard(name), qPrintable(QLatin1String(name) + QStringLiteral(", not ") + focusName()));
+    }
+    /// Clicks an entry of a menu, once all of its entries have their places.
+    void clickEntry(const char* menu, int entries, const QString& text) const {
+        const auto* object = window()->findChild<QObject*>(QLatin1String(menu));
+        QVERIFY(object);
+        QTRY_COMPARE(object->property("contentHeight").toDouble(), 36.0 * entries);
+        click(saying(text));
+    }
+    /// Waits until the first row of a list has come to its top.
+    void waitForFirstRow(const char* list) const {
+        static_cast<void>(window()->grabWindow()); // begins what moves the rows
+        QQuickItem* view = visible(list);
+        QQuickItem* row = nullptr;
+        QMetaObject::invokeMethod(view, "itemAtIndex", Q_RETURN_ARG(QQuickItem*, row), Q_ARG(int, 0));
+        QVERIFY(row);
+        QTRY_COMPARE(row->mapToItem(view, QPointF()).y(), 0.0);
+    }
+    /// The first item shown with that text; null for none.
+    [[nodiscard]] QQuickItem* saying(const QString& text) const {
+        for (QQuickItem* item : visibleItems()) {
+            if (item->property("text").toString() == text)
+                return item;
+        }
+        return nullptr;
     }
     /// What the keyboard is in.
     [[nodiscard]] QString focusName() const {

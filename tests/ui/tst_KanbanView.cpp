@@ -64,52 +64,13 @@ private:
     void show() {
         rig->planning.board()->setProject(project);
         rig->showPage(UiRig::Page::projects);
-        QTRY_VERIFY(visible("boardTitle"));
-        QTRY_VERIFY(hasKeyboard("cards0"));
-    }
-    [[nodiscard]] QQuickItem* visible(const char* name) const {
-        for (QQuickItem* item : rig->visibleItems()) {
-            if (item->objectName() == QLatin1String(name))
-                return item;
-        }
-        return nullptr;
-    }
-    [[nodiscard]] bool hasKeyboard(const char* name) const {
-        const QQuickItem* item = visible(name);
-        return item != nullptr && item->hasActiveFocus();
-    }
-    void tabTo(const char* name) const {
-        for (int presses = 0; presses < 40 && !hasKeyboard(name); ++presses)
-            rig->press(Qt::Key_Tab);
-        QVERIFY2(hasKeyboard(name), name);
-    }
-    /// Clicks an entry of a menu, once all of its entries have their places.
-    void clickEntry(const char* menu, int entries, const QString& text) const {
-        const auto* object = rig->window()->findChild<QObject*>(QLatin1String(menu));
-        QVERIFY(object);
-        QTRY_COMPARE(object->property("contentHeight").toDouble(), 36.0 * entries);
-        rig->click(saying(text));
-    }
-    /// Waits until the first row of a list has come to its top.
-    void waitForFirstRow(const char* list) const {
-        static_cast<void>(rig->window()->grabWindow()); // begins what moves the rows
-        QQuickItem* view = visible(list);
-        QQuickItem* row = nullptr;
-        QMetaObject::invokeMethod(view, "itemAtIndex", Q_RETURN_ARG(QQuickItem*, row), Q_ARG(int, 0));
-        QVERIFY(row);
-        QTRY_COMPARE(row->mapToItem(view, QPointF()).y(), 0.0);
-    }
-    [[nodiscard]] QQuickItem* saying(const QString& text) const {
-        for (QQuickItem* item : rig->visibleItems()) {
-            if (item->property("text").toString() == text)
-                return item;
-        }
-        return nullptr;
+        QTRY_VERIFY(rig->visible("boardTitle"));
+        QTRY_VERIFY(rig->hasKeyboard("cards0"));
     }
     /// Title of the card that the keyboard is on.
     [[nodiscard]] QString current(const char* list) const {
-        const auto* card = visible(list)->property("currentItem").value<QQuickItem*>();
-        return card != nullptr && hasKeyboard(list) ? card->property("title").toString() : QString();
+        const auto* card = rig->visible(list)->property("currentItem").value<QQuickItem*>();
+        return card != nullptr && rig->hasKeyboard(list) ? card->property("title").toString() : QString();
     }
     [[nodiscard]] static QPoint middleOf(const QQuickItem* item) {
         return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
@@ -134,7 +95,7 @@ void KanbanViewTest::cardsGoFromColumnToColumnByKeyboard() {
     rig->press(Qt::Key_Down);
     QCOMPARE(current("cards0"), QStringLiteral("b"));
     rig->press(Qt::Key_Right); // an empty column
-    QVERIFY(hasKeyboard("cards1"));
+    QVERIFY(rig->hasKeyboard("cards1"));
     rig->press(Qt::Key_Right);
     QCOMPARE(current("cards2"), QStringLiteral("c"));
     rig->press(Qt::Key_Right);
@@ -156,15 +117,15 @@ void KanbanViewTest::cardsGoFromColumnToColumnByKeyboard() {
     QTRY_VERIFY(rig->planning.taskSheet()->isPresented());
     QCOMPARE(rig->planning.taskSheet()->task(), a);
     rig->planning.taskSheet()->close();
-    QTRY_VERIFY(hasKeyboard("cards0"));
+    QTRY_VERIFY(rig->hasKeyboard("cards0"));
     rig->press(Qt::Key_Delete);
-    QTRY_VERIFY(saying(qtTrId("confirm_delete_task_title")));
+    QTRY_VERIFY(rig->saying(qtTrId("confirm_delete_task_title")));
     rig->press(Qt::Key_Tab);
     rig->press(Qt::Key_Return);
     QTRY_COMPARE(current("cards0"), QStringLiteral("b"));
     QCOMPARE(board().taskCount(), 2);
     rig->press(Qt::Key_Left, Qt::AltModifier);
-    QTRY_VERIFY(hasKeyboard("projectGrid"));
+    QTRY_VERIFY(rig->hasKeyboard("projectGrid"));
     QVERIFY(!board().hasProject());
 }
 
@@ -172,28 +133,28 @@ void KanbanViewTest::cardsAreDraggedAndDropped() {
     fill();
     show();
     const TaskItem* chapter = board().toDo()->taskAt(0);
-    QTRY_VERIFY(saying(chapter->title()));
-    const QQuickItem* done = visible("cards2");
-    drag(middleOf(saying(chapter->title())), middleOf(done));
+    QTRY_VERIFY(rig->saying(chapter->title()));
+    const QQuickItem* done = rig->visible("cards2");
+    drag(middleOf(rig->saying(chapter->title())), middleOf(done));
     QTRY_VERIFY(board().done()->isDropTargeted());
-    QVERIFY(visible("draggedCard"));
+    QVERIFY(rig->visible("draggedCard"));
     rig->keepPicture(QStringLiteral("board-drag"));
     QTest::mouseRelease(rig->window(), Qt::LeftButton, {}, middleOf(done));
     QVERIFY(chapter->isDone());
     QVERIFY(!board().done()->isDropTargeted());
-    QVERIFY(!visible("draggedCard"));
+    QVERIFY(!rig->visible("draggedCard"));
     QTRY_COMPARE(current("cards2"), chapter->title());
     QCOMPARE(chapter->completedSubtasksCount(), 3);
     QVERIFY(!rig->planning.taskSheet()->isPresented()); // a drag is no click
 
     // Let go over no column, nothing changes; a press without a drag opens.
-    const QPoint card = middleOf(saying(chapter->title()));
-    drag(card, middleOf(visible("boardTitle")));
+    const QPoint card = middleOf(rig->saying(chapter->title()));
+    drag(card, middleOf(rig->visible("boardTitle")));
     QTRY_VERIFY(!board().done()->isDropTargeted());
-    QTest::mouseRelease(rig->window(), Qt::LeftButton, {}, middleOf(visible("boardTitle")));
+    QTest::mouseRelease(rig->window(), Qt::LeftButton, {}, middleOf(rig->visible("boardTitle")));
     QVERIFY(chapter->isDone());
-    QVERIFY(!visible("draggedCard"));
-    QTest::mouseClick(rig->window(), Qt::LeftButton, {}, middleOf(saying(chapter->title())));
+    QVERIFY(!rig->visible("draggedCard"));
+    QTest::mouseClick(rig->window(), Qt::LeftButton, {}, middleOf(rig->saying(chapter->title())));
     QTRY_VERIFY(rig->planning.taskSheet()->isPresented());
 }
 
@@ -202,18 +163,18 @@ void KanbanViewTest::theMenuDoesWhatTheKeysDo() {
     show();
     QSignalSpy posted(&rig->planning.notifications(), &PlanningNotifications::posted);
     rig->press(Qt::Key_Menu);
-    QTRY_VERIFY(saying(qtTrId("card_plan_button")));
+    QTRY_VERIFY(rig->saying(qtTrId("card_plan_button")));
     rig->keepPicture(QStringLiteral("board-menu"));
     rig->press(Qt::Key_Escape);
-    QTRY_VERIFY(!saying(qtTrId("card_plan_button")));
-    QTRY_VERIFY(hasKeyboard("cards0"));
+    QTRY_VERIFY(!rig->saying(qtTrId("card_plan_button")));
+    QTRY_VERIFY(rig->hasKeyboard("cards0"));
     QVERIFY(board().hasProject());
 
     const TaskItem* chapter = board().toDo()->taskAt(0);
-    rig->click(saying(chapter->title()), Qt::RightButton);
+    rig->click(rig->saying(chapter->title()), Qt::RightButton);
     const QString move = qtTrId("card_move_format").arg(board().inProgress()->title());
-    QTRY_VERIFY(saying(move));
-    clickEntry("cardMenu", 5, move);
+    QTRY_VERIFY(rig->saying(move));
+    rig->clickEntry("cardMenu", 5, move);
     QTRY_COMPARE(chapter->status(), TaskStatus::inProgress);
     QTRY_COMPARE(current("cards1"), chapter->title());
     QVERIFY(posted.isEmpty());
@@ -226,12 +187,12 @@ void KanbanViewTest::tasksAreTypedIntoTheirColumn() {
     ProjectPhase* phase = addPhase(QStringLiteral("Read"));
     show();
     rig->keepPicture(QStringLiteral("board-empty"));
-    tabTo("boardTabs");
+    rig->tabTo("boardTabs");
     rig->press(Qt::Key_Right);
     QCOMPARE(board().selectedPhaseID(), phase->id().toString());
-    tabTo("columnAdd1");
+    rig->tabTo("columnAdd1");
     rig->press(Qt::Key_Return);
-    QTRY_VERIFY(hasKeyboard("newTask"));
+    QTRY_VERIFY(rig->hasKeyboard("newTask"));
     rig->type(QStringLiteral("one"));
     rig->press(Qt::Key_Return);
     rig->type(QStringLiteral("two"));
@@ -242,19 +203,19 @@ void KanbanViewTest::tasksAreTypedIntoTheirColumn() {
     QCOMPARE(board().inProgress()->count(), 2);
     QCOMPARE(board().inProgress()->taskAt(1)->phase(), phase);
     rig->press(Qt::Key_N);
-    QTRY_VERIFY(hasKeyboard("newTask"));
+    QTRY_VERIFY(rig->hasKeyboard("newTask"));
     rig->press(Qt::Key_Escape);
-    QTRY_VERIFY(hasKeyboard("cards1"));
+    QTRY_VERIFY(rig->hasKeyboard("cards1"));
     QVERIFY(board().hasProject());
-    rig->click(visible("boardAdd"));
+    rig->click(rig->visible("boardAdd"));
     QTRY_VERIFY(rig->planning.taskSheet()->isPresented());
 }
 
 void KanbanViewTest::phasesAreManagedByKeyboardAlone() {
     show();
-    tabTo("boardPhases");
+    rig->tabTo("boardPhases");
     rig->press(Qt::Key_Return);
-    QTRY_VERIFY(hasKeyboard("managedNew"));
+    QTRY_VERIFY(rig->hasKeyboard("managedNew"));
     rig->keepPicture(QStringLiteral("phases-empty"));
     for (const char* name : {"Read", "Write", "Print"}) {
         rig->type(QString::fromLatin1(name));
@@ -263,42 +224,42 @@ void KanbanViewTest::phasesAreManagedByKeyboardAlone() {
     QCOMPARE(project->phases().size(), 3);
     TaskItem* task = add(QStringLiteral("chapter"), TaskStatus::todo, project->phases().at(1));
     rig->press(Qt::Key_Down);
-    QTRY_VERIFY(hasKeyboard("managedPhases"));
+    QTRY_VERIFY(rig->hasKeyboard("managedPhases"));
     rig->press(Qt::Key_Down, Qt::AltModifier);
     QCOMPARE(project->sortedPhases().at(1)->name(), QStringLiteral("Read"));
     rig->press(Qt::Key_F2);
-    QTRY_VERIFY(hasKeyboard("phaseEdit"));
+    QTRY_VERIFY(rig->hasKeyboard("phaseEdit"));
     rig->type(QStringLiteral("Look"));
     rig->press(Qt::Key_Return);
     QCOMPARE(project->sortedPhases().at(1)->name(), QStringLiteral("Look"));
-    QTRY_VERIFY(hasKeyboard("managedPhases"));
+    QTRY_VERIFY(rig->hasKeyboard("managedPhases"));
     rig->press(Qt::Key_F2);
-    QTRY_VERIFY(hasKeyboard("phaseEdit"));
+    QTRY_VERIFY(rig->hasKeyboard("phaseEdit"));
     rig->type(QStringLiteral("Never"));
     rig->press(Qt::Key_Escape);
-    QTRY_VERIFY(hasKeyboard("managedPhases"));
+    QTRY_VERIFY(rig->hasKeyboard("managedPhases"));
     QCOMPARE(project->sortedPhases().at(1)->name(), QStringLiteral("Look"));
 
     rig->press(Qt::Key_Delete); // nothing was in it
     QCOMPARE(project->phases().size(), 2);
-    waitForFirstRow("managedPhases");
+    rig->waitForFirstRow("managedPhases");
     rig->keepPicture(QStringLiteral("phases"));
     rig->press(Qt::Key_Z, Qt::ControlModifier);
     QCOMPARE(project->phases().size(), 3);
     rig->press(Qt::Key_Up);
     rig->press(Qt::Key_Up);
     rig->press(Qt::Key_Delete);
-    QTRY_VERIFY(saying(qtTrId("confirm_delete_phase_title").arg(QStringLiteral("Write"))));
-    waitForFirstRow("managedPhases");
+    QTRY_VERIFY(rig->saying(qtTrId("confirm_delete_phase_title").arg(QStringLiteral("Write"))));
+    rig->waitForFirstRow("managedPhases");
     rig->keepPicture(QStringLiteral("phases-delete"));
     rig->press(Qt::Key_Tab);
     rig->press(Qt::Key_Return);
     QTRY_COMPARE(project->phases().size(), 2);
     QCOMPARE(task->phase(), nullptr);
-    QTRY_VERIFY(hasKeyboard("managedPhases"));
+    QTRY_VERIFY(rig->hasKeyboard("managedPhases"));
     rig->press(Qt::Key_Escape);
     QTRY_VERIFY(!board().showManagePhases());
-    QTRY_VERIFY(hasKeyboard("boardPhases"));
+    QTRY_VERIFY(rig->hasKeyboard("boardPhases"));
 }
 
 void KanbanViewTest::aLongColumnMakesOnlyTheCardsThatAreSeen() {
@@ -308,7 +269,7 @@ void KanbanViewTest::aLongColumnMakesOnlyTheCardsThatAreSeen() {
     const auto cards = [this] {
         int count = 0;
         const QList<QQuickItem*> all =
-            visible("cards0")->property("contentItem").value<QQuickItem*>()->childItems();
+            rig->visible("cards0")->property("contentItem").value<QQuickItem*>()->childItems();
         for (const QQuickItem* item : all)
             count += item->property("taskId").isValid() ? 1 : 0;
         return count;
@@ -316,7 +277,7 @@ void KanbanViewTest::aLongColumnMakesOnlyTheCardsThatAreSeen() {
     QVERIFY(cards() < 60);
     rig->press(Qt::Key_End);
     QCOMPARE(current("cards0"), QStringLiteral("Card 499"));
-    QTRY_VERIFY(saying(QStringLiteral("Card 498")));
+    QTRY_VERIFY(rig->saying(QStringLiteral("Card 498")));
     rig->press(Qt::Key_Right, Qt::ControlModifier);
     QCOMPARE(current("cards1"), QStringLiteral("Card 499"));
     for (int presses = 0; presses < 200; ++presses)
@@ -339,18 +300,18 @@ void KanbanViewTest::nothingIsCutInFrench() {
     QCOMPARE(isCut(), QString());
     rig->keepPicture(QStringLiteral("board-fr"));
     rig->press(Qt::Key_Menu);
-    QTRY_VERIFY(saying(qtTrId("card_plan_button")));
+    QTRY_VERIFY(rig->saying(qtTrId("card_plan_button")));
     QCOMPARE(isCut(), QString());
     rig->keepPicture(QStringLiteral("board-menu-fr"));
     rig->press(Qt::Key_Escape);
-    QTRY_VERIFY(!saying(qtTrId("card_plan_button")));
+    QTRY_VERIFY(!rig->saying(qtTrId("card_plan_button")));
     board().setShowManagePhases(true);
-    QTRY_VERIFY(hasKeyboard("managedNew"));
+    QTRY_VERIFY(rig->hasKeyboard("managedNew"));
     QCOMPARE(isCut(), QString());
     rig->keepPicture(QStringLiteral("phases-fr"));
     board().setShowManagePhases(false);
     rig->window()->resize(2560, 1440);
-    QTRY_VERIFY(!visible("managedNew"));
+    QTRY_VERIFY(!rig->visible("managedNew"));
     QCOMPARE(isCut(), QString());
     rig->keepPicture(QStringLiteral("board-large-fr"));
 }

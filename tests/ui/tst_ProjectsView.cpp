@@ -56,46 +56,7 @@ private:
     }
     void showProjects() {
         rig->showPage(UiRig::Page::projects);
-        QTRY_VERIFY(visible("projectSearch") || visible("firstProjectButton"));
-    }
-    [[nodiscard]] QQuickItem* visible(const char* name) const {
-        for (QQuickItem* item : rig->visibleItems()) {
-            if (item->objectName() == QLatin1String(name))
-                return item;
-        }
-        return nullptr;
-    }
-    [[nodiscard]] bool hasKeyboard(const char* name) const {
-        const QQuickItem* item = visible(name);
-        return item != nullptr && item->hasActiveFocus();
-    }
-    void tabTo(const char* name) const {
-        for (int presses = 0; presses < 40 && !hasKeyboard(name); ++presses)
-            rig->press(Qt::Key_Tab);
-        QVERIFY2(hasKeyboard(name), name);
-    }
-    /// Clicks an entry of a menu, once all of its entries have their places.
-    void clickEntry(const char* menu, int entries, const QString& text) const {
-        const auto* object = rig->window()->findChild<QObject*>(QLatin1String(menu));
-        QVERIFY(object);
-        QTRY_COMPARE(object->property("contentHeight").toDouble(), 36.0 * entries);
-        rig->click(saying(text));
-    }
-    /// Waits until the first row of a list has come to its top.
-    void waitForFirstRow(const char* list) const {
-        static_cast<void>(rig->window()->grabWindow()); // begins what moves the rows
-        QQuickItem* view = visible(list);
-        QQuickItem* row = nullptr;
-        QMetaObject::invokeMethod(view, "itemAtIndex", Q_RETURN_ARG(QQuickItem*, row), Q_ARG(int, 0));
-        QVERIFY(row);
-        QTRY_COMPARE(row->mapToItem(view, QPointF()).y(), 0.0);
-    }
-    [[nodiscard]] QQuickItem* saying(const QString& text) const {
-        for (QQuickItem* item : rig->visibleItems()) {
-            if (item->property("text").toString() == text)
-                return item;
-        }
-        return nullptr;
+        QTRY_VERIFY(rig->visible("projectSearch") || rig->visible("firstProjectButton"));
     }
     [[nodiscard]] ProjectSheet& sheet() const { return *rig->planning.projectSheet(); }
     [[nodiscard]] const std::vector<Project*>& projects() const { return rig->focus.context().projects(); }
@@ -105,10 +66,10 @@ private:
 
 void ProjectsViewTest::theFirstProjectIsMadeByKeyboardAlone() {
     showProjects();
-    QTRY_VERIFY(hasKeyboard("firstProjectButton"));
+    QTRY_VERIFY(rig->hasKeyboard("firstProjectButton"));
     rig->keepPicture(QStringLiteral("projects-empty"));
     rig->press(Qt::Key_Return);
-    QTRY_VERIFY(hasKeyboard("projectName"));
+    QTRY_VERIFY(rig->hasKeyboard("projectName"));
     rig->keepPicture(QStringLiteral("project-new"));
     rig->type(QStringLiteral("Garden"));
     rig->press(Qt::Key_Tab);
@@ -116,29 +77,29 @@ void ProjectsViewTest::theFirstProjectIsMadeByKeyboardAlone() {
     rig->press(Qt::Key_Return);
     rig->type(QStringLiteral("and a bed"));
     rig->press(Qt::Key_Tab);
-    QVERIFY(hasKeyboard("emojiPalette"));
+    QVERIFY(rig->hasKeyboard("emojiPalette"));
     rig->press(Qt::Key_Right);
     rig->press(Qt::Key_Down);
     rig->press(Qt::Key_Up);
     rig->press(Qt::Key_Tab);
-    QVERIFY(hasKeyboard("colorPalette"));
+    QVERIFY(rig->hasKeyboard("colorPalette"));
     rig->press(Qt::Key_End);
     rig->press(Qt::Key_Left);
     rig->press(Qt::Key_Backtab, Qt::ShiftModifier);
-    QVERIFY(hasKeyboard("emojiPalette"));
-    tabTo("phaseName");
+    QVERIFY(rig->hasKeyboard("emojiPalette"));
+    rig->tabTo("phaseName");
     rig->press(Qt::Key_A, Qt::ControlModifier);
     rig->type(QStringLiteral("Dig"));
-    tabTo("newPhase");
+    rig->tabTo("newPhase");
     rig->type(QStringLiteral("Sow"));
     rig->press(Qt::Key_Return);
     rig->type(QStringLiteral("Rest"));
     rig->press(Qt::Key_Return);
-    QVERIFY(hasKeyboard("newPhase"));
+    QVERIFY(rig->hasKeyboard("newPhase"));
     // Back into the last row, which goes up to the first place.
     rig->press(Qt::Key_Backtab, Qt::ShiftModifier);
     rig->press(Qt::Key_Backtab, Qt::ShiftModifier);
-    QVERIFY(hasKeyboard("phaseName") || hasKeyboard("phaseNames"));
+    QVERIFY(rig->hasKeyboard("phaseName") || rig->hasKeyboard("phaseNames"));
     rig->press(Qt::Key_Up, Qt::AltModifier);
     rig->press(Qt::Key_Up, Qt::AltModifier);
     rig->type(QStringLiteral("!")); // the keyboard went along
@@ -153,76 +114,76 @@ void ProjectsViewTest::theFirstProjectIsMadeByKeyboardAlone() {
     QCOMPARE(garden.colorHex(), QStringLiteral("#14b8a6"));
     QCOMPARE(garden.phases().size(), 3);
     // Its board is there.
-    QTRY_VERIFY(visible("boardTitle"));
+    QTRY_VERIFY(rig->visible("boardTitle"));
     QCOMPARE(rig->planning.board()->project(), &garden);
 }
 
 void ProjectsViewTest::projectsAreFoundOpenedAndDeletedByKeyboard() {
     fill();
     showProjects();
-    QTRY_VERIFY(hasKeyboard("projectGrid"));
+    QTRY_VERIFY(rig->hasKeyboard("projectGrid"));
     rig->press(Qt::Key_Right);
     rig->keepPicture(QStringLiteral("projects"));
     rig->press(Qt::Key_Up);
-    QVERIFY(hasKeyboard("projectSearch"));
+    QVERIFY(rig->hasKeyboard("projectSearch"));
     rig->type(QStringLiteral("zzz"));
-    QTRY_VERIFY(saying(qtTrId("projects_no_match_title")));
+    QTRY_VERIFY(rig->saying(qtTrId("projects_no_match_title")));
     rig->keepPicture(QStringLiteral("projects-no-match"));
     rig->press(Qt::Key_Escape);
     rig->type(QStringLiteral("thes"));
     QCOMPARE(rig->planning.projects()->projects()->count(), 1);
     rig->press(Qt::Key_Return);
-    QVERIFY(hasKeyboard("projectGrid"));
+    QVERIFY(rig->hasKeyboard("projectGrid"));
     rig->press(Qt::Key_F2);
-    QTRY_VERIFY(hasKeyboard("projectName"));
+    QTRY_VERIFY(rig->hasKeyboard("projectName"));
     QCOMPARE(sheet().name(), QStringLiteral("Thesis"));
     rig->press(Qt::Key_Escape);
-    QTRY_VERIFY(hasKeyboard("projectGrid"));
+    QTRY_VERIFY(rig->hasKeyboard("projectGrid"));
 
     rig->press(Qt::Key_Delete);
-    QTRY_VERIFY(saying(qtTrId("confirm_delete_project_title").arg(QStringLiteral("Thesis"))));
+    QTRY_VERIFY(rig->saying(qtTrId("confirm_delete_project_title").arg(QStringLiteral("Thesis"))));
     rig->keepPicture(QStringLiteral("projects-delete"));
     rig->press(Qt::Key_Return); // the harmless answer
-    QTRY_VERIFY(hasKeyboard("projectGrid"));
+    QTRY_VERIFY(rig->hasKeyboard("projectGrid"));
     QCOMPARE(projects().size(), size_t{4});
     rig->press(Qt::Key_Delete);
-    QTRY_VERIFY(saying(qtTrId("delete_button")));
+    QTRY_VERIFY(rig->saying(qtTrId("delete_button")));
     rig->press(Qt::Key_Tab);
     rig->press(Qt::Key_Return);
     QCOMPARE(projects().size(), size_t{3});
     rig->planning.edits()->undo();
     QTRY_COMPARE(rig->planning.projects()->projects()->count(), 1);
 
-    tabTo("projectGrid");
+    rig->tabTo("projectGrid");
     rig->press(Qt::Key_Menu);
-    QTRY_VERIFY(visible("projectGrid") && saying(qtTrId("project_open_button")));
+    QTRY_VERIFY(rig->visible("projectGrid") && rig->saying(qtTrId("project_open_button")));
     rig->keepPicture(QStringLiteral("projects-menu"));
     rig->press(Qt::Key_Down);
     rig->press(Qt::Key_Return);
     QTRY_VERIFY(rig->planning.board()->hasProject());
     QCOMPARE(rig->planning.board()->projectName(), QStringLiteral("Thesis"));
-    QTRY_VERIFY(visible("boardTitle"));
+    QTRY_VERIFY(rig->visible("boardTitle"));
     rig->press(Qt::Key_Escape);
-    QTRY_VERIFY(hasKeyboard("projectGrid"));
+    QTRY_VERIFY(rig->hasKeyboard("projectGrid"));
 }
 
 void ProjectsViewTest::aProjectIsEditedWithThePointer() {
     fill();
     showProjects();
-    QTRY_VERIFY(visible("projectSort"));
-    QTRY_VERIFY(saying(QStringLiteral("Thesis")));
-    rig->click(saying(QStringLiteral("Thesis")), Qt::RightButton);
-    QTRY_VERIFY(saying(qtTrId("edit_project")));
-    clickEntry("projectMenu", 3, qtTrId("edit_project"));
-    QTRY_VERIFY(visible("phaseNames"));
+    QTRY_VERIFY(rig->visible("projectSort"));
+    QTRY_VERIFY(rig->saying(QStringLiteral("Thesis")));
+    rig->click(rig->saying(QStringLiteral("Thesis")), Qt::RightButton);
+    QTRY_VERIFY(rig->saying(qtTrId("edit_project")));
+    rig->clickEntry("projectMenu", 3, qtTrId("edit_project"));
+    QTRY_VERIFY(rig->visible("phaseNames"));
     QVERIFY(!rig->planning.board()->hasProject()); // the tile under the menu was not meant
-    QTRY_VERIFY(visible("emojiPalette2"));
-    rig->click(visible("emojiPalette2"));
-    rig->click(visible("colorPalette3"));
+    QTRY_VERIFY(rig->visible("emojiPalette2"));
+    rig->click(rig->visible("emojiPalette2"));
+    rig->click(rig->visible("colorPalette3"));
     QCOMPARE(sheet().selectedEmoji(), QStringLiteral("🎯"));
     QCOMPARE(sheet().selectedColor(), QStringLiteral("#06b6d4"));
     // A handle is dragged by two rows.
-    QQuickItem* handle = visible("phaseName")->parentItem()->childItems().constFirst();
+    QQuickItem* handle = rig->visible("phaseName")->parentItem()->childItems().constFirst();
     const QPoint start = handle->mapToScene(QPointF(handle->width() / 2, handle->height() / 2)).toPoint();
     QTest::mousePress(rig->window(), Qt::LeftButton, {}, start);
     for (int step = 1; step <= 9; ++step)
@@ -233,14 +194,14 @@ void ProjectsViewTest::aProjectIsEditedWithThePointer() {
     Project* thesis = projects().front();
     for (ProjectPhase* phase : thesis->phases())
         thesis->tasks().at(phase->orderIndex())->setPhase(phase);
-    rig->click(visible("phaseRemove"));
-    QVERIFY(!visible("removalNote")->property("text").toString().isEmpty());
-    waitForFirstRow("phaseNames");
+    rig->click(rig->visible("phaseRemove"));
+    QVERIFY(!rig->visible("removalNote")->property("text").toString().isEmpty());
+    rig->waitForFirstRow("phaseNames");
     rig->keepPicture(QStringLiteral("project-edit"));
     const QStringList names = sheet().phaseNames();
     QCOMPARE(names.size(), 2);
-    rig->click(visible("projectSave"));
-    QTRY_VERIFY(!visible("projectName"));
+    rig->click(rig->visible("projectSave"));
+    QTRY_VERIFY(!rig->visible("projectName"));
     QCOMPARE(thesis->emoji(), QStringLiteral("🎯"));
     QCOMPARE(thesis->phases().size(), 2);
     QCOMPARE(thesis->sortedPhases().front()->name(), names.front());
@@ -249,21 +210,21 @@ void ProjectsViewTest::aProjectIsEditedWithThePointer() {
 void ProjectsViewTest::closingAsksOnlyWhenSomethingWouldBeLost() {
     showProjects();
     rig->press(Qt::Key_Return);
-    QTRY_VERIFY(hasKeyboard("projectName"));
+    QTRY_VERIFY(rig->hasKeyboard("projectName"));
     rig->press(Qt::Key_Escape);
     QTRY_VERIFY(!sheet().isPresented());
-    QTRY_VERIFY(hasKeyboard("firstProjectButton"));
+    QTRY_VERIFY(rig->hasKeyboard("firstProjectButton"));
     rig->press(Qt::Key_Return);
-    QTRY_VERIFY(hasKeyboard("projectName"));
+    QTRY_VERIFY(rig->hasKeyboard("projectName"));
     rig->type(QStringLiteral("x"));
     rig->press(Qt::Key_Escape);
-    QTRY_VERIFY(saying(qtTrId("project_discard_title")));
+    QTRY_VERIFY(rig->saying(qtTrId("project_discard_title")));
     rig->press(Qt::Key_Escape); // stays
-    QTRY_VERIFY(!saying(qtTrId("project_discard_title")));
+    QTRY_VERIFY(!rig->saying(qtTrId("project_discard_title")));
     QVERIFY(sheet().isPresented());
-    QTRY_VERIFY(hasKeyboard("projectName"));
+    QTRY_VERIFY(rig->hasKeyboard("projectName"));
     rig->press(Qt::Key_Escape);
-    QTRY_VERIFY(saying(qtTrId("project_discard_title")));
+    QTRY_VERIFY(rig->saying(qtTrId("project_discard_title")));
     rig->press(Qt::Key_Tab);
     rig->press(Qt::Key_Return);
     QTRY_VERIFY(!sheet().isPresented());
@@ -286,20 +247,20 @@ void ProjectsViewTest::nothingIsCutInFrench() {
     rig->keepPicture(QStringLiteral("projects-empty-fr"));
     QCOMPARE(isCut(), QString());
     fill();
-    QTRY_VERIFY(visible("projectGrid"));
+    QTRY_VERIFY(rig->visible("projectGrid"));
     QCOMPARE(isCut(), QString());
     rig->keepPicture(QStringLiteral("projects-fr"));
     rig->planning.projects()->editProject(projects().front()->id().toString());
-    QTRY_VERIFY(hasKeyboard("projectName"));
+    QTRY_VERIFY(rig->hasKeyboard("projectName"));
     projects().front()->tasks().front()->setPhase(projects().front()->phases().at(0));
-    rig->click(visible("phaseRemove"));
-    QVERIFY(!visible("removalNote")->property("text").toString().isEmpty());
+    rig->click(rig->visible("phaseRemove"));
+    QVERIFY(!rig->visible("removalNote")->property("text").toString().isEmpty());
     QCOMPARE(isCut(), QString());
-    waitForFirstRow("phaseNames");
+    rig->waitForFirstRow("phaseNames");
     rig->keepPicture(QStringLiteral("project-edit-fr"));
     rig->window()->resize(2560, 1440);
     sheet().setPresented(false);
-    QTRY_VERIFY(!visible("projectName"));
+    QTRY_VERIFY(!rig->visible("projectName"));
     QCOMPARE(isCut(), QString());
     rig->keepPicture(QStringLiteral("projects-large-fr"));
 }

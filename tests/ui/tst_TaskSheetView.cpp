@@ -150,15 +150,8 @@ void TaskSheetViewTest::subtasksAreDraggedAndFilesDropped() {
     rig->window()->update();
     QVERIFY(drawn.wait());
     QTest::mouseClick(rig->window(), Qt::LeftButton, {}, list->mapToScene(QPointF(80, 20)).toPoint());
-    const auto handle = [&]() -> QQuickItem* {
-        for (QQuickItem* shown : rig->visibleItems()) {
-            if (shown->objectName() == QLatin1String("subtaskHandle"))
-                return shown;
-        }
-        return nullptr;
-    };
-    QTRY_VERIFY(handle());
-    const QPoint from = handle()->mapToScene(QPointF(8, 8)).toPoint();
+    QTRY_VERIFY(rig->visible("subtaskHandle"));
+    const QPoint from = rig->visible("subtaskHandle")->mapToScene(QPointF(8, 8)).toPoint();
     QTest::mousePress(rig->window(), Qt::LeftButton, {}, from);
     for (int y = 0; y <= 90; y += 15)
         QTest::mouseMove(rig->window(), from + QPoint(0, y));
