@@ -6,7 +6,7 @@
 namespace norvin {
 
 NamedPlaces::NamedPlaces(const PlanningSnapshot& known, PlanningSnapshot& content, PlanningLines& lines,
-                         std::function<QString(const QString&)> form, const QDateTime& createdAt)
+                         const std::function<QString(const QString&)>& form, const QDateTime& createdAt)
     : m_content(content)
     , m_lines(lines)
     , m_createdAt(createdAt) {

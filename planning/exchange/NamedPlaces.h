@@ -17,7 +17,7 @@ public:
     /// @param known what the store has @param content takes the projects and phases that are made, with their
     /// lines @param form what a name becomes in the file; names of the same form are taken for one
     NamedPlaces(const PlanningSnapshot& known, PlanningSnapshot& content, PlanningLines& lines,
-                std::function<QString(const QString&)> form, const QDateTime& createdAt);
+                const std::function<QString(const QString&)>& form, const QDateTime& createdAt);
 
     /// The project of that form: of the store, without regard to case unless that tells two apart, or made by
     /// this file; else one is made. @param name of the project to make

@@ -4,6 +4,7 @@
 #include <QSet>
 
 #include <functional>
+#include <iterator>
 
 namespace norvin {
 
@@ -41,7 +42,7 @@ Problem repeatedId(const std::vector<Values>& list, const std::vector<int>& line
 template <class Values>
 QSet<decltype(Values::id)> idsOf(const std::vector<Values>& content, const std::vector<Values>& known) {
     QSet<decltype(Values::id)> ids;
-    ids.reserve(static_cast<qsizetype>(content.size() + known.size()));
+    ids.reserve(std::ssize(content) + std::ssize(known));
     for (const auto* list : {&content, &known}) {
         for (const Values& values : *list)
             ids.insert(values.id);

@@ -57,7 +57,7 @@ PlanningSnapshot sample() {
     return content;
 }
 
-QByteArray text(QByteArray tasks, const QByteArray& projects = {}) {
+QByteArray text(const QByteArray& tasks, const QByteArray& projects = {}) {
     return "{\n\"format\": \"norvin-focus-planning\",\n\"version\": 1,\n\"projects\": [" + projects +
            "],\n\"phases\": [],\n\"resources\": [],\n\"tasks\": [\n" + tasks + "]}\n";
 }
