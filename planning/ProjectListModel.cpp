@@ -85,7 +85,7 @@ void ProjectListModel::countTasks(const Project& project) {
     tile.phases = static_cast<int>(project.phases().size());
     tile.searchKey = searchKey(project.name() + QLatin1Char('\n') + project.projectDescription());
     tile.nameKey = m_collator.sortKey(project.name());
-    m_tiles.insert(&project, std::move(tile));
+    m_tiles.insert(&project, tile);
 }
 
 bool ProjectListModel::comesBefore(const Project& a, const Project& b) const {
