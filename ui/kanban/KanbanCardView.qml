@@ -128,7 +128,7 @@ Item {
                 }
 
                 CardFact {
-                    symbol: "calendar.badge.exclamationmark"
+                    symbol: root.isOverdue ? "calendar.badge.exclamationmark" : "clock.fill"
                     text: root.dueText
                     color: root.isOverdue ? Theme.dangerText : Theme.textMuted
                 }
