@@ -28,7 +28,7 @@ Page {
     Keys.onPressed: event => {
         event.accepted = event.key === Qt.Key_N && (event.modifiers & Qt.ControlModifier);
         if (event.accepted)
-            root.model.plan("");
+            root.model.plan("quickAdd");
     }
 
     Binding {
