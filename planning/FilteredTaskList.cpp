@@ -121,8 +121,7 @@ void FilteredTaskList::completeAt(int row) {
     const QString text = qtTrId("undo_completed_format").arg(task->title());
     const auto before = statusesOf(*task);
     const QDateTime planned = task->plannedDate();
-    task->setStatus(TaskStatus::done);
-    m_with.timer.recordTaskCompletion(false);
+    m_with.edits.setStatus(*task, TaskStatus::done);
     m_with.edits.offerUndo(text, [&context = m_with.context, before, planned, id = task->id()] {
         for (const auto& [taskId, status] : before) {
             if (TaskItem* const ticked = context.task(taskId))

@@ -2,6 +2,7 @@
 
 #include "focus/PomodoroTimerService.h"
 #include "model/ModelContext.h"
+#include "planning/PlanningTexts.h"
 #include "platform/Clock.h"
 
 #include <QStringList>
@@ -23,14 +24,6 @@ QString deletedText(const QString& name) {
     return qtTrId("undo_deleted_format").arg(name);
 }
 
-// "A", "A and B", "A, B and C".
-QString enumeration(QStringList parts) {
-    if (parts.size() < 2)
-        return parts.join(QString());
-    const QString last = parts.takeLast();
-    return qtTrId("enumeration_and").arg(parts.join(QStringLiteral(", ")), last);
-}
-
 struct Consequences {
     qsizetype tasks = 0;
     qsizetype subtasks = 0;
@@ -49,7 +42,7 @@ struct Consequences {
         add("count_phases", phases);
         add("count_files", resources);
         add("count_sessions", sessions);
-        return parts.isEmpty() ? QString() : qtTrId("deletion_takes_along").arg(enumeration(parts));
+        return parts.isEmpty() ? QString() : qtTrId("deletion_takes_along").arg(enumerated(parts));
     }
 };
 

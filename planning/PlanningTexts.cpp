@@ -12,4 +12,11 @@ QString textOfDay(const std::optional<QString>& formatted) {
     return formatted.value_or(QString());
 }
 
+QString enumerated(QStringList parts) {
+    if (parts.size() < 2)
+        return parts.join(QString());
+    const QString last = parts.takeLast();
+    return qtTrId("enumeration_and").arg(parts.join(QStringLiteral(", ")), last);
+}
+
 } // namespace norvin

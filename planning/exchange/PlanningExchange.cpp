@@ -2,6 +2,7 @@
 
 #include "model/ModelContext.h"
 #include "planning/PlanningEdits.h"
+#include "planning/PlanningTexts.h"
 #include "planning/exchange/CalendarFile.h"
 #include "planning/exchange/PlanningJson.h"
 #include "planning/exchange/TodoTxt.h"
@@ -222,12 +223,7 @@ QString planningCountsText(const SnapshotCounts& counts) {
     add("count_projects", counts.projects);
     add("count_phases", counts.phases);
     add("count_files", counts.resources);
-    if (parts.isEmpty())
-        return qtTrId("count_tasks", 0);
-    if (parts.size() == 1)
-        return parts.constFirst();
-    const QString last = parts.takeLast();
-    return qtTrId("enumeration_and").arg(parts.join(QStringLiteral(", ")), last);
+    return parts.isEmpty() ? qtTrId("count_tasks", 0) : enumerated(parts);
 }
 
 QString importText(const PlanningExchange::Imported& imported) {
