@@ -75,6 +75,7 @@ FocusScope {
             spacing: Theme.gap4
 
             LabelledItem {
+                Layout.alignment: Qt.AlignTop
                 Layout.fillWidth: true
                 Layout.preferredWidth: 1
                 label: qsTrId("task_project_label")
@@ -90,6 +91,7 @@ FocusScope {
             }
 
             LabelledItem {
+                Layout.alignment: Qt.AlignTop
                 Layout.fillWidth: true
                 Layout.preferredWidth: 1
                 opacity: root.entry.phases.length > 1 ? 1 : 0
@@ -111,6 +113,7 @@ FocusScope {
             spacing: Theme.gap4
 
             LabelledItem {
+                Layout.alignment: Qt.AlignTop
                 Layout.fillWidth: true
                 Layout.preferredWidth: 1
                 label: qsTrId("task_priority_label")
@@ -126,6 +129,7 @@ FocusScope {
             }
 
             LabelledItem {
+                Layout.alignment: Qt.AlignTop
                 Layout.fillWidth: true
                 Layout.preferredWidth: 1
                 label: qsTrId("planning_day_label")
