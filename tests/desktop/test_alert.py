@@ -76,7 +76,8 @@ class Stage:
     def tell(self, command):
         self.process.stdin.write(f"{command}\n".encode())
         self.process.stdin.flush()
-        while read_line(self.process.stdout.fileno(), f"the answer to {command!r}") != "done":
+        # What the program logs stands on the same output, and may come along with the answer.
+        while not read_line(self.process.stdout.fileno(), f"the answer to {command!r}").endswith("done"):
             pass
 
     def windows(self):

@@ -60,7 +60,8 @@ class ProcessGroup:
 
 
 def read_line(descriptor, what, timeout=15.0):
-    """The first line that appears on a descriptor, without its end."""
+    """What appears on a descriptor up to the end of a line, without that end; usually one line, but all that came
+    at once."""
     deadline = time.monotonic() + timeout
     received = b""
     while not received.endswith(b"\n"):
