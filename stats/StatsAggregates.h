@@ -12,8 +12,9 @@
 
 namespace norvin {
 
-// The rules of the statistics, on plain values. "Now" always comes with the calendar that it is judged by:
-// the one of the tables.
+class PomodoroTimerService;
+
+// The rules of the statistics, on plain values. Days are Julian day numbers in the calendar of the tables.
 
 /// What a work phase that runs adds to the figures.
 struct LiveWork {
@@ -22,6 +23,8 @@ struct LiveWork {
     /// 0 to 10.
     double score = 0;
 };
+/// None while paused, in breaks, and when nothing runs.
+[[nodiscard]] std::optional<LiveWork> liveWork(const PomodoroTimerService& timer);
 
 struct CategoryTotal {
     QString category;
@@ -63,6 +66,18 @@ enum class BucketUnit { hour, day, month };
 [[nodiscard]] int countSessions(SessionSpan sessions);
 /// Whole minutes.
 [[nodiscard]] int focusMinutes(SessionSpan sessions, const std::optional<LiveWork>& live);
+/// The scores that there are.
+struct ScoreSum {
+    double sum = 0;
+    int count = 0;
+    void add(double score) {
+        sum += score;
+        ++count;
+    }
+    /// 0 where there is none.
+    [[nodiscard]] double mean() const { return count == 0 ? 0 : sum / count; }
+};
+[[nodiscard]] ScoreSum sumScores(SessionSpan sessions);
 /// The mean of the scores that there are; 0 where there is none.
 [[nodiscard]] double averageScore(SessionSpan sessions, const std::optional<LiveWork>& live);
 /// Days in a row with a session, today the last of them; 365 at most.
@@ -77,6 +92,8 @@ struct BestDay {
 [[nodiscard]] std::array<int, 24> buildHourlyData(SessionSpan sessions, const StatsDays& days);
 /// Minutes by day of the week, Monday first.
 [[nodiscard]] std::array<int, 7> buildWeekdayData(SessionSpan sessions);
+/// Of a Julian day number: 0 for Monday to 6 for Sunday.
+[[nodiscard]] int weekdayOf(qint64 day);
 /// The minutes of a period over time: hours for a day, days for weeks, else months. Without a gap from the
 /// start of the period (for all time: from the first session's month) to now, and on to the last session
 /// where that lies in the future; what lies beyond 1,200 buckets belongs to the first or the last of them.

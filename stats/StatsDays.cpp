@@ -1,8 +1,17 @@
 #include "stats/StatsDays.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace norvin {
+
+namespace {
+
+// What a calendar can name; only a file that was written by hand has anything else.
+constexpr Instant earliest{-62'135'596'800'000};
+constexpr Instant latest{253'402'300'799'000};
+
+} // namespace
 
 Instant StatsDays::startOf(qint64 day) const {
     // No zone has left out more than a day at a time.
@@ -17,6 +26,10 @@ Instant StatsDays::startOf(qint64 day) const {
 qint64 StatsDays::dayOf(Instant instant) {
     if (m_start <= instant && instant < m_end)
         return m_day;
+    // A day's distance from both ends, so that every day has a next one.
+    constexpr qint64 margin = 3LL * 24 * 3600 * 1000;
+    instant = std::clamp(instant, Instant(earliest.milliseconds() + margin),
+                         Instant(latest.milliseconds() - margin));
     // The date of the clock on the wall is right but for hours that are shown twice around midnight.
     qint64 day = dateTime(instant).date().toJulianDay();
     Instant start = startOf(day);

@@ -88,12 +88,16 @@ public:
     [[nodiscard]] size_t bytes() const;
 
 private:
+    static void addTo(UsageEntry& sum, const UsageEntry& more);
+    void addToEarlierDay(const UsageEntry& entry);
+    void sortLastDay();
+
     StatsDays m_days;
     std::vector<SessionRow> m_sessions;
     std::vector<UsageEntry> m_usage;
     std::vector<UsageSource> m_sources;
     QHash<QString, std::vector<int>> m_sourcesOfBundle;
-    /// For the sources of the last day: the place of their entry, or -1.
+    /// By source: the place of its entry of the last day, or −1.
     std::vector<std::ptrdiff_t> m_lastDayEntries;
     size_t m_lastDayBegin = 0;
 };
