@@ -62,8 +62,9 @@ public:
     Q_INVOKABLE void refresh();
     /// Lists the records behind a figure, bar or slice of the tab that is shown.
     /// @param what "sessions", "focus", "score", "streak", "apps", "best_day", "hour", "bucket", "weekday",
-    ///   "category" or "application"
-    /// @param key that of the chart's point, or the bundle identifier; empty for a figure
+    ///   "category", "application" or "session"
+    /// @param key that of the chart's point, the bundle identifier, or the id of the session; empty for a
+    ///   figure
     Q_INVOKABLE void explain(const QString& what, const QString& key = {});
     /// Looks at the clock again, which may have jumped.
     void refreshDay();
