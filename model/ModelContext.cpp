@@ -224,6 +224,24 @@ void ModelContext::remove(const SessionId& session) {
     Q_EMIT sessionsRemoved();
 }
 
+bool ModelContext::setSessionTask(const SessionId& session, std::optional<TaskId> task) {
+    if (task && this->task(*task) == nullptr)
+        return false;
+    std::optional<Session> record = this->session(session);
+    if (!record || record->task == task)
+        return false;
+    record->task = task;
+    const auto replace = [&] {
+        d->records.replace(*record);
+        return true;
+    };
+    if (!d->guarded(replace, false))
+        return false;
+    d->scheduleSave();
+    Q_EMIT sessionsEdited();
+    return true;
+}
+
 void ModelContext::moveTask(TaskItem& task, TaskItem* before) {
     if (task.context() != this || !d->graph->move(task, before))
         return;
@@ -278,6 +296,15 @@ QList<Session> ModelContext::fetchSessions(const RecordQuery& query) const {
 
 QList<AppUsageSession> ModelContext::fetchAppUsage(const RecordQuery& query) const {
     return d->fetch<AppUsageSession>(query);
+}
+
+std::optional<Session> ModelContext::session(const SessionId& id) const {
+    return d->guarded([&] { return d->records.session(id); }, std::optional<Session>());
+}
+
+RecordCut ModelContext::cutRecords() {
+    static_cast<void>(save());
+    return d->guarded([this] { return d->records.cut(); }, RecordCut());
 }
 
 StoreResult ModelContext::save() {

@@ -3,6 +3,7 @@
 #include "model/AppUsageSession.h"
 #include "model/Project.h"
 #include "model/ProjectPhase.h"
+#include "model/RecordCut.h"
 #include "model/Session.h"
 #include "model/StoreError.h"
 #include "model/TaskItem.h"
@@ -58,6 +59,9 @@ public:
     void remove(TaskResource& resource);
     /// An unknown session is ignored. Where the store cannot be read, that is logged and the session stays.
     void remove(const SessionId& session);
+    /// Says what a recorded session was spent on; none for nothing. A task that is not in the context, and a
+    /// session that is not there, change nothing. @return whether there is something to save
+    bool setSessionTask(const SessionId& session, std::optional<TaskId> task);
 
     /// Puts a task before one of its siblings in store order, or after the last of them for null: the other
     /// subtasks of its parent, or the other tasks without one. Anything else changes nothing.
@@ -83,6 +87,11 @@ public:
     /// read.
     [[nodiscard]] QList<Session> fetchSessions(const RecordQuery& query = {}) const;
     [[nodiscard]] QList<AppUsageSession> fetchAppUsage(const RecordQuery& query = {}) const;
+    /// None when there is no such session. A read error is logged and gives none.
+    [[nodiscard]] std::optional<Session> session(const SessionId& id) const;
+    /// Saves, and says how the records in the file and here stand now. A read error is logged and gives a cut
+    /// without rows.
+    [[nodiscard]] RecordCut cutRecords();
 
     /// Writes all changes in one transaction.
     /// @return none on success; on failure the changes stay for the next save
@@ -112,6 +121,8 @@ Q_SIGNALS:
     void sessionInserted(const norvin::Session& session);
     /// Sessions were removed, on their own or with their task.
     void sessionsRemoved();
+    /// The task of a session is another one.
+    void sessionsEdited();
     void appUsageInserted(const norvin::AppUsageSession& usage);
     /// Everything up to now is on the disk.
     void saved();

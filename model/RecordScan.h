@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/AppUsageSession.h"
 #include "model/Instant.h"
 #include "model/Session.h"
 #include "model/StoreError.h"
@@ -53,9 +54,10 @@ public:
     RecordScan& operator=(const RecordScan&) = delete;
     ~RecordScan();
 
-    // All by ascending start, of equal ones in store order.
+    // All by ascending start, of equal ones in store order. Each stops at a read error, which it answers.
 
     [[nodiscard]] StoreResult sources(std::vector<StoredSource>& sources);
+    /// Their starts are in UTC.
     [[nodiscard]] StoreResult sessions(const Range& range, const Visit<Session>& visit);
     [[nodiscard]] StoreResult usage(const Range& range, const Visit<StoredInterval>& visit);
     /// @param sources only intervals of these
@@ -63,6 +65,8 @@ public:
     [[nodiscard]] StoreResult usageOf(const std::vector<qint64>& sources, const Range& range,
                                       const std::optional<StoredInterval>& after,
                                       const Visit<StoredInterval>& visit);
+    /// With all that the store holds of them; both ends are in UTC.
+    [[nodiscard]] StoreResult usageRecords(const Range& range, const Visit<AppUsageSession>& visit);
 
 private:
     class Private;

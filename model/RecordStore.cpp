@@ -5,6 +5,12 @@
 #include <algorithm>
 #include <limits>
 
+// What a row of a session is read from.
+#define NORVIN_SESSION_COLUMNS                                                                               \
+    "SELECT id, startTime, durationMinutes, completed, task, score, interruptionCount, "                     \
+    "blockedAttemptsCount, blockedSiteAttemptsCount, legitimateTimeSeconds, distractedTimeSeconds "          \
+    "FROM Session "
+
 namespace norvin {
 
 namespace {
@@ -41,6 +47,26 @@ void bindRange(SQLite::Statement& statement, const Range& range) {
     statement.bind(2, range.to);
 }
 
+// Of a row with the columns of NORVIN_SESSION_COLUMNS.
+Session sessionOf(const SQLite::Statement& row) {
+    Session session{.id = SessionId(row::uuid(row, 0)),
+                    .startTime = row::instant(row, 1),
+                    .durationMinutes = row.getColumn(2).getInt(),
+                    .completed = row.getColumn(3).getInt() != 0,
+                    .task = {},
+                    .score = {},
+                    .interruptionCount = row.getColumn(6).getInt(),
+                    .blockedAttemptsCount = row.getColumn(7).getInt(),
+                    .blockedSiteAttemptsCount = row.getColumn(8).getInt(),
+                    .legitimateTimeSeconds = row.getColumn(9).getInt(),
+                    .distractedTimeSeconds = row.getColumn(10).getInt()};
+    if (!row.isColumnNull(4))
+        session.task = TaskId(row::uuid(row, 4));
+    if (!row.isColumnNull(5))
+        session.score = row.getColumn(5).getDouble();
+    return session;
+}
+
 } // namespace
 
 bool RecordStore::remove(const SessionId& id) {
@@ -50,6 +76,42 @@ bool RecordStore::remove(const SessionId& id) {
         return false;
     m_removedSessions.insert(id);
     return true;
+}
+
+std::optional<Session> RecordStore::session(const SessionId& id) {
+    const auto unsaved = std::find_if(m_newSessions.cbegin(), m_newSessions.cend(),
+                                      [&id](const Session& session) { return session.id == id; });
+    if (unsaved != m_newSessions.cend())
+        return *unsaved;
+    if (m_removedSessions.contains(id))
+        return std::nullopt;
+    const CachedStatement query = m_connection.statement(NORVIN_SESSION_COLUMNS "WHERE id = ?1");
+    row::bind(*query, 1, id.uuid());
+    if (!query->executeStep())
+        return std::nullopt;
+    Session stored = sessionOf(*query);
+    if (stored.task && m_removedTasks.contains(*stored.task))
+        return std::nullopt;
+    return stored;
+}
+
+void RecordStore::replace(const Session& session) {
+    remove(session.id);
+    m_newSessions.push_back(session);
+}
+
+RecordCut RecordStore::cut() {
+    const auto last = [this](const char* sql) -> qint64 {
+        const CachedStatement query = m_connection.statement(sql);
+        query->executeStep();
+        return query->getColumn(0).getInt64();
+    };
+    return {.lastSessionRow = last("SELECT max(rowid) FROM Session"),
+            .lastUsageRow = last("SELECT max(rowid) FROM AppUsageSession"),
+            .unsavedSessions = QList<Session>(m_newSessions.cbegin(), m_newSessions.cend()),
+            .unsavedUsage = QList<AppUsageSession>(m_newUsage.cbegin(), m_newUsage.cend()),
+            .removedSessions = m_removedSessions,
+            .removedTasks = m_removedTasks};
 }
 
 bool RecordStore::isStored(const SessionId& id) {
@@ -81,36 +143,16 @@ void RecordStore::fetch(const RecordQuery& query, QList<Session>& sessions) {
     {
         const CachedStatement rows =
             query.task
-                ? m_connection.statement(
-                      "SELECT id, startTime, durationMinutes, completed, task, score, interruptionCount, "
-                      "blockedAttemptsCount, blockedSiteAttemptsCount, legitimateTimeSeconds, "
-                      "distractedTimeSeconds "
-                      "FROM Session WHERE task = ?3 AND startTime >= ?1 AND startTime < ?2 ORDER BY "
-                      "startTime, rowid")
-                : m_connection.statement(
-                      "SELECT id, startTime, durationMinutes, completed, task, score, interruptionCount, "
-                      "blockedAttemptsCount, blockedSiteAttemptsCount, legitimateTimeSeconds, "
-                      "distractedTimeSeconds "
-                      "FROM Session WHERE startTime >= ?1 AND startTime < ?2 ORDER BY startTime, rowid");
+                ? m_connection.statement(NORVIN_SESSION_COLUMNS
+                                         "WHERE task = ?3 AND startTime >= ?1 AND startTime < ?2 "
+                                         "ORDER BY startTime, rowid")
+                : m_connection.statement(NORVIN_SESSION_COLUMNS "WHERE startTime >= ?1 AND startTime < ?2 "
+                                                                "ORDER BY startTime, rowid");
         bindRange(*rows, range);
         if (query.task)
             row::bind(*rows, 3, query.task->uuid());
         while (rows->executeStep()) {
-            Session session{.id = SessionId(row::uuid(*rows, 0)),
-                            .startTime = row::instant(*rows, 1),
-                            .durationMinutes = rows->getColumn(2).getInt(),
-                            .completed = rows->getColumn(3).getInt() != 0,
-                            .task = {},
-                            .score = {},
-                            .interruptionCount = rows->getColumn(6).getInt(),
-                            .blockedAttemptsCount = rows->getColumn(7).getInt(),
-                            .blockedSiteAttemptsCount = rows->getColumn(8).getInt(),
-                            .legitimateTimeSeconds = rows->getColumn(9).getInt(),
-                            .distractedTimeSeconds = rows->getColumn(10).getInt()};
-            if (!rows->isColumnNull(4))
-                session.task = TaskId(row::uuid(*rows, 4));
-            if (!rows->isColumnNull(5))
-                session.score = rows->getColumn(5).getDouble();
+            Session session = sessionOf(*rows);
             if (m_removedSessions.contains(session.id) ||
                 (session.task && m_removedTasks.contains(*session.task)))
                 continue;

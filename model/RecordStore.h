@@ -2,6 +2,7 @@
 
 #include "model/AppUsageSession.h"
 #include "model/ModelContext.h"
+#include "model/RecordCut.h"
 #include "model/Session.h"
 
 #include <QHash>
@@ -26,6 +27,11 @@ public:
     void add(const AppUsageSession& usage) { m_newUsage.push_back(usage); }
     /// @return false when there is no such session
     bool remove(const SessionId& id);
+    /// None when there is no such session.
+    [[nodiscard]] std::optional<Session> session(const SessionId& id);
+    /// Puts another session in the place of the one with its id, which must be there.
+    void replace(const Session& session);
+    [[nodiscard]] RecordCut cut();
     /// Forgets the sessions of tasks that leave; those in the file go with the row of their task.
     /// @return whether there were any
     bool forgetSessionsOf(const std::vector<TaskItem*>& tasks);

@@ -18,6 +18,11 @@ void RowCursor::Finalizer::operator()(sqlite3_stmt* statement) const {
     sqlite3_finalize(statement);
 }
 
+void RowCursor::bind(int parameter, qint64 value) {
+    if (const int result = sqlite3_bind_int64(m_statement.get(), parameter, value); result != SQLITE_OK)
+        throw SQLite::Exception(m_database, result);
+}
+
 bool RowCursor::next() {
     switch (const int result = sqlite3_step(m_statement.get())) {
     case SQLITE_ROW:
@@ -39,6 +44,10 @@ int RowCursor::number(int column) const {
 
 qint64 RowCursor::place(int column) const {
     return sqlite3_column_int64(m_statement.get(), column);
+}
+
+double RowCursor::real(int column) const {
+    return sqlite3_column_double(m_statement.get(), column);
 }
 
 // The pointer has to be asked for before the length, which is that of its representation.

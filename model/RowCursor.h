@@ -19,14 +19,18 @@ class RowCursor final {
 public:
     RowCursor(sqlite3* database, const char* sql);
 
+    /// Gives a parameter of the query, from 1, its value; to be done before the first row.
+    void bind(int parameter, qint64 value);
+
     /// Goes to the next row. @return false after the last one
     [[nodiscard]] bool next();
 
     // Values of the current row, by column number from 0.
     [[nodiscard]] bool isNull(int column) const;
     [[nodiscard]] int number(int column) const;
-    /// A rowid.
+    /// A rowid, or any number that may be larger than an int.
     [[nodiscard]] qint64 place(int column) const;
+    [[nodiscard]] double real(int column) const;
     /// Null for a value that is no id.
     [[nodiscard]] QUuid uuid(int column) const;
     [[nodiscard]] QString text(int column) const;

@@ -135,6 +135,7 @@ OpenResult StoreConnection::tryOpen(const QString& file, std::chrono::millisecon
         SQLite::Database& database = connection->m_database;
         if (schema::isBlank(database))
             schema::create(database);
+        schema::renewIndexes(database);
         if (auto difference = schema::validate(database))
             return *std::move(difference);
         database.setBusyTimeout(static_cast<int>(saveLockWait.count()));

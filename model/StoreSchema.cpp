@@ -4,9 +4,11 @@
 #include <SQLiteCpp/Statement.h>
 #include <SQLiteCpp/Transaction.h>
 
+#include <algorithm>
 #include <array>
 #include <map>
 #include <string>
+#include <string_view>
 
 namespace norvin::schema {
 
@@ -93,8 +95,9 @@ constexpr std::array objects{
     endTime INTEGER NOT NULL,
     durationSeconds INTEGER NOT NULL
 ) STRICT)"},
+    // All that statistics read of an interval, so that they never look at the table.
     Object{"AppUsageSession_startTime",
-           "CREATE INDEX AppUsageSession_startTime ON AppUsageSession(startTime)"},
+           "CREATE INDEX AppUsageSession_startTime ON AppUsageSession(startTime, source, durationSeconds)"},
     Object{"SessionLog", R"(CREATE VIEW SessionLog AS
 SELECT datetime(Session.startTime / 1000, 'unixepoch', 'localtime') AS start,
     Session.durationMinutes AS minutes,
@@ -125,6 +128,18 @@ JOIN AppUsageSource ON AppUsageSource.id = AppUsageSession.source
 ORDER BY AppUsageSession.startTime)"},
 };
 
+// Indexes as earlier versions of the program made them.
+constexpr std::array formerIndexes{
+    Object{"AppUsageSession_startTime",
+           "CREATE INDEX AppUsageSession_startTime ON AppUsageSession(startTime)"},
+};
+
+bool isAsIn(SQLite::Database& database, const Object& object) {
+    SQLite::Statement query(database, "SELECT sql FROM sqlite_schema WHERE name = ?1");
+    query.bind(1, object.name);
+    return query.executeStep() && query.getColumn(0).getString() == object.sql;
+}
+
 } // namespace
 
 bool isBlank(SQLite::Database& database) {
@@ -141,6 +156,21 @@ void create(SQLite::Database& database) {
         database.exec(object.sql);
     database.exec("PRAGMA user_version = " + std::to_string(version));
     transaction.commit();
+}
+
+void renewIndexes(SQLite::Database& database) {
+    for (const Object& former : formerIndexes) {
+        if (!isAsIn(database, former))
+            continue;
+        const auto* const current =
+            std::find_if(objects.begin(), objects.end(), [&former](const Object& object) {
+                return std::string_view(object.name) == former.name;
+            });
+        SQLite::Transaction transaction(database, SQLite::TransactionBehavior::IMMEDIATE);
+        database.exec(std::string("DROP INDEX ") + former.name);
+        database.exec(current->sql);
+        transaction.commit();
+    }
 }
 
 StoreResult validate(SQLite::Database& database) {
