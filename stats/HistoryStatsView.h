@@ -38,7 +38,7 @@ class HistoryStatsView final : public QObject {
     /// Whether any day of the week has a minute.
     Q_PROPERTY(bool hasDistribution READ hasDistribution NOTIFY sectionsChanged)
     Q_PROPERTY(bool hasUsage READ hasUsage NOTIFY sectionsChanged)
-    /// Minutes over time; see chartData(). A label only where one fits.
+    /// Minutes over time; see chartData(). Each has a label, of which the chart shows those that fit.
     Q_PROPERTY(norvin::ChartModel* focus READ focus CONSTANT)
     /// 7 points: minutes by day of the week, Monday first.
     Q_PROPERTY(norvin::ChartModel* weekdays READ weekdays CONSTANT)
@@ -93,6 +93,7 @@ public:
     void update();
     /// What the timer adds may have changed.
     void updateLive();
+    /// The texts in the language of now; those of the records with the next update().
     void retranslate(const QLocale& locale);
 
 Q_SIGNALS:
@@ -101,6 +102,8 @@ Q_SIGNALS:
     void sectionsChanged();
 
 private:
+    void showWeekdays(SessionSpan sessions);
+    void showRecent(SessionSpan sessions);
     void showBuckets();
 
     const StatsRecords& m_records;
@@ -114,13 +117,13 @@ private:
     StatsSessionRows* m_recent;
     int m_sessionCount = 0;
     int m_recordedMinutes = 0;
-    double m_scoreSum = 0;
-    int m_scoreCount = 0;
+    ScoreSum m_recordedScores;
     std::optional<BestDay> m_bestDay;
     qint64 m_usageSeconds = 0;
     bool m_hasUsage = false;
     /// Without the work phase that runs.
     std::vector<TimeBucket> m_buckets;
+    /// Those that move with the timer, as they were last told.
     QString m_shownFigures;
 };
 

@@ -49,7 +49,7 @@ public:
     enum Level {
         Records,   ///< sessions, days or applications
         Intervals, ///< those of one application
-        Session,   ///< one session
+        OneSession,
         TaskChoice ///< another task for it
     };
     Q_ENUM(Level)

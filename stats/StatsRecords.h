@@ -60,9 +60,13 @@ Q_SIGNALS:
 
 private:
     enum class Stage { empty, month, sessions, complete };
+    enum class Wanted { everything, sessions };
     struct Reading;
-    void startReading();
+    void startReading(Wanted wanted);
     void readSessionsAgain();
+    static void read(const Reading& reading, StatsRecords* receiver, const std::shared_ptr<Reading>& which);
+    void readThroughContext();
+    void watchMidnight();
     void take(Stage stage, StatsTables tables);
     void fail(const QString& problem);
     void cancelReading();

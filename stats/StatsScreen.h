@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QString>
 
+#include <chrono>
 #include <functional>
 #include <memory>
 
@@ -16,8 +17,6 @@ class Clock;
 class ClockTimer;
 class ModelContext;
 class PomodoroTimerService;
-class StatsExplanation;
-class StatsExport;
 
 /// The statistics page: today and the history. Reads the records only while it is open. Main thread only.
 class StatsScreen final : public QObject {
@@ -32,9 +31,10 @@ class StatsScreen final : public QObject {
     Q_PROPERTY(QString problem READ problem NOTIFY waitingChanged)
     Q_PROPERTY(norvin::TodayStatsView* today READ today CONSTANT)
     Q_PROPERTY(norvin::HistoryStatsView* history READ history CONSTANT)
-    Q_PROPERTY(norvin::StatsExplanation* explanation READ explanation CONSTANT)
-    Q_PROPERTY(norvin::StatsExport* files READ files CONSTANT)
 public:
+    /// How long the first figures may take before the page says that it waits.
+    static constexpr std::chrono::milliseconds patience{200};
+
     /// Offers to take back what was just done: a sentence about it, and what takes it back.
     using OfferUndo = std::function<void(const QString& text, std::function<void()> takeBack)>;
 
@@ -50,8 +50,6 @@ public:
     [[nodiscard]] QString problem() const { return m_records.problem(); }
     [[nodiscard]] TodayStatsView* today() { return &m_today; }
     [[nodiscard]] HistoryStatsView* history() { return &m_history; }
-    [[nodiscard]] StatsExplanation* explanation() const { return m_explanation.get(); }
-    [[nodiscard]] StatsExport* files() const { return m_files.get(); }
     [[nodiscard]] StatsRecords& records() { return m_records; }
 
     /// The page is seen.
@@ -75,18 +73,19 @@ Q_SIGNALS:
     void waitingChanged();
 
 private:
+    void scheduleUpdate();
     void update();
     void updateLive();
+    void showWaiting();
 
     StatsRecords m_records;
     TodayStatsView m_today;
     HistoryStatsView m_history;
-    std::unique_ptr<StatsExplanation> m_explanation;
-    std::unique_ptr<StatsExport> m_files;
     Clock& m_clock;
     std::unique_ptr<ClockTimer> m_patience;
-    QString m_tab;
+    QString m_tab = QStringLiteral("today");
     bool m_isOpen = false;
+    bool m_isUpdateScheduled = false;
     bool m_isWaiting = false;
 };
 

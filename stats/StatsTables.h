@@ -30,6 +30,7 @@ struct SessionRow {
     int legitimateTimeSeconds = 0;
     int distractedTimeSeconds = 0;
     bool completed = false;
+    bool operator==(const SessionRow&) const = default;
 };
 
 /// An application under one of the names and categories that it was recorded with.

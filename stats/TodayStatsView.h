@@ -73,6 +73,7 @@ public:
     void update();
     /// What the timer adds may have changed.
     void updateLive();
+    /// The texts in the language of now; those of the records with the next update().
     void retranslate(const QLocale& locale);
 
 Q_SIGNALS:
@@ -80,6 +81,9 @@ Q_SIGNALS:
     void sectionsChanged();
 
 private:
+    void showHours(SessionSpan sessions);
+    void showScores();
+
     const StatsRecords& m_records;
     const PomodoroTimerService& m_timerService;
     QLocale m_locale;
@@ -90,11 +94,11 @@ private:
     StatsSessionRows* m_sessions;
     int m_sessionCount = 0;
     int m_recordedMinutes = 0;
-    double m_scoreSum = 0;
-    int m_scoreCount = 0;
+    ScoreSum m_recordedScores;
     int m_streak = 0;
     qint64 m_usageSeconds = 0;
     bool m_hasUsage = false;
+    /// Those that move with the timer, as they were last told.
     QString m_shownFigures;
 };
 
