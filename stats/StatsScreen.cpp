@@ -13,6 +13,10 @@ StatsScreen::StatsScreen(ModelContext& context, const QString& storeFile, Pomodo
     , m_records(context, storeFile, clock)
     , m_today(m_records, timer, context)
     , m_history(m_records, timer, context)
+    , m_files(context, storeFile, clock,
+              {.today = m_today,
+               .history = m_history,
+               .showsToday = [this] { return m_tab == QLatin1String("today"); }})
     , m_clock(clock) {
     connect(&m_records, &StatsRecords::changed, this, &StatsScreen::scheduleUpdate);
     connect(&m_history, &HistoryStatsView::periodChanged, this, &StatsScreen::showWaiting);
@@ -83,6 +87,7 @@ void StatsScreen::refreshDay() {
 void StatsScreen::retranslate(const QLocale& locale) {
     m_today.retranslate(locale);
     m_history.retranslate(locale);
+    m_files.retranslate(locale);
     update();
 }
 

@@ -181,7 +181,7 @@ ExportOutcome writeRecords(const RecordExport& wanted, ExportControl& control) {
     // The last bytes reach the disk here, where there may be no room for them.
     if (!file.commit())
         return ExportFailure{file.errorString()};
-    return writing.counts();
+    return ExportDone{writing.counts()};
 }
 
 } // namespace norvin

@@ -10,6 +10,7 @@
 
 #include <atomic>
 #include <functional>
+#include <optional>
 #include <variant>
 
 namespace norvin {
@@ -48,12 +49,17 @@ struct ExportCounts {
     int sessions = 0;
     int usage = 0;
 };
+/// The file is there.
+struct ExportDone {
+    /// What it holds; none for a file that holds no records.
+    std::optional<ExportCounts> counts;
+};
 /// Why there is no file, or no new one: what the system says, in its language.
 struct ExportFailure {
     QString reason;
 };
 struct ExportCancelled {};
-using ExportOutcome = std::variant<ExportCounts, ExportFailure, ExportCancelled>;
+using ExportOutcome = std::variant<ExportDone, ExportFailure, ExportCancelled>;
 
 /// Writes the file, without holding the records of the store in memory. On any thread.
 [[nodiscard]] ExportOutcome writeRecords(const RecordExport& wanted, ExportControl& control);
