@@ -51,10 +51,15 @@ void append(std::vector<FigureRecord>& records, SessionSpan sessions, const Acce
 }
 
 void appendStreak(std::vector<FigureRecord>& records, const StatsTables& tables, qint64 today) {
-    const int length = computeStreak(tables.sessions(), today);
-    for (qint64 day = today; day > today - length; --day)
-        records.emplace_back(
-            DayCount{.day = day, .sessions = countSessions(sessionsOfDay(tables.sessions(), day))});
+    int left = computeStreak(tables.sessions(), today, tables.days());
+    for (qint64 day = today; left > 0; --day) {
+        // None on a date that the zone left out.
+        const int count = countSessions(sessionsOfDay(tables.sessions(), day));
+        if (count == 0)
+            continue;
+        records.emplace_back(DayCount{.day = day, .sessions = count});
+        --left;
+    }
 }
 
 std::vector<UsageEntry> usageOfCategory(UsageSpan usage, const StatsTables& tables, const QString& category) {

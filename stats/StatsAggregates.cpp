@@ -172,13 +172,15 @@ ScoreSum sumScores(SessionSpan sessions) {
     return sum;
 }
 
-int computeStreak(SessionSpan sessions, qint64 today) {
+int computeStreak(SessionSpan sessions, qint64 today, const StatsDays& days) {
     // Backwards from the last session that does not lie in the future.
     SessionSpan past = sessions.first(sessions.size() - since(sessions, today + 1).size());
     int count = 0;
-    for (qint64 day = today; count < longestStreak; --day, ++count) {
+    for (qint64 day = today; count < longestStreak; --day) {
         const SessionSpan ofThatDay = since(past, day);
-        if (countSessions(ofThatDay) == 0)
+        if (countSessions(ofThatDay) > 0)
+            ++count;
+        else if (days.startOf(day) != days.startOf(day + 1))
             break;
         past = past.first(past.size() - ofThatDay.size());
     }

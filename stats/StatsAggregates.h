@@ -80,8 +80,9 @@ struct ScoreSum {
 [[nodiscard]] ScoreSum sumScores(SessionSpan sessions);
 /// The mean of the scores that there are; 0 where there is none.
 [[nodiscard]] double averageScore(SessionSpan sessions, const std::optional<LiveWork>& live);
-/// Days in a row with a session, today the last of them; 365 at most.
-[[nodiscard]] int computeStreak(SessionSpan sessions, qint64 today);
+/// Days in a row with a session, today the last of them; 365 at most. A date that the zone left out is no day
+/// without one.
+[[nodiscard]] int computeStreak(SessionSpan sessions, qint64 today, const StatsDays& days);
 /// Minutes of the best day, and which it is: the earliest of equal ones; none without sessions.
 struct BestDay {
     qint64 day = 0;

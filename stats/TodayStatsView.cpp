@@ -37,7 +37,7 @@ void TodayStatsView::update() {
     m_sessionCount = countSessions(sessions);
     m_recordedMinutes = focusMinutes(sessions, std::nullopt);
     m_recordedScores = sumScores(sessions);
-    m_streak = computeStreak(tables.sessions(), m_records.today());
+    m_streak = computeStreak(tables.sessions(), m_records.today(), tables.days());
     m_usageSeconds = norvin::usageSeconds(usage);
     m_hasUsage = !usage.empty();
     m_categories->setPoints(categoryPoints(aggregateByCategory(usage, tables.sources())));
