@@ -1,9 +1,9 @@
 #include "stats/ExplanationRows.h"
 
 #include "model/ModelContext.h"
+#include "stats/FigureTexts.h"
 #include "stats/StatsFormats.h"
 
-#include <QStringList>
 #include <QtGlobal>
 
 #include <algorithm>
@@ -58,6 +58,14 @@ ExplanationRows::ExplanationRows(const ModelContext& context, QObject* parent)
     , m_days(QTimeZone::utc()) {}
 
 void ExplanationRows::setRecords(std::vector<FigureRecord> records, const StatsDays& days) {
+    beginResetModel();
+    m_days = days;
+    m_records = std::move(records);
+    endResetModel();
+    Q_EMIT countChanged();
+}
+
+void ExplanationRows::updateRecords(std::vector<FigureRecord> records, const StatsDays& days) {
     m_days = days;
     const auto shortest = static_cast<std::ptrdiff_t>(std::min(records.size(), m_records.size()));
     const std::ptrdiff_t head =
@@ -186,24 +194,8 @@ QVariant ExplanationRows::data(const QModelIndex& index, int role) const {
 }
 
 QHash<int, QByteArray> ExplanationRows::roleNames() const {
-    return {{KindRole, "kind"},
-            {TitleRole, "title"},
-            {DetailRole, "detail"},
-            {ValueRole, "value"},
-            {ScoreRole, "score"},
-            {BundleIDRole, "bundleID"},
-            {CanOpenRole, "canOpen"}};
-}
-
-QString exactSeconds(qint64 seconds) {
-    QStringList parts;
-    if (seconds >= 3600)
-        parts.append(qtTrId("time_hours_short").arg(seconds / 3600));
-    if (seconds / 60 % 60 != 0)
-        parts.append(qtTrId("time_minutes_short").arg(seconds / 60 % 60));
-    if (seconds % 60 != 0 || parts.isEmpty())
-        parts.append(qtTrId("time_seconds_short").arg(seconds % 60));
-    return parts.join(QLatin1Char(' '));
+    return {{KindRole, "kind"},   {TitleRole, "title"},       {DetailRole, "detail"},  {ValueRole, "value"},
+            {ScoreRole, "score"}, {BundleIDRole, "bundleID"}, {CanOpenRole, "canOpen"}};
 }
 
 } // namespace norvin

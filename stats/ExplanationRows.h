@@ -29,9 +29,10 @@ public:
     /// @param context must outlive this
     ExplanationRows(const ModelContext& context, QObject* parent);
 
-    /// Rows that stay are kept: only what came, went or changed is told.
-    /// @param days says in which zone times are written
+    /// Begins with other records. @param days says in which zone times are written
     void setRecords(std::vector<FigureRecord> records, const StatsDays& days);
+    /// The same as they are now: only what came, went or changed is told.
+    void updateRecords(std::vector<FigureRecord> records, const StatsDays& days);
     [[nodiscard]] const std::vector<FigureRecord>& records() const { return m_records; }
     /// The work phase that runs has gone on; does nothing where it is not the first row.
     void setLive(const LiveWork& live);
@@ -55,8 +56,5 @@ private:
     StatsDays m_days;
     std::vector<FigureRecord> m_records;
 };
-
-/// A length in seconds without a loss, in the language of the window ("1 h 2 min 5 s").
-[[nodiscard]] QString exactSeconds(qint64 seconds);
 
 } // namespace norvin

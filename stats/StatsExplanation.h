@@ -1,25 +1,26 @@
 #pragma once
 
 #include "model/Session.h"
+#include "stats/ExplanationRows.h"
 #include "stats/FigureRecords.h"
+#include "stats/SessionDetail.h"
+#include "stats/UsageIntervalRows.h"
 
 #include <QLocale>
 #include <QObject>
 #include <QString>
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 namespace norvin {
 
-class ExplanationRows;
 class HistoryStatsView;
 class ModelContext;
 class PomodoroTimerService;
-class SessionDetail;
 class StatsRecords;
 class TodayStatsView;
-class UsageIntervalRows;
 
 /// Where a figure comes from: the records behind it, level by level down to a single session or interval.
 /// What is shown follows the records and the work phase that runs. Main thread only.
@@ -37,7 +38,7 @@ class StatsExplanation final : public QObject {
     Q_PROPERTY(QString scopeText READ scopeText NOTIFY contentChanged)
     /// The figure as it is written, and how it comes about, as a sentence.
     Q_PROPERTY(QString figureText READ figureText NOTIFY contentChanged)
-    Q_PROPERTY(QString howText READ howText NOTIFY contentChanged)
+    Q_PROPERTY(QString ruleText READ ruleText NOTIFY contentChanged)
     /// How many records there are, and what they add up to.
     Q_PROPERTY(QString sumText READ sumText NOTIFY contentChanged)
     /// Whether all records of the figure were read; until then, those that were are shown.
@@ -70,7 +71,7 @@ public:
     [[nodiscard]] const QString& title() const { return m_title; }
     [[nodiscard]] const QString& scopeText() const { return m_scopeText; }
     [[nodiscard]] const QString& figureText() const { return m_figureText; }
-    [[nodiscard]] const QString& howText() const { return m_howText; }
+    [[nodiscard]] const QString& ruleText() const { return m_ruleText; }
     [[nodiscard]] const QString& sumText() const { return m_sumText; }
     [[nodiscard]] bool isComplete() const;
     [[nodiscard]] ExplanationRows* records() const { return m_rows; }
@@ -109,7 +110,7 @@ private:
     };
     void enter(Place place);
     void show();
-    void showTexts(const FigureSum& sum);
+    void describe();
     void scheduleUpdate();
     void update();
     void updateLive();
@@ -131,7 +132,7 @@ private:
     QString m_title;
     QString m_scopeText;
     QString m_figureText;
-    QString m_howText;
+    QString m_ruleText;
     QString m_sumText;
     bool m_isUpdateScheduled = false;
 };

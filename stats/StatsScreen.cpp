@@ -13,6 +13,7 @@ StatsScreen::StatsScreen(ModelContext& context, const QString& storeFile, Pomodo
     , m_records(context, storeFile, clock)
     , m_today(m_records, timer, context)
     , m_history(m_records, timer, context)
+    , m_explanation(context, storeFile, timer, m_records, m_today, m_history, std::move(offerUndo))
     , m_files(context, storeFile, clock,
               {.today = m_today,
                .history = m_history,
@@ -31,7 +32,6 @@ StatsScreen::StatsScreen(ModelContext& context, const QString& storeFile, Pomodo
             m_history.recent()->refreshTitles();
         }
     });
-    static_cast<void>(offerUndo);
 }
 
 StatsScreen::~StatsScreen() = default;
@@ -76,8 +76,7 @@ void StatsScreen::refresh() {
 }
 
 void StatsScreen::explain(const QString& what, const QString& key) {
-    static_cast<void>(what);
-    static_cast<void>(key);
+    m_explanation.explain(m_tab, what, key);
 }
 
 void StatsScreen::refreshDay() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "stats/HistoryStatsView.h"
+#include "stats/StatsExplanation.h"
 #include "stats/StatsExport.h"
 #include "stats/StatsRecords.h"
 #include "stats/TodayStatsView.h"
@@ -32,6 +33,7 @@ class StatsScreen final : public QObject {
     Q_PROPERTY(QString problem READ problem NOTIFY waitingChanged)
     Q_PROPERTY(norvin::TodayStatsView* today READ today CONSTANT)
     Q_PROPERTY(norvin::HistoryStatsView* history READ history CONSTANT)
+    Q_PROPERTY(norvin::StatsExplanation* explanation READ explanation CONSTANT)
     Q_PROPERTY(norvin::StatsExport* files READ files CONSTANT)
 public:
     /// How long the first figures may take before the page says that it waits.
@@ -52,6 +54,7 @@ public:
     [[nodiscard]] QString problem() const { return m_records.problem(); }
     [[nodiscard]] TodayStatsView* today() { return &m_today; }
     [[nodiscard]] HistoryStatsView* history() { return &m_history; }
+    [[nodiscard]] StatsExplanation* explanation() { return &m_explanation; }
     [[nodiscard]] StatsExport* files() { return &m_files; }
     [[nodiscard]] StatsRecords& records() { return m_records; }
 
@@ -84,6 +87,7 @@ private:
     StatsRecords m_records;
     TodayStatsView m_today;
     HistoryStatsView m_history;
+    StatsExplanation m_explanation;
     StatsExport m_files;
     Clock& m_clock;
     std::unique_ptr<ClockTimer> m_patience;

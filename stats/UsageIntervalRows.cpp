@@ -1,7 +1,7 @@
 #include "stats/UsageIntervalRows.h"
 
 #include "model/ModelContext.h"
-#include "stats/ExplanationRows.h"
+#include "stats/FigureTexts.h"
 
 #include <algorithm>
 #include <atomic>
@@ -61,6 +61,7 @@ void UsageIntervalRows::clear() {
     m_isComplete = true;
     m_problem.clear();
     m_news = News::none;
+    m_asksAgain = false;
     Q_EMIT stateChanged();
 }
 
@@ -98,8 +99,8 @@ void UsageIntervalRows::requestPage() {
 UsageIntervalRows::Page UsageIntervalRows::read(const Request& request) {
     Page page;
     auto opened = RecordScan::open(request.storeFile);
-    if (const auto* error = std::get_if<StoreError>(&opened)) {
-        page.problem = error->description;
+    if (std::holds_alternative<StoreError>(opened)) {
+        page.isRefused = true;
         return page;
     }
     RecordScan& scan = *std::get<std::unique_ptr<RecordScan>>(opened);
@@ -137,19 +138,23 @@ UsageIntervalRows::Page UsageIntervalRows::readFromMemory() const {
     Page page;
     for (const AppUsageSession& usage : m_context.fetchAppUsage(query)) {
         if (matches(m_question, usage.bundleID, usage.category))
-            page.intervals.push_back({.row = 0,
-                                      .source = 0,
-                                      .start = Instant(usage.startTime),
-                                      .seconds = usage.durationSeconds});
+            page.intervals.push_back(
+                {.row = 0, .source = 0, .start = Instant(usage.startTime), .seconds = usage.durationSeconds});
     }
     return page;
 }
 
 void UsageIntervalRows::take(Page page) {
     m_request.reset();
+    // A file that its context has for itself alone, as on a full disk, is read through the context.
+    if (page.isRefused) {
+        beginResetModel();
+        m_rows.clear();
+        endResetModel();
+        page = readFromMemory();
+    }
     m_problem = page.problem;
-    // A page that was read before something was recorded is not the last one any more.
-    m_isComplete = page.isLast && m_news != News::later;
+    m_isComplete = page.isLast;
     if (!page.intervals.empty()) {
         const int first = rowCount();
         beginInsertRows({}, first, first + static_cast<int>(page.intervals.size()) - 1);
@@ -157,6 +162,9 @@ void UsageIntervalRows::take(Page page) {
         endInsertRows();
     }
     Q_EMIT stateChanged();
+    // Whether the last page was read before or after something was recorded is not known.
+    if (std::exchange(m_asksAgain, false) && m_isComplete)
+        requestPage();
 }
 
 void UsageIntervalRows::notice(const AppUsageSession& usage) {
@@ -173,10 +181,8 @@ void UsageIntervalRows::follow() {
     if (std::exchange(m_news, News::none) == News::earlier) {
         show(m_question, m_days.zone());
     } else if (m_request) {
-        // Whether it will find the new one is not known, so it is not the last.
-        m_news = News::later;
+        m_asksAgain = true;
     } else if (m_isComplete) {
-        m_isComplete = false;
         requestPage();
     }
 }
@@ -200,8 +206,10 @@ QVariant UsageIntervalRows::data(const QModelIndex& index, int role) const {
         return index.row() + 1;
     case StartRole: {
         const QDateTime start = m_days.dateTime(interval.start);
+        const QString format =
+            m_locale.timeFormat(QLocale::ShortFormat).replace(QLatin1String("mm"), QLatin1String("mm:ss"));
         return m_locale.toString(start.date(), QLocale::ShortFormat) + QLatin1Char(' ') +
-               start.time().toString(QStringLiteral("HH:mm:ss"));
+               m_locale.toString(start.time(), format);
     }
     case DurationRole:
         return exactSeconds(interval.seconds);
@@ -213,10 +221,8 @@ QVariant UsageIntervalRows::data(const QModelIndex& index, int role) const {
 }
 
 QHash<int, QByteArray> UsageIntervalRows::roleNames() const {
-    return {{NumberRole, "number"},
-            {StartRole, "start"},
-            {DurationRole, "duration"},
-            {SecondsRole, "seconds"}};
+    return {
+        {NumberRole, "number"}, {StartRole, "start"}, {DurationRole, "duration"}, {SecondsRole, "seconds"}};
 }
 
 bool UsageIntervalRows::canFetchMore(const QModelIndex& parent) const {

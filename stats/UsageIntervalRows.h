@@ -62,6 +62,7 @@ private:
     struct Page {
         std::vector<StoredInterval> intervals;
         bool isLast = true;
+        bool isRefused = false;
         QString problem;
     };
     [[nodiscard]] static Page read(const Request& request);
@@ -83,9 +84,11 @@ private:
     QString m_problem;
     /// What is on its way; null for nothing.
     std::shared_ptr<Request> m_request;
-    /// Recorded since the last page was asked for: nothing, what comes after all that there is, or before.
+    /// Recorded and not yet saved: nothing, what comes after all rows, or before some.
     enum class News { none, later, earlier };
     News m_news = News::none;
+    /// Something was saved while a page was on its way.
+    bool m_asksAgain = false;
     QThreadPool m_thread;
 };
 
