@@ -1,6 +1,7 @@
 #include "app/NorvinFocusApp.h"
 
 #include "app/PlanningBusService.h"
+#include "app/StatsBusService.h"
 #include "distraction/AppBlockerService.h"
 #include "distraction/AppUsageService.h"
 #include "distraction/BrowserAlertService.h"
@@ -113,6 +114,12 @@ NorvinFocusApp::NorvinFocusApp(LinuxPlatform& platform, std::unique_ptr<ModelCon
     , m_planning(m_sharedModelContainer->mainContext(), m_timerService, m_soundService, platform.clock())
     , m_planningCommands(m_deepWorkScreen, m_sharedModelContainer->mainContext(), *m_planning.exchange(),
                          platform.clock())
+    , m_stats(m_sharedModelContainer->mainContext(), m_sharedModelContainer->storeFile(), m_timerService,
+              platform.clock(),
+              [this](const QString& text, std::function<void()> takeBack) {
+                  m_planning.edits()->offerUndo(text, std::move(takeBack));
+              })
+    , m_statsReporter(m_stats.records(), m_timerService, m_sharedModelContainer->mainContext())
     , m_blockLists(platform.applications(), platform.workspace(), AppBlockerService::shared(),
                    platform.preferences())
     , m_busAvailability(Availability::available())
@@ -124,11 +131,12 @@ NorvinFocusApp::NorvinFocusApp(LinuxPlatform& platform, std::unique_ptr<ModelCon
                                              [this] { return m_busAvailability; }}
                << TrackingHealthModel::Check{QStringLiteral("health_store"),
                                              [this] { return m_storeAvailability; }})
-    , m_userInterface(std::move(engine), m_deepWorkScreen, m_planning, m_tickSoundSettings, m_blockLists,
-                      m_health, m_localization)
+    , m_userInterface(std::move(engine), m_deepWorkScreen, m_planning, m_stats, m_tickSoundSettings,
+                      m_blockLists, m_health, m_localization)
     , m_busService(sessionBus(), m_deepWorkScreen, AppBlockerService::shared(), m_health) {
-    // Another interface of the same object on the bus, which owns it.
+    // More interfaces of the same object on the bus, which owns them.
     new PlanningBusService(sessionBus(), m_planningCommands, &m_busService);
+    new StatsBusService(sessionBus(), m_statsReporter, &m_busService);
     m_blockLists.setBrowserHealth(&m_browserHealth);
     followStore();
     followPlatform();
@@ -142,6 +150,7 @@ NorvinFocusApp::~NorvinFocusApp() {
 bool NorvinFocusApp::launch() {
     m_appDelegate.applicationDidFinishLaunching();
     m_userInterface.setCoach(m_coachService);
+    m_userInterface.engine().setApplications(m_platform.applications());
     if (!m_userInterface.load())
         return false;
     m_alertWindows.setContent(&m_userInterface.engine(), &BrowserAlertService::shared().model());
@@ -196,6 +205,7 @@ void NorvinFocusApp::followPlatform() {
     connect(&m_platform.sleepMonitor(), &SleepMonitor::availabilityChanged, this, refresh);
     // Midnight may have passed meanwhile.
     connect(&m_platform.sleepMonitor(), &SleepMonitor::didWake, &m_planning, &PlanningScreens::refresh);
+    connect(&m_platform.sleepMonitor(), &SleepMonitor::didWake, &m_stats, &StatsScreen::refreshDay);
     connect(&m_platform.notifications(), &UserNotifications::availabilityChanged, this, refresh);
     connect(&m_platform.sounds(), &SystemSounds::availabilityChanged, this, refresh);
     connect(&m_platform.audioOutput(), &AudioOutput::availabilityChanged, this, refresh);
@@ -230,6 +240,7 @@ QList<TrackingHealthModel::Check> NorvinFocusApp::passingHealthChecks() {
 
 void NorvinFocusApp::showWindow() {
     m_planning.refresh();
+    m_stats.refreshDay();
     m_userInterface.showWindow();
 }
 

@@ -3,6 +3,7 @@
 #include "app/AppDelegate.h"
 #include "app/FocusBusService.h"
 #include "app/PlanningCommands.h"
+#include "app/StatsReporter.h"
 #include "distraction/AICoachService.h"
 #include "distraction/BlockListsScreen.h"
 #include "distraction/BrowserHealth.h"
@@ -15,6 +16,7 @@
 #include "sound/SoundService.h"
 #include "sound/TickSoundService.h"
 #include "sound/TickSoundSettings.h"
+#include "stats/StatsScreen.h"
 #include "ui/Localization.h"
 #include "ui/UserInterface.h"
 #include "ui/alert/AlertWindows.h"
@@ -83,6 +85,8 @@ private:
     DeepWorkScreen m_deepWorkScreen;
     PlanningScreens m_planning;
     PlanningCommands m_planningCommands;
+    StatsScreen m_stats;
+    StatsReporter m_statsReporter;
     BlockListsScreen m_blockLists;
     Availability m_busAvailability;
     Availability m_storeAvailability;

@@ -134,6 +134,10 @@
         <source></source>
         <translation>Applications</translation>
     </message>
+    <message id="apps_used_title">
+        <source></source>
+        <translation>Applications used</translation>
+    </message>
     <message id="attach_not_opened">
         <source></source>
         <translation>The desktop has no application that opens this file.</translation>
@@ -252,6 +256,10 @@
         <source></source>
         <translation>Show fewer</translation>
     </message>
+    <message id="by_category">
+        <source></source>
+        <translation>By category</translation>
+    </message>
     <message id="calendar_day_name" numerus="yes">
         <source></source>
         <translation>
@@ -359,6 +367,46 @@
         <source></source>
         <translation>System</translation>
     </message>
+    <message id="chart_category">
+        <source></source>
+        <translation>Category</translation>
+    </message>
+    <message id="chart_date">
+        <source></source>
+        <translation>Date</translation>
+    </message>
+    <message id="chart_duration">
+        <source></source>
+        <translation>Duration</translation>
+    </message>
+    <message id="chart_hour">
+        <source></source>
+        <translation>Hour</translation>
+    </message>
+    <message id="chart_minutes">
+        <source></source>
+        <translation>Minutes</translation>
+    </message>
+    <message id="chart_share">
+        <source></source>
+        <translation>%1%</translation>
+    </message>
+    <message id="chart_share_small">
+        <source></source>
+        <translation>&lt; %1%</translation>
+    </message>
+    <message id="chart_threshold">
+        <source></source>
+        <translation>Threshold</translation>
+    </message>
+    <message id="chart_time">
+        <source></source>
+        <translation>Time</translation>
+    </message>
+    <message id="chart_value_format">
+        <source></source>
+        <translation>%1: %2</translation>
+    </message>
     <message id="chip_ambiguous">
         <source></source>
         <translation>“%1” fits several names</translation>
@@ -394,6 +442,10 @@
     <message id="choice_all_projects">
         <source></source>
         <translation>All projects</translation>
+    </message>
+    <message id="clean_state_title">
+        <source></source>
+        <translation>Nothing on record</translation>
     </message>
     <message id="coach_dismiss_button">
         <source></source>
@@ -529,6 +581,13 @@
             <numerusform>%n attached files</numerusform>
         </translation>
     </message>
+    <message id="count_intervals" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n usage interval</numerusform>
+            <numerusform>%n usage intervals</numerusform>
+        </translation>
+    </message>
     <message id="count_phases" numerus="yes">
         <source></source>
         <translation>
@@ -576,13 +635,29 @@
         <source></source>
         <translation>Daily agenda</translation>
     </message>
+    <message id="daily_distribution_subtitle">
+        <source></source>
+        <translation>How the day was spread</translation>
+    </message>
     <message id="daily_objectives">
         <source></source>
         <translation>Objectives of the day</translation>
     </message>
+    <message id="date_day_month_short">
+        <source></source>
+        <translation>d MMM</translation>
+    </message>
     <message id="date_first_of_month">
         <source></source>
         <translation>1</translation>
+    </message>
+    <message id="date_month_year">
+        <source></source>
+        <translation>MMMM yyyy</translation>
+    </message>
+    <message id="date_month_year_short">
+        <source></source>
+        <translation>MMM yy</translation>
     </message>
     <message id="date_strip_name">
         <source></source>
@@ -718,6 +793,10 @@
     <message id="file_save_button">
         <source></source>
         <translation>Save</translation>
+    </message>
+    <message id="free_session">
+        <source></source>
+        <translation>Free session</translation>
     </message>
     <message id="go_to_today_button">
         <source></source>
@@ -998,6 +1077,82 @@
         <source></source>
         <translation>Works</translation>
     </message>
+    <message id="history_app_analysis_title">
+        <source></source>
+        <translation>Applications</translation>
+    </message>
+    <message id="history_average_label">
+        <source></source>
+        <translation>average, out of 10</translation>
+    </message>
+    <message id="history_best_day_title">
+        <source></source>
+        <translation>Best day</translation>
+    </message>
+    <message id="history_by_category_title">
+        <source></source>
+        <translation>By category</translation>
+    </message>
+    <message id="history_completed_label">
+        <source></source>
+        <translation>completed</translation>
+    </message>
+    <message id="history_cumulated_label">
+        <source></source>
+        <translation>added up</translation>
+    </message>
+    <message id="history_focus_evolution_title">
+        <source></source>
+        <translation>Focus over time</translation>
+    </message>
+    <message id="history_focus_score_title">
+        <source></source>
+        <translation>Focus score</translation>
+    </message>
+    <message id="history_last_10_subtitle">
+        <source></source>
+        <translation>The last 10 of the period</translation>
+    </message>
+    <message id="history_no_app_data_period">
+        <source></source>
+        <translation>No application was measured in this period</translation>
+    </message>
+    <message id="history_no_distribution_data">
+        <source></source>
+        <translation>Nothing to spread over the week yet</translation>
+    </message>
+    <message id="history_no_sessions_period">
+        <source></source>
+        <translation>No completed session in this period</translation>
+    </message>
+    <message id="history_period_usage_subtitle">
+        <source></source>
+        <translation>Share of the time measured</translation>
+    </message>
+    <message id="history_recent_sessions_title">
+        <source></source>
+        <translation>Recent sessions</translation>
+    </message>
+    <message id="history_sessions_title">
+        <source></source>
+        <translation>Sessions</translation>
+    </message>
+    <message id="history_top_apps_title">
+        <source></source>
+        <translation>Most used</translation>
+    </message>
+    <message id="history_total_focus_title">
+        <source></source>
+        <translation>Total focus</translation>
+    </message>
+    <message id="history_weekly_distribution_subtitle">
+        <source></source>
+        <translation>Focus by the day on which a session began</translation>
+    </message>
+    <message id="history_weekly_distribution_title">
+        <source></source>
+        <translation>Days of the week</translation>
+    </message>
     <message id="import_add_button">
         <source></source>
         <translation>Add to the lists</translation>
@@ -1051,6 +1206,53 @@
     <message id="inactivity_notice">
         <source></source>
         <translation>Keyboard and pointer have been still for a while. Inactive in this session: %1.</translation>
+    </message>
+    <message id="kpi_apps">
+        <source></source>
+        <translation>Applications</translation>
+    </message>
+    <message id="kpi_average">
+        <source></source>
+        <translation>average, out of 10</translation>
+    </message>
+    <message id="kpi_completed">
+        <source></source>
+        <translation>completed today</translation>
+    </message>
+    <message id="kpi_consecutive">
+        <source></source>
+        <translation>in a row</translation>
+    </message>
+    <message id="kpi_focus">
+        <source></source>
+        <translation>Focus time</translation>
+    </message>
+    <message id="kpi_score">
+        <source></source>
+        <translation>Focus score</translation>
+    </message>
+    <message id="kpi_sessions">
+        <source></source>
+        <translation>Sessions</translation>
+    </message>
+    <message id="kpi_streak">
+        <source></source>
+        <translation>Streak</translation>
+    </message>
+    <message id="kpi_streak_unit" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n day</numerusform>
+            <numerusform>%n days</numerusform>
+        </translation>
+    </message>
+    <message id="kpi_total_time">
+        <source></source>
+        <translation>in total today</translation>
+    </message>
+    <message id="kpi_used">
+        <source></source>
+        <translation>in use today</translation>
     </message>
     <message id="language_label">
         <source></source>
@@ -1187,6 +1389,18 @@
         <source></source>
         <translation>What comes next?</translation>
     </message>
+    <message id="no_app_data_today">
+        <source></source>
+        <translation>Applications appear here once a session has measured them</translation>
+    </message>
+    <message id="no_scores_today">
+        <source></source>
+        <translation>No session with a focus score today yet</translation>
+    </message>
+    <message id="no_sessions_today">
+        <source></source>
+        <translation>No completed session today yet</translation>
+    </message>
     <message id="nothing_planned">
         <source></source>
         <translation>Nothing planned</translation>
@@ -1287,6 +1501,50 @@
     <message id="pause_button">
         <source></source>
         <translation>Pause</translation>
+    </message>
+    <message id="per_hour_today_subtitle">
+        <source></source>
+        <translation>Today, hour by hour</translation>
+    </message>
+    <message id="period_12_months_label">
+        <source></source>
+        <translation>Today and the 365 days before</translation>
+    </message>
+    <message id="period_30_days_label">
+        <source></source>
+        <translation>Today and the 30 days before</translation>
+    </message>
+    <message id="period_7_days_label">
+        <source></source>
+        <translation>Today and the 7 days before</translation>
+    </message>
+    <message id="period_all">
+        <source></source>
+        <translation>All</translation>
+    </message>
+    <message id="period_all_time_label">
+        <source></source>
+        <translation>Everything on record</translation>
+    </message>
+    <message id="period_month">
+        <source></source>
+        <translation>Month</translation>
+    </message>
+    <message id="period_today">
+        <source></source>
+        <translation>Today</translation>
+    </message>
+    <message id="period_today_label">
+        <source></source>
+        <translation>Today</translation>
+    </message>
+    <message id="period_week">
+        <source></source>
+        <translation>Week</translation>
+    </message>
+    <message id="period_year">
+        <source></source>
+        <translation>Year</translation>
     </message>
     <message id="phase_add_button">
         <source></source>
@@ -1791,6 +2049,10 @@
         <source></source>
         <translation>“%1”</translation>
     </message>
+    <message id="ready_to_start_subtitle">
+        <source></source>
+        <translation>Ready when you are: start one on the Deep Work page</translation>
+    </message>
     <message id="rearming_button">
         <source></source>
         <translation>Re-arm</translation>
@@ -1798,6 +2060,10 @@
     <message id="rearming_subtitle">
         <source></source>
         <translation>A moment to put things in order before the next work phase. Nothing is measured or blocked.</translation>
+    </message>
+    <message id="refresh_data_help">
+        <source></source>
+        <translation>Read the records again</translation>
     </message>
     <message id="refused_app_empty">
         <source></source>
@@ -1819,6 +2085,10 @@
         <source></source>
         <translation>Nothing is running that could be paused.</translation>
     </message>
+    <message id="refused_period_unknown">
+        <source></source>
+        <translation>There is no period “%1”: it is today, week, month, year or all.</translation>
+    </message>
     <message id="refused_priority_unknown">
         <source></source>
         <translation>The priority is low, medium or high, not “%1”.</translation>
@@ -1830,6 +2100,10 @@
     <message id="refused_project_unknown">
         <source></source>
         <translation>No project is called “%1”. There are: %2.</translation>
+    </message>
+    <message id="refused_records_unreadable">
+        <source></source>
+        <translation>The records cannot be read: %1</translation>
     </message>
     <message id="refused_resume_not_paused">
         <source></source>
@@ -1927,6 +2201,10 @@
         <source></source>
         <translation>Save</translation>
     </message>
+    <message id="score_evolution_title">
+        <source></source>
+        <translation>Focus score, session by session</translation>
+    </message>
     <message id="score_hide_terms">
         <source></source>
         <translation>Hide the explanation</translation>
@@ -1990,6 +2268,14 @@
         <source></source>
         <translation>Score, kept between 0 and 10</translation>
     </message>
+    <message id="session_subtitle">
+        <source></source>
+        <translation>each session in the hour it began</translation>
+    </message>
+    <message id="sessions_completed_subtitle">
+        <source></source>
+        <translation>measured during sessions</translation>
+    </message>
     <message id="sheet_close_button">
         <source></source>
         <translation>Close</translation>
@@ -2021,6 +2307,10 @@
     <message id="sidebar_projects">
         <source></source>
         <translation>Projects</translation>
+    </message>
+    <message id="sidebar_statistics">
+        <source></source>
+        <translation>Statistics</translation>
     </message>
     <message id="site_add_button">
         <source></source>
@@ -2125,6 +2415,134 @@
         <source></source>
         <translation>Start</translation>
     </message>
+    <message id="stats_explain_hint">
+        <source></source>
+        <translation>Shows the records behind it</translation>
+    </message>
+    <message id="stats_export_busy_format">
+        <source></source>
+        <translation>Writing “%1”…</translation>
+    </message>
+    <message id="stats_export_button">
+        <source></source>
+        <translation>Export the statistics</translation>
+    </message>
+    <message id="stats_export_cancelled_format">
+        <source></source>
+        <translation>Cancelled; “%1” was not written.</translation>
+    </message>
+    <message id="stats_export_document">
+        <source></source>
+        <translation>Page as PDF…</translation>
+    </message>
+    <message id="stats_export_document_title">
+        <source></source>
+        <translation>Save the page as a PDF document</translation>
+    </message>
+    <message id="stats_export_done_format">
+        <source></source>
+        <translation>Saved: %1</translation>
+    </message>
+    <message id="stats_export_done_records_format">
+        <source></source>
+        <translation>Saved with %2: %1</translation>
+    </message>
+    <message id="stats_export_failed_format">
+        <source></source>
+        <translation>“%1” could not be written: %2</translation>
+    </message>
+    <message id="stats_export_json">
+        <source></source>
+        <translation>Everything as JSON…</translation>
+    </message>
+    <message id="stats_export_json_title">
+        <source></source>
+        <translation>Export the sessions and application use of the period</translation>
+    </message>
+    <message id="stats_export_no_picture">
+        <source></source>
+        <translation>no picture of the page could be taken.</translation>
+    </message>
+    <message id="stats_export_picture">
+        <source></source>
+        <translation>Page as picture…</translation>
+    </message>
+    <message id="stats_export_picture_title">
+        <source></source>
+        <translation>Save the page as a picture</translation>
+    </message>
+    <message id="stats_export_sessions">
+        <source></source>
+        <translation>Sessions as CSV…</translation>
+    </message>
+    <message id="stats_export_sessions_title">
+        <source></source>
+        <translation>Export the sessions of the period</translation>
+    </message>
+    <message id="stats_export_unsaved_format">
+        <source></source>
+        <translation>“%1” was not written: what was recorded last cannot be saved. %2</translation>
+    </message>
+    <message id="stats_export_usage">
+        <source></source>
+        <translation>Application use as CSV…</translation>
+    </message>
+    <message id="stats_export_usage_title">
+        <source></source>
+        <translation>Export the application use of the period</translation>
+    </message>
+    <message id="stats_filter_csv">
+        <source></source>
+        <translation>Tables</translation>
+    </message>
+    <message id="stats_filter_document">
+        <source></source>
+        <translation>PDF documents</translation>
+    </message>
+    <message id="stats_filter_json">
+        <source></source>
+        <translation>JSON files</translation>
+    </message>
+    <message id="stats_filter_picture">
+        <source></source>
+        <translation>Pictures</translation>
+    </message>
+    <message id="stats_introduction">
+        <source></source>
+        <translation>Click any figure, bar or row to see the records behind it.</translation>
+    </message>
+    <message id="stats_paper_date_format">
+        <source></source>
+        <translation>As of %1, %2</translation>
+    </message>
+    <message id="stats_paper_page_format">
+        <source></source>
+        <translation>Page %1 of %2</translation>
+    </message>
+    <message id="stats_paper_title">
+        <source></source>
+        <translation>Focus statistics</translation>
+    </message>
+    <message id="stats_period_label">
+        <source></source>
+        <translation>Period</translation>
+    </message>
+    <message id="stats_problem">
+        <source></source>
+        <translation>The records cannot be read: %1</translation>
+    </message>
+    <message id="stats_tabs_label">
+        <source></source>
+        <translation>Statistics page</translation>
+    </message>
+    <message id="stats_title">
+        <source></source>
+        <translation>Statistics</translation>
+    </message>
+    <message id="stats_waiting">
+        <source></source>
+        <translation>Reading the records</translation>
+    </message>
     <message id="stop_button">
         <source></source>
         <translation>Stop</translation>
@@ -2211,6 +2629,14 @@
     <message id="summary_tasks">
         <source></source>
         <translation>Finished tasks</translation>
+    </message>
+    <message id="tab_history">
+        <source></source>
+        <translation>History</translation>
+    </message>
+    <message id="tab_today">
+        <source></source>
+        <translation>Today</translation>
     </message>
     <message id="task_active_name">
         <source></source>
@@ -2481,9 +2907,33 @@
         <source></source>
         <translation>Low and rounded</translation>
     </message>
+    <message id="time_hours_minutes_short">
+        <source></source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message id="time_hours_short">
+        <source></source>
+        <translation>%1 h</translation>
+    </message>
+    <message id="time_minutes_short">
+        <source></source>
+        <translation>%1 min</translation>
+    </message>
+    <message id="time_seconds_short">
+        <source></source>
+        <translation>%1 s</translation>
+    </message>
+    <message id="timeline_focus_title">
+        <source></source>
+        <translation>Focus through the day</translation>
+    </message>
     <message id="today">
         <source></source>
         <translation>Today</translation>
+    </message>
+    <message id="today_sessions_title">
+        <source></source>
+        <translation>Today’s sessions</translation>
     </message>
     <message id="today_short">
         <source></source>

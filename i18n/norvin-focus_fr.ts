@@ -134,6 +134,10 @@
         <source></source>
         <translation>Applications</translation>
     </message>
+    <message id="apps_used_title">
+        <source></source>
+        <translation>Applications utilisées</translation>
+    </message>
     <message id="attach_not_opened">
         <source></source>
         <translation>Aucune application du bureau n’ouvre ce fichier.</translation>
@@ -252,6 +256,10 @@
         <source></source>
         <translation>Afficher moins</translation>
     </message>
+    <message id="by_category">
+        <source></source>
+        <translation>Par catégorie</translation>
+    </message>
     <message id="calendar_day_name" numerus="yes">
         <source></source>
         <translation>
@@ -359,6 +367,46 @@
         <source></source>
         <translation>Système</translation>
     </message>
+    <message id="chart_category">
+        <source></source>
+        <translation>Catégorie</translation>
+    </message>
+    <message id="chart_date">
+        <source></source>
+        <translation>Date</translation>
+    </message>
+    <message id="chart_duration">
+        <source></source>
+        <translation>Durée</translation>
+    </message>
+    <message id="chart_hour">
+        <source></source>
+        <translation>Heure</translation>
+    </message>
+    <message id="chart_minutes">
+        <source></source>
+        <translation>Minutes</translation>
+    </message>
+    <message id="chart_share">
+        <source></source>
+        <translation>%1 %</translation>
+    </message>
+    <message id="chart_share_small">
+        <source></source>
+        <translation>&lt; %1 %</translation>
+    </message>
+    <message id="chart_threshold">
+        <source></source>
+        <translation>Seuil</translation>
+    </message>
+    <message id="chart_time">
+        <source></source>
+        <translation>Heure</translation>
+    </message>
+    <message id="chart_value_format">
+        <source></source>
+        <translation>%1 : %2</translation>
+    </message>
     <message id="chip_ambiguous">
         <source></source>
         <translation>« %1 » convient à plusieurs noms</translation>
@@ -394,6 +442,10 @@
     <message id="choice_all_projects">
         <source></source>
         <translation>Tous les projets</translation>
+    </message>
+    <message id="clean_state_title">
+        <source></source>
+        <translation>Rien d’enregistré</translation>
     </message>
     <message id="coach_dismiss_button">
         <source></source>
@@ -529,6 +581,13 @@
             <numerusform>%n fichiers joints</numerusform>
         </translation>
     </message>
+    <message id="count_intervals" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n intervalle d’usage</numerusform>
+            <numerusform>%n intervalles d’usage</numerusform>
+        </translation>
+    </message>
     <message id="count_phases" numerus="yes">
         <source></source>
         <translation>
@@ -576,13 +635,29 @@
         <source></source>
         <translation>Agenda du jour</translation>
     </message>
+    <message id="daily_distribution_subtitle">
+        <source></source>
+        <translation>Répartition de la journée</translation>
+    </message>
     <message id="daily_objectives">
         <source></source>
         <translation>Objectifs du jour</translation>
     </message>
+    <message id="date_day_month_short">
+        <source></source>
+        <translation>d MMM</translation>
+    </message>
     <message id="date_first_of_month">
         <source></source>
         <translation>1er</translation>
+    </message>
+    <message id="date_month_year">
+        <source></source>
+        <translation>MMMM yyyy</translation>
+    </message>
+    <message id="date_month_year_short">
+        <source></source>
+        <translation>MMM yy</translation>
     </message>
     <message id="date_strip_name">
         <source></source>
@@ -718,6 +793,10 @@
     <message id="file_save_button">
         <source></source>
         <translation>Enregistrer</translation>
+    </message>
+    <message id="free_session">
+        <source></source>
+        <translation>Session libre</translation>
     </message>
     <message id="go_to_today_button">
         <source></source>
@@ -998,6 +1077,82 @@
         <source></source>
         <translation>Fonctionne</translation>
     </message>
+    <message id="history_app_analysis_title">
+        <source></source>
+        <translation>Applications</translation>
+    </message>
+    <message id="history_average_label">
+        <source></source>
+        <translation>en moyenne, sur 10</translation>
+    </message>
+    <message id="history_best_day_title">
+        <source></source>
+        <translation>Meilleur jour</translation>
+    </message>
+    <message id="history_by_category_title">
+        <source></source>
+        <translation>Par catégorie</translation>
+    </message>
+    <message id="history_completed_label">
+        <source></source>
+        <translation>terminées</translation>
+    </message>
+    <message id="history_cumulated_label">
+        <source></source>
+        <translation>temps cumulé</translation>
+    </message>
+    <message id="history_focus_evolution_title">
+        <source></source>
+        <translation>Évolution de la concentration</translation>
+    </message>
+    <message id="history_focus_score_title">
+        <source></source>
+        <translation>Score de focus</translation>
+    </message>
+    <message id="history_last_10_subtitle">
+        <source></source>
+        <translation>Les 10 dernières de la période</translation>
+    </message>
+    <message id="history_no_app_data_period">
+        <source></source>
+        <translation>Aucune application mesurée sur cette période</translation>
+    </message>
+    <message id="history_no_distribution_data">
+        <source></source>
+        <translation>Rien à répartir sur la semaine pour l’instant</translation>
+    </message>
+    <message id="history_no_sessions_period">
+        <source></source>
+        <translation>Aucune session terminée sur cette période</translation>
+    </message>
+    <message id="history_period_usage_subtitle">
+        <source></source>
+        <translation>Part du temps mesuré</translation>
+    </message>
+    <message id="history_recent_sessions_title">
+        <source></source>
+        <translation>Sessions récentes</translation>
+    </message>
+    <message id="history_sessions_title">
+        <source></source>
+        <translation>Sessions</translation>
+    </message>
+    <message id="history_top_apps_title">
+        <source></source>
+        <translation>Les plus utilisées</translation>
+    </message>
+    <message id="history_total_focus_title">
+        <source></source>
+        <translation>Concentration totale</translation>
+    </message>
+    <message id="history_weekly_distribution_subtitle">
+        <source></source>
+        <translation>Concentration selon le jour où la session a commencé</translation>
+    </message>
+    <message id="history_weekly_distribution_title">
+        <source></source>
+        <translation>Jours de la semaine</translation>
+    </message>
     <message id="import_add_button">
         <source></source>
         <translation>Ajouter aux listes</translation>
@@ -1051,6 +1206,53 @@
     <message id="inactivity_notice">
         <source></source>
         <translation>Clavier et pointeur sont immobiles depuis un moment. Inactivité dans cette session : %1.</translation>
+    </message>
+    <message id="kpi_apps">
+        <source></source>
+        <translation>Applications</translation>
+    </message>
+    <message id="kpi_average">
+        <source></source>
+        <translation>en moyenne, sur 10</translation>
+    </message>
+    <message id="kpi_completed">
+        <source></source>
+        <translation>terminées aujourd’hui</translation>
+    </message>
+    <message id="kpi_consecutive">
+        <source></source>
+        <translation>d’affilée</translation>
+    </message>
+    <message id="kpi_focus">
+        <source></source>
+        <translation>Concentration</translation>
+    </message>
+    <message id="kpi_score">
+        <source></source>
+        <translation>Score de focus</translation>
+    </message>
+    <message id="kpi_sessions">
+        <source></source>
+        <translation>Sessions</translation>
+    </message>
+    <message id="kpi_streak">
+        <source></source>
+        <translation>Série</translation>
+    </message>
+    <message id="kpi_streak_unit" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n jour</numerusform>
+            <numerusform>%n jours</numerusform>
+        </translation>
+    </message>
+    <message id="kpi_total_time">
+        <source></source>
+        <translation>au total aujourd’hui</translation>
+    </message>
+    <message id="kpi_used">
+        <source></source>
+        <translation>utilisées aujourd’hui</translation>
     </message>
     <message id="language_label">
         <source></source>
@@ -1187,6 +1389,18 @@
         <source></source>
         <translation>Et maintenant ?</translation>
     </message>
+    <message id="no_app_data_today">
+        <source></source>
+        <translation>Les applications apparaissent ici dès qu’une session les a mesurées</translation>
+    </message>
+    <message id="no_scores_today">
+        <source></source>
+        <translation>Aucune session notée aujourd’hui pour l’instant</translation>
+    </message>
+    <message id="no_sessions_today">
+        <source></source>
+        <translation>Aucune session terminée aujourd’hui pour l’instant</translation>
+    </message>
     <message id="nothing_planned">
         <source></source>
         <translation>Rien de prévu</translation>
@@ -1287,6 +1501,50 @@
     <message id="pause_button">
         <source></source>
         <translation>Pause</translation>
+    </message>
+    <message id="per_hour_today_subtitle">
+        <source></source>
+        <translation>Aujourd’hui, heure par heure</translation>
+    </message>
+    <message id="period_12_months_label">
+        <source></source>
+        <translation>Aujourd’hui et les 365 jours précédents</translation>
+    </message>
+    <message id="period_30_days_label">
+        <source></source>
+        <translation>Aujourd’hui et les 30 jours précédents</translation>
+    </message>
+    <message id="period_7_days_label">
+        <source></source>
+        <translation>Aujourd’hui et les 7 jours précédents</translation>
+    </message>
+    <message id="period_all">
+        <source></source>
+        <translation>Tout</translation>
+    </message>
+    <message id="period_all_time_label">
+        <source></source>
+        <translation>Tout ce qui est enregistré</translation>
+    </message>
+    <message id="period_month">
+        <source></source>
+        <translation>Mois</translation>
+    </message>
+    <message id="period_today">
+        <source></source>
+        <translation>Aujourd’hui</translation>
+    </message>
+    <message id="period_today_label">
+        <source></source>
+        <translation>Aujourd’hui</translation>
+    </message>
+    <message id="period_week">
+        <source></source>
+        <translation>Semaine</translation>
+    </message>
+    <message id="period_year">
+        <source></source>
+        <translation>Année</translation>
     </message>
     <message id="phase_add_button">
         <source></source>
@@ -1791,6 +2049,10 @@
         <source></source>
         <translation>« %1 »</translation>
     </message>
+    <message id="ready_to_start_subtitle">
+        <source></source>
+        <translation>Tout est prêt : lancez-en une depuis la page Deep Work</translation>
+    </message>
     <message id="rearming_button">
         <source></source>
         <translation>Se réarmer</translation>
@@ -1798,6 +2060,10 @@
     <message id="rearming_subtitle">
         <source></source>
         <translation>Un moment pour remettre de l’ordre avant la prochaine phase de travail. Rien n’est mesuré ni bloqué.</translation>
+    </message>
+    <message id="refresh_data_help">
+        <source></source>
+        <translation>Relire les enregistrements</translation>
     </message>
     <message id="refused_app_empty">
         <source></source>
@@ -1819,6 +2085,10 @@
         <source></source>
         <translation>Rien n’est en cours, il n’y a rien à mettre en pause.</translation>
     </message>
+    <message id="refused_period_unknown">
+        <source></source>
+        <translation>La période « %1 » n’existe pas : choisissez today, week, month, year ou all.</translation>
+    </message>
     <message id="refused_priority_unknown">
         <source></source>
         <translation>La priorité est low, medium ou high, et non « %1 ».</translation>
@@ -1830,6 +2100,10 @@
     <message id="refused_project_unknown">
         <source></source>
         <translation>Aucun projet ne s’appelle « %1 ». Il y a : %2.</translation>
+    </message>
+    <message id="refused_records_unreadable">
+        <source></source>
+        <translation>Impossible de lire les enregistrements : %1</translation>
     </message>
     <message id="refused_resume_not_paused">
         <source></source>
@@ -1927,6 +2201,10 @@
         <source></source>
         <translation>Enregistrer</translation>
     </message>
+    <message id="score_evolution_title">
+        <source></source>
+        <translation>Score de focus, session après session</translation>
+    </message>
     <message id="score_hide_terms">
         <source></source>
         <translation>Masquer l’explication</translation>
@@ -1990,6 +2268,14 @@
         <source></source>
         <translation>Score, ramené entre 0 et 10</translation>
     </message>
+    <message id="session_subtitle">
+        <source></source>
+        <translation>chaque session à l’heure où elle a commencé</translation>
+    </message>
+    <message id="sessions_completed_subtitle">
+        <source></source>
+        <translation>mesurée pendant les sessions</translation>
+    </message>
     <message id="sheet_close_button">
         <source></source>
         <translation>Fermer</translation>
@@ -2021,6 +2307,10 @@
     <message id="sidebar_projects">
         <source></source>
         <translation>Projets</translation>
+    </message>
+    <message id="sidebar_statistics">
+        <source></source>
+        <translation>Statistiques</translation>
     </message>
     <message id="site_add_button">
         <source></source>
@@ -2125,6 +2415,134 @@
         <source></source>
         <translation>Démarrer</translation>
     </message>
+    <message id="stats_explain_hint">
+        <source></source>
+        <translation>Montre les enregistrements correspondants</translation>
+    </message>
+    <message id="stats_export_busy_format">
+        <source></source>
+        <translation>Écriture de « %1 »…</translation>
+    </message>
+    <message id="stats_export_button">
+        <source></source>
+        <translation>Exporter les statistiques</translation>
+    </message>
+    <message id="stats_export_cancelled_format">
+        <source></source>
+        <translation>Annulé ; « %1 » n’a pas été écrit.</translation>
+    </message>
+    <message id="stats_export_document">
+        <source></source>
+        <translation>Page en PDF…</translation>
+    </message>
+    <message id="stats_export_document_title">
+        <source></source>
+        <translation>Enregistrer la page comme document PDF</translation>
+    </message>
+    <message id="stats_export_done_format">
+        <source></source>
+        <translation>Enregistré : %1</translation>
+    </message>
+    <message id="stats_export_done_records_format">
+        <source></source>
+        <translation>Enregistré avec %2 : %1</translation>
+    </message>
+    <message id="stats_export_failed_format">
+        <source></source>
+        <translation>Impossible d’écrire « %1 » : %2</translation>
+    </message>
+    <message id="stats_export_json">
+        <source></source>
+        <translation>Tout en JSON…</translation>
+    </message>
+    <message id="stats_export_json_title">
+        <source></source>
+        <translation>Exporter les sessions et l’usage des applications de la période</translation>
+    </message>
+    <message id="stats_export_no_picture">
+        <source></source>
+        <translation>aucune image de la page n’a pu être prise.</translation>
+    </message>
+    <message id="stats_export_picture">
+        <source></source>
+        <translation>Page en image…</translation>
+    </message>
+    <message id="stats_export_picture_title">
+        <source></source>
+        <translation>Enregistrer la page comme image</translation>
+    </message>
+    <message id="stats_export_sessions">
+        <source></source>
+        <translation>Sessions en CSV…</translation>
+    </message>
+    <message id="stats_export_sessions_title">
+        <source></source>
+        <translation>Exporter les sessions de la période</translation>
+    </message>
+    <message id="stats_export_unsaved_format">
+        <source></source>
+        <translation>« %1 » n’a pas été écrit : les derniers enregistrements ne peuvent pas être sauvegardés. %2</translation>
+    </message>
+    <message id="stats_export_usage">
+        <source></source>
+        <translation>Usage des applications en CSV…</translation>
+    </message>
+    <message id="stats_export_usage_title">
+        <source></source>
+        <translation>Exporter l’usage des applications de la période</translation>
+    </message>
+    <message id="stats_filter_csv">
+        <source></source>
+        <translation>Tableaux</translation>
+    </message>
+    <message id="stats_filter_document">
+        <source></source>
+        <translation>Documents PDF</translation>
+    </message>
+    <message id="stats_filter_json">
+        <source></source>
+        <translation>Fichiers JSON</translation>
+    </message>
+    <message id="stats_filter_picture">
+        <source></source>
+        <translation>Images</translation>
+    </message>
+    <message id="stats_introduction">
+        <source></source>
+        <translation>Cliquez sur un chiffre, une barre ou une ligne pour voir les enregistrements qui le composent.</translation>
+    </message>
+    <message id="stats_paper_date_format">
+        <source></source>
+        <translation>État au %1, %2</translation>
+    </message>
+    <message id="stats_paper_page_format">
+        <source></source>
+        <translation>Page %1 sur %2</translation>
+    </message>
+    <message id="stats_paper_title">
+        <source></source>
+        <translation>Statistiques de concentration</translation>
+    </message>
+    <message id="stats_period_label">
+        <source></source>
+        <translation>Période</translation>
+    </message>
+    <message id="stats_problem">
+        <source></source>
+        <translation>Impossible de lire les enregistrements : %1</translation>
+    </message>
+    <message id="stats_tabs_label">
+        <source></source>
+        <translation>Page de statistiques</translation>
+    </message>
+    <message id="stats_title">
+        <source></source>
+        <translation>Statistiques</translation>
+    </message>
+    <message id="stats_waiting">
+        <source></source>
+        <translation>Lecture des enregistrements</translation>
+    </message>
     <message id="stop_button">
         <source></source>
         <translation>Arrêter</translation>
@@ -2211,6 +2629,14 @@
     <message id="summary_tasks">
         <source></source>
         <translation>Tâches terminées</translation>
+    </message>
+    <message id="tab_history">
+        <source></source>
+        <translation>Historique</translation>
+    </message>
+    <message id="tab_today">
+        <source></source>
+        <translation>Aujourd’hui</translation>
     </message>
     <message id="task_active_name">
         <source></source>
@@ -2481,9 +2907,33 @@
         <source></source>
         <translation>Grave et feutré</translation>
     </message>
+    <message id="time_hours_minutes_short">
+        <source></source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message id="time_hours_short">
+        <source></source>
+        <translation>%1 h</translation>
+    </message>
+    <message id="time_minutes_short">
+        <source></source>
+        <translation>%1 min</translation>
+    </message>
+    <message id="time_seconds_short">
+        <source></source>
+        <translation>%1 s</translation>
+    </message>
+    <message id="timeline_focus_title">
+        <source></source>
+        <translation>La concentration au fil de la journée</translation>
+    </message>
     <message id="today">
         <source></source>
         <translation>Aujourd’hui</translation>
+    </message>
+    <message id="today_sessions_title">
+        <source></source>
+        <translation>Sessions du jour</translation>
     </message>
     <message id="today_short">
         <source></source>

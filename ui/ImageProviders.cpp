@@ -1,5 +1,6 @@
 #include "ui/ImageProviders.h"
 
+#include "platform/ApplicationCatalog.h"
 #include "platform/Log.h"
 
 #include <QColor>
@@ -14,6 +15,7 @@ namespace norvin {
 namespace {
 
 constexpr QSize usualSize(24, 24);
+constexpr auto identifierPrefix = QLatin1String("of:");
 
 /// The symbol drawn in one colour; null for an unknown name.
 QPixmap drawnSymbol(const QString& name, const QColor& color, const QSize& size) {
@@ -44,7 +46,12 @@ AppIconProvider::AppIconProvider()
     : QQuickImageProvider(QQuickImageProvider::Pixmap) {}
 
 QPixmap AppIconProvider::requestPixmap(const QString& id, QSize* size, const QSize& requestedSize) {
-    const QString name = QUrl::fromPercentEncoding(id.toUtf8());
+    QString name = QUrl::fromPercentEncoding(id.toUtf8());
+    if (name.startsWith(identifierPrefix)) {
+        const auto application =
+            m_catalog != nullptr ? m_catalog->application(name.mid(identifierPrefix.size())) : std::nullopt;
+        name = application ? application->iconName : QString();
+    }
     const QSize wanted = sizeFor(requestedSize);
     QPixmap pixmap;
     if (name.startsWith(QLatin1Char('/')))

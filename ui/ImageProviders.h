@@ -4,12 +4,20 @@
 
 namespace norvin {
 
-/// Icons of applications: "image://appicon/<icon theme name or absolute path, percent-encoded>". What cannot
-/// be found gets the program's own stand-in. Main thread only: icon themes are not made for others.
+class ApplicationCatalog;
+
+/// Icons of applications: "image://appicon/<icon theme name or absolute path, percent-encoded>", or
+/// "image://appicon/of:<bundle identifier, percent-encoded>". What cannot be found gets the program's own
+/// stand-in. Main thread only: icon themes are not made for others.
 class AppIconProvider final : public QQuickImageProvider {
 public:
     AppIconProvider();
+    /// Where identifiers are looked up; nowhere before this was called. @param catalog must outlive this
+    void setCatalog(const ApplicationCatalog& catalog) { m_catalog = &catalog; }
     QPixmap requestPixmap(const QString& id, QSize* size, const QSize& requestedSize) override;
+
+private:
+    const ApplicationCatalog* m_catalog = nullptr;
 };
 
 /// The program's own symbols in a colour: "image://symbol/<name>/<colour as rrggbb or aarrggbb>". An unknown

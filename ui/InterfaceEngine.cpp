@@ -23,17 +23,22 @@ QUrl addressOf(const char* file) {
 
 } // namespace
 
-InterfaceEngine::InterfaceEngine() {
+InterfaceEngine::InterfaceEngine()
+    : m_appIcons(new AppIconProvider) {
     // The first text that is laid out waits for the list of the machine's fonts, which is long in the making.
     QThreadPool::globalInstance()->start([] { static_cast<void>(QFontDatabase::families()); });
     qml_register_types_NorvinFocus_Ui();
     m_engine.addImportPath(QStringLiteral("qrc:/"));
-    m_engine.addImageProvider(QStringLiteral("appicon"), new AppIconProvider);
+    m_engine.addImageProvider(QStringLiteral("appicon"), m_appIcons);
     m_engine.addImageProvider(QStringLiteral("symbol"), new SymbolProvider);
     compileMeanwhile("shell/Main.qml");
 }
 
 InterfaceEngine::~InterfaceEngine() = default;
+
+void InterfaceEngine::setApplications(const ApplicationCatalog& catalog) {
+    m_appIcons->setCatalog(catalog);
+}
 
 void InterfaceEngine::setSingletons(Localization& localization, MotionPreference& motion) {
     m_engine.setProperty(qml::LocalizationType::engineProperty, QVariant::fromValue(&localization));

@@ -8,6 +8,8 @@ class QQmlComponent;
 
 namespace norvin {
 
+class AppIconProvider;
+class ApplicationCatalog;
 class Localization;
 class MotionPreference;
 class OverlayWindow;
@@ -24,6 +26,8 @@ public:
 
     /// What the QML singletons of these names are. Both must outlive the engine.
     void setSingletons(Localization& localization, MotionPreference& motion);
+    /// Where the icons of applications come from. @param catalog must outlive the engine
+    void setApplications(const ApplicationCatalog& catalog);
     /// Waits until the main window is compiled, and lets what follows its first picture be compiled next.
     void finishCompiling();
     /// Makes the main window with these properties, hidden.
@@ -40,6 +44,8 @@ private:
     void compileMeanwhile(const char* file);
 
     QQmlEngine m_engine;
+    /// Belongs to the engine.
+    AppIconProvider* m_appIcons;
     std::unique_ptr<QQmlComponent> m_compiling;
     std::unique_ptr<QQmlComponent> m_window;
 };

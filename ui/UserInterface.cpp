@@ -6,6 +6,7 @@
 #include "focus/DeepWorkScreen.h"
 #include "planning/PlanningScreens.h"
 #include "sound/TickSoundSettings.h"
+#include "stats/StatsScreen.h"
 #include "ui/InterfaceEngine.h"
 #include "ui/Localization.h"
 #include "ui/MotionPreference.h"
@@ -31,12 +32,13 @@ constexpr int bodyPixelSize = 14;
 } // namespace
 
 UserInterface::UserInterface(std::unique_ptr<InterfaceEngine> engine, DeepWorkScreen& deepWork,
-                             PlanningScreens& planning, TickSoundSettings& tickSounds,
+                             PlanningScreens& planning, StatsScreen& stats, TickSoundSettings& tickSounds,
                              BlockListsScreen& blockLists, TrackingHealthModel& health,
                              Localization& localization, QObject* parent)
     : QObject(parent)
     , m_deepWork(deepWork)
     , m_planning(planning)
+    , m_stats(stats)
     , m_tickSounds(tickSounds)
     , m_blockLists(blockLists)
     , m_health(health)
@@ -44,10 +46,12 @@ UserInterface::UserInterface(std::unique_ptr<InterfaceEngine> engine, DeepWorkSc
     , m_motion(std::make_unique<MotionPreference>())
     , m_engine(std::move(engine)) {
     m_planning.retranslate(localization.locale());
+    m_stats.retranslate(localization.locale());
     m_engine->setSingletons(localization, *m_motion);
     connect(&localization, &Localization::languageChanged, this, [this] {
         m_health.retranslate();
         m_planning.retranslate(m_localization.locale());
+        m_stats.retranslate(m_localization.locale());
         m_blockLists.retranslate();
         m_engine->retranslate();
     });
@@ -65,6 +69,7 @@ bool UserInterface::load() {
     std::unique_ptr<QObject> root = m_engine->createWindow({
         {QStringLiteral("deepWork"), QVariant::fromValue(&m_deepWork)},
         {QStringLiteral("planning"), QVariant::fromValue(&m_planning)},
+        {QStringLiteral("stats"), QVariant::fromValue(&m_stats)},
         {QStringLiteral("tickSounds"), QVariant::fromValue(&m_tickSounds)},
         {QStringLiteral("blockLists"), QVariant::fromValue(&m_blockLists)},
         {QStringLiteral("health"), QVariant::fromValue(&m_health)},

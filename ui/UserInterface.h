@@ -16,6 +16,7 @@ class InterfaceEngine;
 class Localization;
 class MotionPreference;
 class PlanningScreens;
+class StatsScreen;
 class TickSoundSettings;
 class TrackingHealthModel;
 
@@ -31,8 +32,9 @@ class UserInterface final : public QObject {
 public:
     /// Everything given by reference must outlive this.
     UserInterface(std::unique_ptr<InterfaceEngine> engine, DeepWorkScreen& deepWork,
-                  PlanningScreens& planning, TickSoundSettings& tickSounds, BlockListsScreen& blockLists,
-                  TrackingHealthModel& health, Localization& localization, QObject* parent = nullptr);
+                  PlanningScreens& planning, StatsScreen& stats, TickSoundSettings& tickSounds,
+                  BlockListsScreen& blockLists, TrackingHealthModel& health, Localization& localization,
+                  QObject* parent = nullptr);
     ~UserInterface() override;
 
     /// Whose messages the Deep Work screen shows, to be said before load(). @param coach must outlive this
@@ -70,6 +72,7 @@ private:
 
     DeepWorkScreen& m_deepWork;
     PlanningScreens& m_planning;
+    StatsScreen& m_stats;
     TickSoundSettings& m_tickSounds;
     BlockListsScreen& m_blockLists;
     TrackingHealthModel& m_health;

@@ -8,6 +8,7 @@
 #include "platform/fake/FakeAudioOutput.h"
 #include "sound/TickSoundService.h"
 #include "sound/TickSoundSettings.h"
+#include "stats/StatsScreen.h"
 #include "tests/support/FocusRig.h"
 #include "ui/InterfaceEngine.h"
 #include "ui/Localization.h"
@@ -29,9 +30,10 @@ struct UiRig {
             install(QString::fromLatin1(name));
         health.refresh();
         userInterface =
-            std::make_unique<UserInterface>(std::make_unique<InterfaceEngine>(), deepWork, planning,
+            std::make_unique<UserInterface>(std::make_unique<InterfaceEngine>(), deepWork, planning, stats,
                                             tickSoundSettings, blockLists, health, *localization);
         userInterface->setCoach(coach);
+        userInterface->engine().setApplications(focus.catalog);
         loaded = userInterface->load();
     }
 
@@ -58,7 +60,7 @@ struct UiRig {
             QTest::keyClick(window(), character.toLatin1());
     }
     /// In the order of the sidebar.
-    enum class Page { deepWork, agenda, projects, blockLists, health };
+    enum class Page { deepWork, agenda, projects, statistics, blockLists, health };
     void showPage(Page page) const { press(Qt::Key_1 + static_cast<int>(page), Qt::ControlModifier); }
 
     /// The first item of that name that is shown; null for none.
@@ -145,6 +147,10 @@ struct UiRig {
     AICoachService coach{focus.clock, focus.blocker};
     DeepWorkScreen deepWork{focus.timer, focus.usage, focus.motion, focus.context()};
     PlanningScreens planning{focus.context(), focus.timer, focus.soundService, focus.clock};
+    StatsScreen stats{focus.context(), focus.container->storeFile(), focus.timer, focus.clock,
+                      [this](const QString& text, std::function<void()> takeBack) {
+                          planning.edits()->offerUndo(text, std::move(takeBack));
+                      }};
     BlockListsScreen blockLists{focus.catalog, focus.workspace, focus.blocker, focus.preferences};
     TrackingHealthModel health{
         {{QStringLiteral("health_frontmost_application"), [] { return Availability::available(); }},

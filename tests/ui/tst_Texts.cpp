@@ -69,7 +69,7 @@ QSet<QString> TextsTest::usedKeys() {
         R"re("((?:accessibility|attach|browser_restart|count|extension|health|planning_file|refused|window_closed)_[a-z0-9_]+)")re"));
     QSet<QString> keys;
     for (const char* folder :
-         {"app", "distraction", "focus", "model", "planning", "platform", "sound", "ui"}) {
+         {"app", "distraction", "focus", "model", "planning", "platform", "sound", "stats", "ui"}) {
         QDirIterator files(root + QLatin1Char('/') + QLatin1String(folder),
                            {QStringLiteral("*.cpp"), QStringLiteral("*.qml")}, QDir::Files,
                            QDirIterator::Subdirectories);

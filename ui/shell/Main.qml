@@ -12,12 +12,14 @@ Window {
         DeepWork,
         Agenda,
         Projects,
+        Statistics,
         BlockLists,
         Health
     }
 
     required property DeepWorkScreen deepWork
     required property PlanningScreens planning
+    required property StatsScreen stats
     required property TickSoundSettings tickSounds
     required property BlockListsScreen blockLists
     required property TrackingHealthModel health
@@ -53,7 +55,7 @@ Window {
     color: Theme.background
 
     Instantiator {
-        model: 5
+        model: 6
 
         Shortcut {
             required property int index
@@ -80,6 +82,7 @@ Window {
             focus: true
             deepWork: root.deepWork
             planning: root.planning
+            stats: root.stats
             tickSounds: root.tickSounds
             blockLists: root.blockLists
             health: root.health

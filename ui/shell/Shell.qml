@@ -10,6 +10,7 @@ FocusScope {
 
     required property DeepWorkScreen deepWork
     required property PlanningScreens planning
+    required property StatsScreen stats
     required property TickSoundSettings tickSounds
     required property BlockListsScreen blockLists
     required property TrackingHealthModel health
@@ -85,6 +86,12 @@ FocusScope {
                     wanted: root.page === Main.PageNumber.Projects
                     file: "../projects/ProjectsPage.qml"
                     model: root.planning
+                }
+
+                LazyPage {
+                    wanted: root.page === Main.PageNumber.Statistics
+                    file: "../stats/StatsPage.qml"
+                    model: root.stats
                 }
 
                 LazyPage {

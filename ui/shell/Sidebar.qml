@@ -72,9 +72,17 @@ Rectangle {
         }
 
         SidebarEntry {
+            symbol: "chart.bar"
+            text: qsTrId("sidebar_statistics")
+            keys: "Ctrl+4"
+            isCurrent: root.page === Main.PageNumber.Statistics
+            onClicked: root.pageChosen(Main.PageNumber.Statistics)
+        }
+
+        SidebarEntry {
             symbol: "hand.raised"
             text: qsTrId("sidebar_block_lists")
-            keys: "Ctrl+4"
+            keys: "Ctrl+5"
             isCurrent: root.page === Main.PageNumber.BlockLists
             onClicked: root.pageChosen(Main.PageNumber.BlockLists)
         }
@@ -82,7 +90,7 @@ Rectangle {
         SidebarEntry {
             symbol: "waveform.path.ecg"
             text: qsTrId("sidebar_health")
-            keys: "Ctrl+5"
+            keys: "Ctrl+6"
             isCurrent: root.page === Main.PageNumber.Health
             badge: root.furnished ? root.problemCount : 0
             badgeName: root.problemCount > 0 ? qsTrId("health_problems", root.problemCount) : ""

@@ -37,6 +37,8 @@ QtObject {
     readonly property color distractedSurface: "#2a1219"
     readonly property color amber: "#f59e0b"
     readonly property color amberSurface: "#2a1f10"
+    readonly property color flame: "#fb923c"
+    readonly property color azure: "#38bdf8"
     readonly property color danger: "#b91c1c"
     readonly property color dangerHover: "#991b1b"
     readonly property color dangerInk: "#ffffff"
