@@ -185,7 +185,7 @@ void StatsExport::write(Kind kind, const QUrl& file) {
     }
     // What is read is the store's file: what was recorded last has to be in it.
     if (const StoreResult unsaved = m_context.save()) {
-        refuse(path, {"stats_export_unsaved_format", unsaved->description});
+        refuse(path, Unsaved{unsaved->description});
         return;
     }
     start(path, [wanted = recordsFor(kind, path)](ExportControl& control) {
@@ -198,7 +198,7 @@ void StatsExport::writePicture(const QImage& picture, const QColor& background, 
     if (isBusy())
         return;
     if (picture.isNull()) {
-        refuse(path, {"stats_export_no_picture_format", {}});
+        refuse(path, ExportFailure{qtTrId("stats_export_no_picture")});
         return;
     }
     start(path, [path, picture, background](const ExportControl& control) {
@@ -235,9 +235,9 @@ void StatsExport::start(const QString& path, const Work& work) {
     Q_EMIT busyChanged();
 }
 
-void StatsExport::refuse(const QString& path, const Refused& refusal) {
+void StatsExport::refuse(const QString& path, const Notice& notice) {
     m_path = path;
-    setNotice(refusal);
+    setNotice(notice);
 }
 
 void StatsExport::cancel() {
@@ -273,8 +273,8 @@ QString StatsExport::noticeText() const {
     const QString name = QFileInfo(m_path).fileName();
     if (const auto* failure = std::get_if<ExportFailure>(&m_notice))
         return qtTrId("stats_export_failed_format").arg(name, failure->reason);
-    if (const auto* refused = std::get_if<Refused>(&m_notice))
-        return qtTrId(refused->key).arg(name, refused->reason);
+    if (const auto* unsaved = std::get_if<Unsaved>(&m_notice))
+        return qtTrId("stats_export_unsaved_format").arg(name, unsaved->reason);
     if (std::holds_alternative<ExportCancelled>(m_notice))
         return qtTrId("stats_export_cancelled_format").arg(name);
     return {};

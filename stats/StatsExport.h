@@ -65,7 +65,7 @@ public:
     [[nodiscard]] QString busyText() const;
     [[nodiscard]] QString noticeText() const;
     [[nodiscard]] bool isNoticeProblem() const {
-        return std::holds_alternative<ExportFailure>(m_notice) || std::holds_alternative<Refused>(m_notice);
+        return std::holds_alternative<ExportFailure>(m_notice) || std::holds_alternative<Unsaved>(m_notice);
     }
     [[nodiscard]] QUrl folder() const;
 
@@ -85,18 +85,16 @@ Q_SIGNALS:
     void noticeChanged();
 
 private:
-    /// Why nothing was even begun.
-    struct Refused {
-        /// Localisation key of a sentence; the reason stands for its %2.
-        const char* key;
+    /// Nothing was begun, because what was recorded last is not in the store's file.
+    struct Unsaved {
         QString reason;
     };
-    using Notice = std::variant<std::monostate, ExportDone, ExportFailure, ExportCancelled, Refused>;
+    using Notice = std::variant<std::monostate, ExportDone, ExportFailure, ExportCancelled, Unsaved>;
     /// On the other thread.
     using Work = std::function<ExportOutcome(ExportControl& control)>;
 
     void start(const QString& path, const Work& work);
-    void refuse(const QString& path, const Refused& refusal);
+    void refuse(const QString& path, const Notice& notice);
     void setNotice(const Notice& notice);
     [[nodiscard]] RecordExport recordsFor(Kind kind, const QString& path) const;
     [[nodiscard]] StatsPeriod period() const;
