@@ -152,6 +152,23 @@ Parsed parseOneWord(const QString& name, const Arguments& arguments) {
     return Command(command::Done{word});
 }
 
+Parsed parseStats(const Arguments& arguments) {
+    command::Stats stats;
+    stats.json = arguments.flags.contains(QStringLiteral("--json"));
+    stats.csv = arguments.flags.contains(QStringLiteral("--csv"));
+    if (stats.json && stats.csv)
+        return fail(QStringLiteral("stats: give --json or --csv, not both"));
+    const auto period = arguments.values.constFind(QStringLiteral("--period"));
+    if (period == arguments.values.cend())
+        return Command(stats);
+    stats.period = statsPeriodFromRawValue(*period);
+    if (!stats.period) {
+        return fail(
+            QStringLiteral("stats: the period is today, week, month, year or all, not '%1'").arg(*period));
+    }
+    return Command(stats);
+}
+
 struct Rule {
     QSet<QString> withValue;
     QSet<QString> flags;
@@ -181,6 +198,7 @@ const QHash<QString, Rule>& rules() {
         {QStringLiteral("block"), list},
         {QStringLiteral("allow"), list},
         {QStringLiteral("lists"), {{}, {json}, false}},
+        {QStringLiteral("stats"), {{QStringLiteral("--period")}, {json, QStringLiteral("--csv")}, false}},
         {QStringLiteral("doctor"), {}},
         {QStringLiteral("help"), {}},
     };
@@ -242,6 +260,8 @@ Parsed parseCommandLine(const QStringList& arguments) {
         return Command(command::Doctor{});
     if (name == QLatin1String("help"))
         return Command(command::Help{});
+    if (name == QLatin1String("stats"))
+        return parseStats(given);
     if (name == QLatin1String("add"))
         return parseAdd(given);
     if (name == QLatin1String("agenda"))
@@ -281,6 +301,8 @@ Commands
   block, allow (--app ID | --site SITE --browser ID) [--remove]
                       put an application or a site on the blocked or on the allowed list, or take it off
   lists [--json]      the four lists
+  stats [--period today|week|month|year|all] [--json|--csv]
+                      the figures of today, or with a period those of the past
   doctor              what of this desktop can be used, and what to do about the rest
 
 Options

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "focus/PomodoroTimerService.h"
+#include "stats/StatsPeriod.h"
 
 #include <QString>
 #include <QStringList>
@@ -85,6 +86,13 @@ struct ChangeList {
 struct Lists {
     bool json = false;
 };
+/// The figures of the statistics page.
+struct Stats {
+    /// That of the page of the past; none for the page of today.
+    std::optional<StatsPeriod> period = {};
+    bool json = false;
+    bool csv = false;
+};
 struct Doctor {};
 struct Help {};
 struct Version {};
@@ -95,7 +103,7 @@ using Command =
     std::variant<command::OpenWindow, command::Start, command::Pause, command::Resume, command::Stop,
                  command::Status, command::Tasks, command::Add, command::Agenda, command::Projects,
                  command::Done, command::Export, command::Import, command::ChangeList, command::Lists,
-                 command::Doctor, command::Help, command::Version>;
+                 command::Stats, command::Doctor, command::Help, command::Version>;
 
 /// Why the arguments cannot be understood, as one line in English.
 struct CommandLineError {

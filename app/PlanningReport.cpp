@@ -30,7 +30,8 @@ QJsonValue textOrNull(const QString& text) {
     return text.isEmpty() ? QJsonValue() : QJsonValue(text);
 }
 
-// What a title holds must not reach the terminal as anything but letters on one line.
+} // namespace
+
 QString printable(const QString& text) {
     QString result = text.simplified();
     for (QChar& character : result) {
@@ -43,8 +44,6 @@ QString printable(const QString& text) {
 QString counted(int count, const char* one, const char* more) {
     return QStringLiteral("%1 %2").arg(QString::number(count), QLatin1String(count == 1 ? one : more));
 }
-
-} // namespace
 
 QString shortId(const QString& id) {
     return id.left(8);

@@ -26,5 +26,9 @@ namespace norvin {
 
 /// As much of an id as people are shown.
 [[nodiscard]] QString shortId(const QString& id);
+/// What a title holds, as nothing but letters on one line: for a terminal.
+[[nodiscard]] QString printable(const QString& text);
+/// "1 task", "2 tasks".
+[[nodiscard]] QString counted(int count, const char* one, const char* more);
 
 } // namespace norvin

@@ -3,6 +3,8 @@
 #include "app/FocusBusService.h"
 #include "app/PlanningBusService.h"
 #include "app/PlanningReport.h"
+#include "app/StatsBusService.h"
+#include "app/StatsReport.h"
 #include "app/StatusReport.h"
 
 #include <QCoreApplication>
@@ -81,6 +83,8 @@ ExitCode RemoteControl::run(const Command& command) {
         return call(QStringLiteral("Stop"));
     if (const std::optional<ExitCode> code = runPlanning(command))
         return *code;
+    if (const auto* wanted = std::get_if<command::Stats>(&command))
+        return stats(*wanted);
     if (const auto* wanted = std::get_if<command::Status>(&command))
         return status(*wanted);
     if (const auto* wanted = std::get_if<command::ChangeList>(&command))
@@ -190,6 +194,21 @@ ExitCode RemoteControl::doctor() {
             return ExitCode::refused;
     }
     return ExitCode::done;
+}
+
+ExitCode RemoteControl::stats(const command::Stats& wanted) {
+    QString reply;
+    const QString period = wanted.period ? rawValue(*wanted.period) : QString();
+    const ExitCode code = callOn(statsBusInterface, QStringLiteral("Report"), {period}, &reply);
+    if (code != ExitCode::done)
+        return code;
+    if (wanted.json)
+        print(stdout, reply + u'\n');
+    else if (wanted.csv)
+        print(stdout, QString::fromUtf8(statsCsv(parsed(reply).object())));
+    else
+        print(stdout, statsText(parsed(reply).object()));
+    return code;
 }
 
 ExitCode RemoteControl::changeList(const command::ChangeList& change) {

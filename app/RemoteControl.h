@@ -28,6 +28,7 @@ private:
     [[nodiscard]] ExitCode doctor();
     [[nodiscard]] ExitCode changeList(const command::ChangeList& change);
     [[nodiscard]] std::optional<ExitCode> runPlanning(const Command& command);
+    [[nodiscard]] ExitCode stats(const command::Stats& wanted);
     [[nodiscard]] ExitCode launch();
     [[nodiscard]] bool waitForInstance(qint64 launchedProcess) const;
 
@@ -37,6 +38,7 @@ private:
     /// The same with the interface for projects and tasks.
     [[nodiscard]] ExitCode callPlanning(const QString& method, const QVariantList& arguments,
                                         QString* reply = nullptr);
+    /// The same with any interface of the object.
     [[nodiscard]] ExitCode callOn(const char* interface, const QString& method, const QVariantList& arguments,
                                   QString* reply);
 

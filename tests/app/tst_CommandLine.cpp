@@ -66,6 +66,9 @@ void tst_CommandLine::understandsTheOthers() {
     QVERIFY(agenda && agenda->json);
     QCOMPARE(agenda->date, QStringLiteral("2025-03-10"));
     QVERIFY(parsedAs<command::Projects>({"projects"}));
+    const auto stats = parsedAs<command::Stats>({"stats", "--period=year", "--csv"});
+    QVERIFY(stats && stats->period == StatsPeriod::year && stats->csv && !stats->json);
+    QVERIFY(!parsedAs<command::Stats>({"stats"})->period);
     QCOMPARE(parsedAs<command::Done>({"done", "1a2B"})->id, QStringLiteral("1a2B"));
     const auto exported = parsedAs<command::Export>({"export", "--force", "plan.json"});
     QVERIFY(exported && exported->force && exported->path == QLatin1String("plan.json"));
@@ -103,6 +106,8 @@ void tst_CommandLine::refusesWithAClearLine_data() {
     row({"add", "a", "--priority", "urgent"}, "urgent");
     row({"add", "a", "--project", " "}, "--project");
     row({"agenda", "--date", "yesterday"}, "yesterday");
+    row({"stats", "--period", "fortnight"}, "'fortnight'");
+    row({"stats", "--json", "--csv"}, "not both");
     row({"done"}, "one task");
     row({"done", "1a2"}, "1a2");
     row({"done", "wxyz"}, "wxyz");
@@ -128,7 +133,7 @@ void tst_CommandLine::refusesWithAClearLine() {
 void tst_CommandLine::helpNamesEveryCommand() {
     const QString help = commandLineHelp();
     for (const char* name :
-         {"start", "pause", "resume", "stop", "status", "tasks", "add", "agenda", "projects", "done",
+         {"start", "pause", "resume", "stop", "status", "tasks", "add", "agenda", "projects", "done", "stats",
           "export", "import", "block", "allow", "lists", "doctor", "--help", "--version"})
         QVERIFY2(help.contains(QLatin1String(name)), name);
 }
