@@ -46,6 +46,13 @@ bool showsSame(const FigureRecord& a, const FigureRecord& b) {
         a);
 }
 
+/// What a record has no text for.
+QVariant otherwise(int role, bool canOpen) {
+    if (role == ExplanationRows::CanOpenRole)
+        return canOpen;
+    return role > Qt::UserRole ? QVariant(QString()) : QVariant();
+}
+
 QString scoreText(const std::optional<double>& score) {
     return score ? formatScore(*score) : QString();
 }
@@ -141,7 +148,7 @@ QVariant ExplanationRows::data(const QModelIndex& index, int role) const {
         case ScoreRole:
             return formatScore(live.score);
         default:
-            return role == CanOpenRole ? QVariant(false) : QVariant(QString());
+            return otherwise(role, false);
         }
     };
     const auto ofSession = [this, role](const SessionRow& session) -> QVariant {
@@ -159,7 +166,7 @@ QVariant ExplanationRows::data(const QModelIndex& index, int role) const {
         case ScoreRole:
             return scoreText(session.score);
         default:
-            return role == CanOpenRole ? QVariant(true) : QVariant(QString());
+            return otherwise(role, true);
         }
     };
     const auto ofDay = [this, role](const DayCount& day) -> QVariant {
@@ -171,7 +178,7 @@ QVariant ExplanationRows::data(const QModelIndex& index, int role) const {
         case ValueRole:
             return qtTrId("explain_sessions", day.sessions);
         default:
-            return role == CanOpenRole ? QVariant(true) : QVariant(QString());
+            return otherwise(role, true);
         }
     };
     const auto ofApplication = [role](const AppTotal& total) -> QVariant {
@@ -187,7 +194,7 @@ QVariant ExplanationRows::data(const QModelIndex& index, int role) const {
         case BundleIDRole:
             return total.bundleID;
         default:
-            return role == CanOpenRole ? QVariant(true) : QVariant(QString());
+            return otherwise(role, true);
         }
     };
     return std::visit(Overloaded{ofLive, ofSession, ofDay, ofApplication}, record);

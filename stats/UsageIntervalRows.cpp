@@ -145,7 +145,6 @@ UsageIntervalRows::Page UsageIntervalRows::readFromMemory() const {
 }
 
 void UsageIntervalRows::take(Page page) {
-    m_request.reset();
     // A file that its context has for itself alone, as on a full disk, is read through the context.
     if (page.isRefused) {
         beginResetModel();
@@ -153,14 +152,16 @@ void UsageIntervalRows::take(Page page) {
         endResetModel();
         page = readFromMemory();
     }
-    m_problem = page.problem;
-    m_isComplete = page.isLast;
     if (!page.intervals.empty()) {
         const int first = rowCount();
         beginInsertRows({}, first, first + static_cast<int>(page.intervals.size()) - 1);
         m_rows.insert(m_rows.end(), page.intervals.begin(), page.intervals.end());
         endInsertRows();
     }
+    // Only now: whoever hears of the rows may ask for more.
+    m_request.reset();
+    m_problem = page.problem;
+    m_isComplete = page.isLast;
     Q_EMIT stateChanged();
     // Whether the last page was read before or after something was recorded is not known.
     if (std::exchange(m_asksAgain, false) && m_isComplete)

@@ -44,6 +44,8 @@ public:
     /// Gives up what is being read, and forgets the rest.
     void clear();
     [[nodiscard]] bool isWaiting() const { return m_request != nullptr && m_rows.empty(); }
+    /// Whether any page is.
+    [[nodiscard]] bool isReading() const { return m_request != nullptr; }
     [[nodiscard]] const QString& problem() const { return m_problem; }
     /// How dates and times are written.
     void setLocale(const QLocale& locale);
