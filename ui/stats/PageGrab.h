@@ -1,5 +1,7 @@
 #pragma once
 
+#include "stats/StatsExport.h"
+
 #include <QColor>
 #include <QQmlEngine>
 #include <QQuickItem>
@@ -9,8 +11,6 @@
 class QQuickItemGrabResult;
 
 namespace norvin {
-
-class StatsExport;
 
 /// Takes a picture of the statistics page that is shown, all of it, also what is scrolled out of sight. (Not
 /// final: QML derives from what it makes.)
