@@ -236,7 +236,8 @@ std::variant<BlockLists, BlockListFileError> readBlockListFile(const QString& pa
 QString writeBlockListFile(const QString& path, const BlockLists& lists) {
     QSaveFile file(path);
     const QByteArray text = blockListFileText(lists);
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.flush() ||
+        !file.commit())
         return file.errorString();
     return {};
 }

@@ -61,8 +61,8 @@ ExportOutcome writeFile(const QString& path, const ExportControl& control, const
     const bool isDrawn = draw(file);
     if (control.isCancelled)
         return ExportCancelled{};
-    // A device that is full says so no later than here.
-    if (!isDrawn || file.error() != QFileDevice::NoError || !file.commit())
+    // A device that is full says so no later than here; commit() would not tell.
+    if (!isDrawn || file.error() != QFileDevice::NoError || !file.flush() || !file.commit())
         return ExportFailure{file.errorString()};
     return ExportDone{};
 }

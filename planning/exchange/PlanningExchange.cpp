@@ -107,7 +107,8 @@ std::variant<SnapshotCounts, PlanningError> PlanningExchange::exportTo(const QSt
     PlanningSnapshot content = snapshotOf(m_context);
     const QByteArray bytes = bytesOf(content, *format, UserDays(m_clock.now()));
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush() ||
+        !file.commit())
         return PlanningError{"planning_file_unwritable", {file.errorString()}};
     // The other formats hold tasks alone; of projects and phases they hold the names.
     if (*format != PlanningFormat::json)

@@ -178,8 +178,8 @@ ExportOutcome writeRecords(const RecordExport& wanted, ExportControl& control) {
         return ExportFailure{file.errorString()};
     if (control.isCancelled)
         return ExportCancelled{};
-    // The last bytes reach the disk here, where there may be no room for them.
-    if (!file.commit())
+    // The last bytes reach the disk here, where there may be no room for them; commit() would not tell.
+    if (!file.flush() || !file.commit())
         return ExportFailure{file.errorString()};
     return ExportDone{writing.counts()};
 }

@@ -58,7 +58,7 @@ QJsonObject readJson(const QString& path) {
 std::optional<Result> write(const QString& path, const QByteArray& content) {
     QSaveFile file(path);
     if (QDir().mkpath(QFileInfo(path).path()) && file.open(QIODevice::WriteOnly) &&
-        file.write(content) == content.size() && file.commit())
+        file.write(content) == content.size() && file.flush() && file.commit())
         return std::nullopt;
     return Result{State::failed,
                   QStringLiteral("extension_not_written"),
