@@ -14,7 +14,7 @@ Rectangle {
     readonly property string text: root.isBusy ? root.model.busyText : root.model.noticeText
 
     /// It is about to go, and with it the keyboard where it has it.
-    signal left
+    signal keyboardLeft
 
     visible: root.text.length > 0
     implicitHeight: row.implicitHeight + 2 * Theme.gap1
@@ -59,7 +59,7 @@ Rectangle {
             kind: PushButton.Kind.Quiet
             text: qsTrId("cancel_button")
             onClicked: {
-                root.left();
+                root.keyboardLeft();
                 root.model.cancel();
             }
         }
@@ -72,7 +72,7 @@ Rectangle {
             symbol: "xmark"
             text: qsTrId("notice_close_button")
             onClicked: {
-                root.left();
+                root.keyboardLeft();
                 root.model.dismissNotice();
             }
         }

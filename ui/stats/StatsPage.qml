@@ -58,7 +58,7 @@ Page {
     StatsExportNotice {
         Layout.fillWidth: true
         model: root.model.files
-        onLeft: tabs.forceActiveFocus(Qt.TabFocusReason)
+        onKeyboardLeft: tabs.forceActiveFocus(Qt.TabFocusReason)
     }
 
     WaitingLine {
