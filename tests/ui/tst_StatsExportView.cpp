@@ -57,7 +57,8 @@ private:
         QTest::addColumn<QString>("tab");
         for (const char* language : {"en", "fr"}) {
             for (const char* tab : {"today", "history"})
-                QTest::addRow("%s-%s", language, tab) << QLatin1String(language) << QLatin1String(tab);
+                QTest::addRow("%s-%s", language, tab)
+                    << QString(QLatin1String(language)) << QString(QLatin1String(tab));
         }
     }
     static void keep(const QImage& image, const QString& name) {
