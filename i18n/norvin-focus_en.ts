@@ -643,6 +643,10 @@
         <source></source>
         <translation>Objectives of the day</translation>
     </message>
+    <message id="date_at_time">
+        <source></source>
+        <translation>%1 at %2</translation>
+    </message>
     <message id="date_day_month_short">
         <source></source>
         <translation>d MMM</translation>
@@ -745,6 +749,114 @@
     <message id="enumeration_and">
         <source></source>
         <translation>%1 and %2</translation>
+    </message>
+    <message id="explain_application_rule">
+        <source></source>
+        <translation>Each time it was in front while a session was running, one after the other.</translation>
+    </message>
+    <message id="explain_applications" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n application</numerusform>
+            <numerusform>%n applications</numerusform>
+        </translation>
+    </message>
+    <message id="explain_apps_rule">
+        <source></source>
+        <translation>The seconds of all applications added up; the page shows the whole minutes.</translation>
+    </message>
+    <message id="explain_back_button">
+        <source></source>
+        <translation>Back</translation>
+    </message>
+    <message id="explain_best_day_rule">
+        <source></source>
+        <translation>The day with the most minutes in completed sessions. A work phase in progress does not count here.</translation>
+    </message>
+    <message id="explain_bucket_rule">
+        <source></source>
+        <translation>The minutes of the completed sessions that began in this stretch of time, and of the work phase in progress where it is now.</translation>
+    </message>
+    <message id="explain_category_rule">
+        <source></source>
+        <translation>The seconds of the applications that were recorded under this category.</translation>
+    </message>
+    <message id="explain_day_rule">
+        <source></source>
+        <translation>The completed sessions that began on this day.</translation>
+    </message>
+    <message id="explain_focus_rule">
+        <source></source>
+        <translation>The minutes of the completed sessions added up. Of a work phase in progress, every minute begun counts.</translation>
+    </message>
+    <message id="explain_hour_rule">
+        <source></source>
+        <translation>The minutes of the completed sessions that began in this hour, in full even where they ran on into the next.</translation>
+    </message>
+    <message id="explain_intervals" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n interval</numerusform>
+            <numerusform>%n intervals</numerusform>
+        </translation>
+    </message>
+    <message id="explain_intervals_name">
+        <source></source>
+        <translation>Intervals</translation>
+    </message>
+    <message id="explain_live">
+        <source></source>
+        <translation>Work phase in progress</translation>
+    </message>
+    <message id="explain_live_detail">
+        <source></source>
+        <translation>Not recorded yet</translation>
+    </message>
+    <message id="explain_none">
+        <source></source>
+        <translation>There are no records behind this figure.</translation>
+    </message>
+    <message id="explain_read_problem">
+        <source></source>
+        <translation>The records could not be read: %1</translation>
+    </message>
+    <message id="explain_score_rule">
+        <source></source>
+        <translation>The mean of the scores below. Sessions without a score are left out; a work phase in progress counts with its score of now.</translation>
+    </message>
+    <message id="explain_score_sum" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%1 points, %n score</numerusform>
+            <numerusform>%1 points, divided by %n scores</numerusform>
+        </translation>
+    </message>
+    <message id="explain_sessions" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n session</numerusform>
+            <numerusform>%n sessions</numerusform>
+        </translation>
+    </message>
+    <message id="explain_sessions_rule">
+        <source></source>
+        <translation>Every work phase that ran to its end counts once.</translation>
+    </message>
+    <message id="explain_streak_rule">
+        <source></source>
+        <translation>Days in a row with at least one completed session, counted back from today, at most 365.</translation>
+    </message>
+    <message id="explain_sum_format">
+        <source></source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message id="explain_waiting">
+        <source></source>
+        <translation>Reading the records…</translation>
+    </message>
+    <message id="explain_weekday_rule">
+        <source></source>
+        <translation>The minutes of the completed sessions that began on this day of the week.</translation>
     </message>
     <message id="extension_firefox_system">
         <source></source>
@@ -2268,9 +2380,52 @@
         <source></source>
         <translation>Score, kept between 0 and 10</translation>
     </message>
+    <message id="session_change_task_button">
+        <source></source>
+        <translation>Change task…</translation>
+    </message>
+    <message id="session_delete_button">
+        <source></source>
+        <translation>Delete this session</translation>
+    </message>
+    <message id="session_detail_title">
+        <source></source>
+        <translation>Session</translation>
+    </message>
+    <message id="session_score_missing">
+        <source></source>
+        <translation>No score was recorded with this session.</translation>
+    </message>
+    <message id="session_score_not_measured" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Only %n second was measured; a score takes at least 10.</numerusform>
+            <numerusform>%n seconds were measured; a score takes at least 10.</numerusform>
+        </translation>
+    </message>
+    <message id="session_score_remainder">
+        <source></source>
+        <translation>Not in the record: finished tasks and subtasks, and the limits 0 and 10</translation>
+    </message>
+    <message id="session_score_title">
+        <source></source>
+        <translation>How the score came about</translation>
+    </message>
     <message id="session_subtitle">
         <source></source>
         <translation>each session in the hour it began</translation>
+    </message>
+    <message id="session_task_nothing_found">
+        <source></source>
+        <translation>No task matches.</translation>
+    </message>
+    <message id="session_task_search_placeholder">
+        <source></source>
+        <translation>Search for a task or project</translation>
+    </message>
+    <message id="session_task_title">
+        <source></source>
+        <translation>Task of the session</translation>
     </message>
     <message id="sessions_completed_subtitle">
         <source></source>
@@ -2972,6 +3127,18 @@
             <numerusform>%n task was planned · %1</numerusform>
             <numerusform>%n tasks were planned · %1</numerusform>
         </translation>
+    </message>
+    <message id="undo_session_deleted_format">
+        <source></source>
+        <translation>The session of %1 was deleted</translation>
+    </message>
+    <message id="undo_session_no_task">
+        <source></source>
+        <translation>The session now counts for no task</translation>
+    </message>
+    <message id="undo_session_task_format">
+        <source></source>
+        <translation>The session now counts for “%1”</translation>
     </message>
     <message id="undo_unscheduled_format">
         <source></source>

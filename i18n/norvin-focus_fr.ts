@@ -643,6 +643,10 @@
         <source></source>
         <translation>Objectifs du jour</translation>
     </message>
+    <message id="date_at_time">
+        <source></source>
+        <translation>%1 à %2</translation>
+    </message>
     <message id="date_day_month_short">
         <source></source>
         <translation>d MMM</translation>
@@ -745,6 +749,114 @@
     <message id="enumeration_and">
         <source></source>
         <translation>%1 et %2</translation>
+    </message>
+    <message id="explain_application_rule">
+        <source></source>
+        <translation>Chaque moment où elle était au premier plan pendant une session, l’un après l’autre.</translation>
+    </message>
+    <message id="explain_applications" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n application</numerusform>
+            <numerusform>%n applications</numerusform>
+        </translation>
+    </message>
+    <message id="explain_apps_rule">
+        <source></source>
+        <translation>Les secondes de toutes les applications additionnées ; la page en montre les minutes entières.</translation>
+    </message>
+    <message id="explain_back_button">
+        <source></source>
+        <translation>Retour</translation>
+    </message>
+    <message id="explain_best_day_rule">
+        <source></source>
+        <translation>Le jour avec le plus de minutes de sessions terminées. Une phase de travail en cours ne compte pas ici.</translation>
+    </message>
+    <message id="explain_bucket_rule">
+        <source></source>
+        <translation>Les minutes des sessions terminées commencées dans cet intervalle, et de la phase de travail en cours s’il contient l’instant présent.</translation>
+    </message>
+    <message id="explain_category_rule">
+        <source></source>
+        <translation>Les secondes des applications enregistrées sous cette catégorie.</translation>
+    </message>
+    <message id="explain_day_rule">
+        <source></source>
+        <translation>Les sessions terminées commencées ce jour-là.</translation>
+    </message>
+    <message id="explain_focus_rule">
+        <source></source>
+        <translation>Les minutes des sessions terminées additionnées. D’une phase de travail en cours, chaque minute entamée compte.</translation>
+    </message>
+    <message id="explain_hour_rule">
+        <source></source>
+        <translation>Les minutes des sessions terminées commencées dans cette heure, en entier même si elles ont débordé sur la suivante.</translation>
+    </message>
+    <message id="explain_intervals" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n intervalle</numerusform>
+            <numerusform>%n intervalles</numerusform>
+        </translation>
+    </message>
+    <message id="explain_intervals_name">
+        <source></source>
+        <translation>Intervalles</translation>
+    </message>
+    <message id="explain_live">
+        <source></source>
+        <translation>Phase de travail en cours</translation>
+    </message>
+    <message id="explain_live_detail">
+        <source></source>
+        <translation>Pas encore enregistrée</translation>
+    </message>
+    <message id="explain_none">
+        <source></source>
+        <translation>Aucun enregistrement derrière ce chiffre.</translation>
+    </message>
+    <message id="explain_read_problem">
+        <source></source>
+        <translation>Les enregistrements n’ont pas pu être lus : %1</translation>
+    </message>
+    <message id="explain_score_rule">
+        <source></source>
+        <translation>La moyenne des scores ci-dessous. Les sessions sans score sont laissées de côté ; une phase de travail en cours compte avec son score du moment.</translation>
+    </message>
+    <message id="explain_score_sum" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%1 points, %n score</numerusform>
+            <numerusform>%1 points, divisés par %n scores</numerusform>
+        </translation>
+    </message>
+    <message id="explain_sessions" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n session</numerusform>
+            <numerusform>%n sessions</numerusform>
+        </translation>
+    </message>
+    <message id="explain_sessions_rule">
+        <source></source>
+        <translation>Chaque phase de travail menée à son terme compte une fois.</translation>
+    </message>
+    <message id="explain_streak_rule">
+        <source></source>
+        <translation>Les jours de suite avec au moins une session terminée, en remontant depuis aujourd’hui, 365 au plus.</translation>
+    </message>
+    <message id="explain_sum_format">
+        <source></source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message id="explain_waiting">
+        <source></source>
+        <translation>Lecture des enregistrements…</translation>
+    </message>
+    <message id="explain_weekday_rule">
+        <source></source>
+        <translation>Les minutes des sessions terminées commencées ce jour de la semaine.</translation>
     </message>
     <message id="extension_firefox_system">
         <source></source>
@@ -2268,9 +2380,52 @@
         <source></source>
         <translation>Score, ramené entre 0 et 10</translation>
     </message>
+    <message id="session_change_task_button">
+        <source></source>
+        <translation>Changer de tâche…</translation>
+    </message>
+    <message id="session_delete_button">
+        <source></source>
+        <translation>Supprimer cette session</translation>
+    </message>
+    <message id="session_detail_title">
+        <source></source>
+        <translation>Session</translation>
+    </message>
+    <message id="session_score_missing">
+        <source></source>
+        <translation>Aucun score n’a été enregistré avec cette session.</translation>
+    </message>
+    <message id="session_score_not_measured" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n seconde a été mesurée ; il en faut au moins 10 pour un score.</numerusform>
+            <numerusform>%n secondes ont été mesurées ; il en faut au moins 10 pour un score.</numerusform>
+        </translation>
+    </message>
+    <message id="session_score_remainder">
+        <source></source>
+        <translation>Hors de l’enregistrement : tâches et sous-tâches terminées, et les limites 0 et 10</translation>
+    </message>
+    <message id="session_score_title">
+        <source></source>
+        <translation>Comment le score s’est formé</translation>
+    </message>
     <message id="session_subtitle">
         <source></source>
         <translation>chaque session à l’heure où elle a commencé</translation>
+    </message>
+    <message id="session_task_nothing_found">
+        <source></source>
+        <translation>Aucune tâche ne correspond.</translation>
+    </message>
+    <message id="session_task_search_placeholder">
+        <source></source>
+        <translation>Chercher une tâche ou un projet</translation>
+    </message>
+    <message id="session_task_title">
+        <source></source>
+        <translation>Tâche de la session</translation>
     </message>
     <message id="sessions_completed_subtitle">
         <source></source>
@@ -2972,6 +3127,18 @@
             <numerusform>%n tâche a été planifiée · %1</numerusform>
             <numerusform>%n tâches ont été planifiées · %1</numerusform>
         </translation>
+    </message>
+    <message id="undo_session_deleted_format">
+        <source></source>
+        <translation>La session du %1 a été supprimée</translation>
+    </message>
+    <message id="undo_session_no_task">
+        <source></source>
+        <translation>La session ne compte plus pour aucune tâche</translation>
+    </message>
+    <message id="undo_session_task_format">
+        <source></source>
+        <translation>La session compte maintenant pour « %1 »</translation>
     </message>
     <message id="undo_unscheduled_format">
         <source></source>

@@ -176,7 +176,8 @@ void StatsExplanation::setTask(int row) {
     saveQuietly(m_context);
     // The records are read again in a moment.
     m_session->show(session, m_records.tables().days().zone());
-    m_offerUndo(qtTrId("undo_session_task_format").arg(m_session->taskTitle()),
+    m_offerUndo(task ? qtTrId("undo_session_task_format").arg(m_session->taskTitle())
+                     : qtTrId("undo_session_no_task"),
                 [&context = m_context, id = session.id, before] {
                     // Where the task is gone, this changes nothing.
                     static_cast<void>(context.setSessionTask(id, before));

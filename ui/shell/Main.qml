@@ -97,6 +97,7 @@ Window {
 
     Sheets {
         planning: root.planning
+        stats: root.stats
     }
 
     Deferred {

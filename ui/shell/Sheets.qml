@@ -3,11 +3,12 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import NorvinFocus.Ui
 
-/// The sheets of planning, which open over whatever page is shown, and the bar that brings back what was deleted.
+/// The sheets that open over whatever page is shown, and the bar that brings back what was deleted.
 Item {
     id: root
 
     required property PlanningScreens planning
+    required property StatsScreen stats
 
     LazySheet {
         wanted: root.planning.agenda.showPlanningSheet
@@ -25,6 +26,12 @@ Item {
         wanted: root.planning.projectSheet.isPresented
         file: "../projects/ProjectSheetPopup.qml"
         model: root.planning.projectSheet
+    }
+
+    LazySheet {
+        wanted: root.stats.explanation.isPresented
+        file: "../stats/StatsExplanationSheet.qml"
+        model: root.stats.explanation
     }
 
     LazySheet {
