@@ -11,14 +11,6 @@
 
 namespace norvin {
 
-namespace {
-
-constexpr auto blockedList = QLatin1String("blocked");
-constexpr auto whitelistedList = QLatin1String("whitelisted");
-constexpr auto noList = QLatin1String("none");
-
-} // namespace
-
 ApplicationListModel::ApplicationListModel(const ApplicationCatalog& catalog, Workspace& workspace,
                                            AppBlockerService& blocker, QObject* parent)
     : QAbstractListModel(parent)

@@ -9,6 +9,11 @@
 
 namespace norvin {
 
+// The lists that an application may stand on, as the screen names them.
+inline constexpr auto whitelistedList = QLatin1String("whitelisted");
+inline constexpr auto blockedList = QLatin1String("blocked");
+inline constexpr auto noList = QLatin1String("none");
+
 class AppBlockerService;
 class Workspace;
 

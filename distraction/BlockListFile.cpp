@@ -26,12 +26,13 @@ constexpr auto formatKey = QLatin1String("format");
 constexpr auto formatName = QLatin1String("norvin-focus-block-lists");
 constexpr auto versionKey = QLatin1String("version");
 constexpr auto versionNumber = QLatin1String("1");
-constexpr auto blockedAppsKey = QLatin1String("blockedApps");
-constexpr auto whitelistedAppsKey = QLatin1String("whitelistedApps");
-constexpr auto whitelistedSitesKey = QLatin1String("whitelistedSites");
-constexpr auto blockedSitesKey = QLatin1String("blockedSites");
-constexpr std::array allKeys{formatKey,          versionKey,          blockedAppsKey,
-                             whitelistedAppsKey, whitelistedSitesKey, blockedSitesKey};
+constexpr auto blockedAppsMember = QLatin1String("blockedApps");
+constexpr auto whitelistedAppsMember = QLatin1String("whitelistedApps");
+constexpr auto whitelistedSitesMember = QLatin1String("whitelistedSites");
+constexpr auto blockedSitesMember = QLatin1String("blockedSites");
+constexpr std::array allKeys{
+    formatKey,         versionKey, blockedAppsMember, whitelistedAppsMember, whitelistedSitesMember,
+    blockedSitesMember};
 // Hundreds of thousands of sites fit into it.
 constexpr qint64 largestFile = 16 * 1024 * 1024;
 
@@ -111,16 +112,17 @@ Problem checkHeader(const QHash<QString, const JsonNode*>& members) {
 }
 
 Problem takeLists(const QHash<QString, const JsonNode*>& members, BlockLists& lists) {
-    Problem problem = takeTexts(*members.value(blockedAppsKey), blockedAppsKey, Fault::emptyName,
+    Problem problem = takeTexts(*members.value(blockedAppsMember), blockedAppsMember, Fault::emptyName,
                                 identifierIn, lists.blockedAppBundleIDs);
     if (!problem)
-        problem = takeTexts(*members.value(whitelistedAppsKey), whitelistedAppsKey, Fault::emptyName,
+        problem = takeTexts(*members.value(whitelistedAppsMember), whitelistedAppsMember, Fault::emptyName,
                             identifierIn, lists.whitelistedAppBundleIDs);
     if (!problem)
-        problem = takeSites(*members.value(whitelistedSitesKey), whitelistedSitesKey,
+        problem = takeSites(*members.value(whitelistedSitesMember), whitelistedSitesMember,
                             lists.browserWhitelistedSites);
     if (!problem)
-        problem = takeSites(*members.value(blockedSitesKey), blockedSitesKey, lists.browserBlockedSites);
+        problem =
+            takeSites(*members.value(blockedSitesMember), blockedSitesMember, lists.browserBlockedSites);
     return problem;
 }
 
@@ -195,10 +197,10 @@ QByteArray blockListFileText(const BlockLists& lists) {
     const QByteArrayList members{
         member(formatKey, quoted(formatName)),
         member(versionKey, QByteArray(versionNumber.data(), versionNumber.size())),
-        member(blockedAppsKey, listText(lists.blockedAppBundleIDs, "    ")),
-        member(whitelistedAppsKey, listText(lists.whitelistedAppBundleIDs, "    ")),
-        member(blockedSitesKey, sitesText(lists.browserBlockedSites)),
-        member(whitelistedSitesKey, sitesText(lists.browserWhitelistedSites)),
+        member(blockedAppsMember, listText(lists.blockedAppBundleIDs, "    ")),
+        member(whitelistedAppsMember, listText(lists.whitelistedAppBundleIDs, "    ")),
+        member(blockedSitesMember, sitesText(lists.browserBlockedSites)),
+        member(whitelistedSitesMember, sitesText(lists.browserWhitelistedSites)),
     };
     return "{\n" + members.join(",\n") + "\n}\n";
 }

@@ -16,9 +16,6 @@ namespace {
 
 using Subject = BlockListNotice::Subject;
 
-constexpr auto whitelistedList = QLatin1String("whitelisted");
-constexpr auto blockedList = QLatin1String("blocked");
-constexpr auto noList = QLatin1String("none");
 // More steps back than anybody remembers.
 constexpr qsizetype mostChanges = 50;
 

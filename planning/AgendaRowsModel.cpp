@@ -25,11 +25,6 @@ QString priorityLabel(std::optional<TaskPriority> priority) {
     return {};
 }
 
-QVariant choice(const QString& id, const QString& name, const QString& color) {
-    return QVariantMap{
-        {QStringLiteral("id"), id}, {QStringLiteral("name"), name}, {QStringLiteral("color"), color}};
-}
-
 AgendaRowsModel::AgendaRowsModel(ModelContext& context, Clock& clock, PlanningNotifications& notifications,
                                  const QLocale& locale, LiveTaskList::Predicate accept,
                                  LiveTaskList::Order order, QObject* parent)

@@ -70,7 +70,4 @@ private:
 /// "Low", "Medium", "High" in the language of the window; empty for none.
 [[nodiscard]] QString priorityLabel(std::optional<TaskPriority> priority);
 
-/// What a box of choices takes: a map with "id", "name" and "color".
-[[nodiscard]] QVariant choice(const QString& id, const QString& name, const QString& color = {});
-
 } // namespace norvin

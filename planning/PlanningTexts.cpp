@@ -19,4 +19,9 @@ QString enumerated(QStringList parts) {
     return qtTrId("enumeration_and").arg(parts.join(QStringLiteral(", ")), last);
 }
 
+QVariant choice(const QString& id, const QString& name, const QString& color) {
+    return QVariantMap{
+        {QStringLiteral("id"), id}, {QStringLiteral("name"), name}, {QStringLiteral("color"), color}};
+}
+
 } // namespace norvin

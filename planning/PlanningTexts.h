@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <QVariant>
 
 #include <optional>
 
@@ -13,5 +14,8 @@ namespace norvin {
 
 /// "A", "A and B", "A, B and C" in the language of the window; empty for nothing.
 [[nodiscard]] QString enumerated(QStringList parts);
+
+/// What a box of choices takes: a map with "id", "name" and "color".
+[[nodiscard]] QVariant choice(const QString& id, const QString& name, const QString& color = {});
 
 } // namespace norvin

@@ -3,6 +3,7 @@
 #include "model/ModelContext.h"
 #include "planning/AgendaRowsModel.h"
 #include "planning/CalendarDays.h"
+#include "planning/PlanningTexts.h"
 #include "platform/Clock.h"
 #include "sound/SoundService.h"
 

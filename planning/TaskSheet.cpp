@@ -37,10 +37,6 @@ QString textOf(const ProjectPhase* phase) {
     return phase != nullptr ? phase->id().toString() : QString();
 }
 
-QVariantMap choice(const QString& id, const QString& name, const QString& color = {}) {
-    return {{QStringLiteral("id"), id}, {QStringLiteral("name"), name}, {QStringLiteral("color"), color}};
-}
-
 // The task and all below it that belong to its project go to another.
 void moveTree(TaskItem& root, Project* target) {
     Project* const former = root.project();
