@@ -17,6 +17,8 @@ template <class... Functions>
 struct Overloaded : Functions... {
     using Functions::operator()...;
 };
+template <class... Functions>
+Overloaded(Functions...) -> Overloaded<Functions...>;
 
 bool isSame(const FigureRecord& a, const FigureRecord& b) {
     if (a.index() != b.index())

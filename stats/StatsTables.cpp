@@ -42,7 +42,7 @@ void StatsTables::add(SessionRow session) {
     const auto place = m_sessions.empty() || !startsBefore(session, m_sessions.back())
                            ? m_sessions.end()
                            : std::upper_bound(m_sessions.begin(), m_sessions.end(), session, startsBefore);
-    m_sessions.insert(place, std::move(session));
+    m_sessions.insert(place, session);
 }
 
 void StatsTables::add(const AppUsageSession& usage) {
