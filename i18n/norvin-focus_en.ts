@@ -858,6 +858,10 @@
         <source></source>
         <translation>The minutes of the completed sessions that began on this day of the week.</translation>
     </message>
+    <message id="explain_with_live_format">
+        <source></source>
+        <translation>%1 and the one in progress</translation>
+    </message>
     <message id="extension_firefox_system">
         <source></source>
         <translation>One step is left: Firefox takes this extension from a system folder only. An administrator copies %1 to /usr/share/mozilla/extensions/{ec8030f7-c20a-464f-9b0e-13a3a9e97384}; then restart Firefox.</translation>

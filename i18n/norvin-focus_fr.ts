@@ -858,6 +858,10 @@
         <source></source>
         <translation>Les minutes des sessions terminées commencées ce jour de la semaine.</translation>
     </message>
+    <message id="explain_with_live_format">
+        <source></source>
+        <translation>%1 et celle en cours</translation>
+    </message>
     <message id="extension_firefox_system">
         <source></source>
         <translation>Il reste une étape : Firefox n’accepte cette extension que depuis un dossier du système. Un administrateur copie %1 dans /usr/share/mozilla/extensions/{ec8030f7-c20a-464f-9b0e-13a3a9e97384} ; relancez ensuite Firefox.</translation>

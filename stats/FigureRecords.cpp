@@ -151,6 +151,7 @@ FigureSum sumOf(const std::vector<FigureRecord>& records) {
     struct Adder {
         FigureSum sum = {};
         void operator()(const LiveWork& live) {
+            sum.hasLive = true;
             sum.minutes += live.minutes;
             sum.scores.add(live.score);
         }

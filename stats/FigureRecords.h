@@ -74,6 +74,9 @@ using FigureRecord = std::variant<LiveWork, SessionRow, DayCount, AppTotal>;
 
 /// What records add up to.
 struct FigureSum {
+    /// Whether the work phase that runs is among them.
+    bool hasLive = false;
+    /// Recorded ones.
     int sessions = 0;
     qint64 minutes = 0;
     ScoreSum scores;

@@ -118,9 +118,11 @@ QString figureSumText(Figure figure, const FigureSum& sum) {
     case Figure::application:
         return withSum(qtTrId("explain_applications", sum.applications), exactSeconds(sum.seconds));
     default:
-        return withSum(qtTrId("explain_sessions", sum.sessions),
-                       qtTrId("time_minutes_short").arg(sum.minutes));
+        break;
     }
+    const QString sessions = qtTrId("explain_sessions", sum.sessions);
+    return withSum(sum.hasLive ? qtTrId("explain_with_live_format").arg(sessions) : sessions,
+                   qtTrId("time_minutes_short").arg(sum.minutes));
 }
 
 QString intervalSumText(const UsageSum& sum) {

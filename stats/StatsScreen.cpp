@@ -87,6 +87,7 @@ void StatsScreen::retranslate(const QLocale& locale) {
     m_today.retranslate(locale);
     m_history.retranslate(locale);
     m_files.retranslate(locale);
+    m_explanation.retranslate(locale);
     update();
 }
 

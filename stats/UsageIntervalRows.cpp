@@ -207,8 +207,9 @@ QVariant UsageIntervalRows::data(const QModelIndex& index, int role) const {
         return index.row() + 1;
     case StartRole: {
         const QDateTime start = m_days.dateTime(interval.start);
-        const QString format =
-            m_locale.timeFormat(QLocale::ShortFormat).replace(QLatin1String("mm"), QLatin1String("mm:ss"));
+        QString format = m_locale.timeFormat(QLocale::ShortFormat);
+        if (!format.contains(QLatin1String("ss")))
+            format.replace(QLatin1String("mm"), QLatin1String("mm:ss"));
         return m_locale.toString(start.date(), QLocale::ShortFormat) + QLatin1Char(' ') +
                m_locale.toString(start.time(), format);
     }

@@ -106,6 +106,7 @@ void StatsExplanationSheetTest::aFigureIsFollowedDownByKeyboard() {
     rig.ui.press(Qt::Key_Return);
     QTRY_VERIFY(rig.ui.hasKeyboard("sessionTaskButton"));
     QCOMPARE(rig.explanation().session()->session()->id, rig.sessions.at(1).id);
+    QVERIFY(rig.ui.visible("sessionTaskButton")->property("visualFocus").toBool());
     rig.ui.keepPicture(QStringLiteral("explain-session-") + language);
     rig.ui.press(Qt::Key_Escape);
     QTRY_VERIFY(rig.ui.hasKeyboard("explanationList"));

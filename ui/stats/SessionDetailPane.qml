@@ -34,32 +34,29 @@ FocusScope {
             width: parent.width - 6
             spacing: Theme.gap4
 
-            Rectangle {
-                Layout.fillWidth: true
-                implicitHeight: facts.implicitHeight + 2 * Theme.gap4
-                radius: Theme.radius
-                color: Theme.surfaceRaised
+            RowLayout {
+                spacing: Theme.gap4
 
-                RowLayout {
-                    id: facts
+                ColumnLayout {
+                    spacing: Theme.gap1
 
-                    anchors.left: parent.left
-                    anchors.right: parent.right
-                    anchors.verticalCenter: parent.verticalCenter
-                    anchors.margins: Theme.gap4
-                    spacing: Theme.gap4
+                    ThemedText {
+                        objectName: "sessionTask"
+                        Layout.fillWidth: true
+                        text: root.session?.taskTitle ?? ""
+                        font.pixelSize: Theme.bodyLarge
+                        font.weight: Font.DemiBold
+                        wrapMode: Text.Wrap
+                        maximumLineCount: 3
+                        elide: Text.ElideRight
+                    }
 
-                    ColumnLayout {
-                        spacing: 2
+                    RowLayout {
+                        spacing: Theme.gap3
 
                         ThemedText {
-                            objectName: "sessionTask"
-                            Layout.fillWidth: true
-                            text: root.session?.taskTitle ?? ""
-                            font.weight: Font.DemiBold
-                            wrapMode: Text.Wrap
-                            maximumLineCount: 3
-                            elide: Text.ElideRight
+                            text: root.session?.duration ?? ""
+                            color: Theme.textMuted
                         }
 
                         RowFact {
@@ -69,28 +66,22 @@ FocusScope {
                             symbolColor: (root.session?.projectColor ?? "").length > 0 ? root.session.projectColor : Theme.textFaint
                             maximumTextWidth: 320
                         }
-
-                        ThemedText {
-                            text: root.session?.duration ?? ""
-                            color: Theme.textMuted
-                        }
                     }
+                }
 
-                    PushButton {
-                        id: taskButton
+                PushButton {
+                    id: taskButton
 
-                        objectName: "sessionTaskButton"
-                        focus: true
-                        symbol: "pencil"
-                        text: qsTrId("session_change_task_button")
-                        onClicked: root.taskAsked()
-                    }
+                    objectName: "sessionTaskButton"
+                    symbol: "pencil"
+                    text: qsTrId("session_change_task_button")
+                    onClicked: root.taskAsked()
                 }
             }
 
             ThemedText {
                 Layout.fillWidth: true
-                Layout.topMargin: Theme.gap1
+                Layout.topMargin: Theme.gap3
                 text: qsTrId("session_score_title")
                 font.weight: Font.DemiBold
                 Accessible.role: Accessible.Heading

@@ -26,7 +26,6 @@ FocusScope {
 
             objectName: "sessionTaskSearch"
             Layout.fillWidth: true
-            focus: true
             symbol: "magnifyingglass"
             placeholderText: qsTrId("session_task_search_placeholder")
             onTextEdited: root.tasks.searchText = search.text

@@ -22,7 +22,6 @@ FocusScope {
         objectName: "explanationIntervals"
         anchors.fill: parent
         clip: true
-        focus: true
         activeFocusOnTab: true
         boundsBehavior: Flickable.StopAtBounds
         highlightMoveDuration: 0

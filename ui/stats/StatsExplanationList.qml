@@ -22,7 +22,6 @@ FocusScope {
         objectName: "explanationList"
         anchors.fill: parent
         clip: true
-        focus: true
         spacing: 2
         activeFocusOnTab: true
         boundsBehavior: Flickable.StopAtBounds

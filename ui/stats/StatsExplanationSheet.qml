@@ -15,6 +15,8 @@ Item {
     readonly property int level: root.explanation?.level ?? StatsExplanation.Records
 
     function focusLevel(): void {
+        if (!root.explanation.isPresented)
+            return;
         switch (root.explanation.level) {
         case StatsExplanation.Records:
             records.focusStart();
@@ -34,8 +36,8 @@ Item {
         target: root.explanation
 
         function onLevelChanged(): void {
-            if (root.explanation.isPresented)
-                root.focusLevel();
+            // What takes the keyboard is shown first.
+            Qt.callLater(root.focusLevel);
         }
     }
 
@@ -55,10 +57,6 @@ Item {
 
         T.Overlay.modal: Rectangle {
             color: Theme.shade
-
-            TapHandler {
-                onTapped: root.explanation.close()
-            }
         }
 
         FocusScope {
@@ -86,7 +84,6 @@ Item {
                     Layout.fillWidth: true
                     Layout.fillHeight: true
                     visible: root.level === StatsExplanation.Records
-                    focus: visible
                     explanation: root.explanation
                 }
 
@@ -96,7 +93,6 @@ Item {
                     Layout.fillWidth: true
                     Layout.fillHeight: true
                     visible: root.level === StatsExplanation.Intervals
-                    focus: visible
                     intervals: root.explanation?.intervals ?? null
                 }
 
@@ -106,7 +102,6 @@ Item {
                     Layout.fillWidth: true
                     Layout.fillHeight: true
                     visible: root.level === StatsExplanation.OneSession
-                    focus: visible
                     session: root.explanation?.session ?? null
                     onTaskAsked: root.explanation.chooseTask()
                     onDeletionAsked: root.explanation.deleteSession()
@@ -118,7 +113,6 @@ Item {
                     Layout.fillWidth: true
                     Layout.fillHeight: true
                     visible: root.level === StatsExplanation.TaskChoice
-                    focus: visible
                     tasks: root.explanation?.session?.tasks ?? null
                     onChosen: row => root.explanation.setTask(row)
                 }
