@@ -21,8 +21,8 @@ class HistoryStatsView final : public QObject {
     /// Raw value of the period: "today", "week", "month", "year" or "all". Any other is ignored.
     Q_PROPERTY(QString period READ period WRITE setPeriod NOTIFY periodChanged)
     /// All of them, and their names by the same index.
-    Q_PROPERTY(QStringList periods READ periods CONSTANT)
-    Q_PROPERTY(QStringList periodNames READ periodNames NOTIFY periodChanged)
+    Q_PROPERTY(QList<QString> periods READ periods CONSTANT)
+    Q_PROPERTY(QList<QString> periodNames READ periodNames NOTIFY periodChanged)
     /// What the period spans, in words.
     Q_PROPERTY(QString periodText READ periodText NOTIFY periodChanged)
     /// Whether all records of the period were read; until then the figures are those of what was.

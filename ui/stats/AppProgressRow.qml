@@ -61,7 +61,7 @@ StatsButton {
                 spacing: Theme.gap2
 
                 ThemedText {
-                    Layout.maximumWidth: implicitWidth
+                    Layout.maximumWidth: Math.ceil(implicitWidth)
                     Layout.fillWidth: true
                     text: root.appName
                     elide: Text.ElideRight
@@ -69,13 +69,16 @@ StatsButton {
                 }
 
                 ThemedText {
-                    Layout.fillWidth: true
                     Layout.alignment: Qt.AlignBaseline
                     text: root.category
                     color: Theme.textFaint
                     font.pixelSize: Theme.caption
-                    elide: Text.ElideRight
                     Accessible.ignored: true
+                }
+
+                Item {
+                    Layout.fillWidth: true
+                    Layout.preferredWidth: 0
                 }
 
                 ThemedText {

@@ -108,7 +108,7 @@ FocusScope {
 
     FocusRing {
         shown: root.activeFocus
-        distance: 6
+        distance: 10
         innerRadius: Theme.radiusSmall
     }
 

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 
 namespace norvin {
 
@@ -115,7 +116,8 @@ void ChartLayout::placeTicks(const QFontMetricsF& metrics) {
     }
 }
 
-// The last label is as good to know as the first, so the room is given from both ends to every so many.
+// Every so many labels, counted from the last, which says where the chart has come to. None reaches beyond
+// the area, so that one at an edge may stand nearer to the next than the others do.
 void ChartLayout::placeLabels(const QFontMetricsF& metrics) {
     m_labelXs.clear();
     m_labelTexts.clear();
@@ -134,9 +136,16 @@ void ChartLayout::placeLabels(const QFontMetricsF& metrics) {
     qsizetype every = 1;
     while (every < labelled.size() && nearest * static_cast<double>(every) < widest + labelGap)
         ++every;
-    for (qsizetype i = 0; i < labelled.size(); i += every) {
-        m_labelXs.append(m_xs.at(labelled.at(i)));
-        m_labelTexts.append(m_model->points().at(labelled.at(i)).label);
+    double taken = std::numeric_limits<double>::infinity();
+    for (qsizetype i = labelled.size() - 1; i >= 0; i -= every) {
+        const QString& label = m_model->points().at(labelled.at(i)).label;
+        const double half = metrics.horizontalAdvance(label) / 2;
+        const double middle = std::max(half, std::min(m_xs.at(labelled.at(i)), m_width - half));
+        if (middle + half + labelGap > taken)
+            continue;
+        taken = middle - half;
+        m_labelXs.prepend(middle);
+        m_labelTexts.prepend(label);
     }
 }
 

@@ -8,7 +8,7 @@
 #include <QPointer>
 #include <QPolygonF>
 #include <QQmlEngine>
-#include <QStringList>
+#include <QVariant>
 
 namespace norvin {
 
@@ -36,23 +36,23 @@ class ChartLayout : public QObject {
     /// Where each point stands.
     Q_PROPERTY(QList<double> xs MEMBER m_xs NOTIFY changed)
     Q_PROPERTY(QList<double> ys MEMBER m_ys NOTIFY changed)
-    /// Through all points, and the same down to the lower edge.
-    Q_PROPERTY(QPolygonF line MEMBER m_line NOTIFY changed)
-    Q_PROPERTY(QPolygonF area MEMBER m_area NOTIFY changed)
+    /// Polygons: through all points, and the same down to the lower edge.
+    Q_PROPERTY(QVariant line READ line NOTIFY changed)
+    Q_PROPERTY(QVariant area READ area NOTIFY changed)
     /// All bars as one path of SVG.
     Q_PROPERTY(QString bars MEMBER m_bars NOTIFY changed)
     // By the same index: the values that the scale names, as heights and as texts.
     Q_PROPERTY(QList<double> tickYs MEMBER m_tickYs NOTIFY changed)
-    Q_PROPERTY(QStringList tickTexts MEMBER m_tickTexts NOTIFY changed)
+    Q_PROPERTY(QList<QString> tickTexts MEMBER m_tickTexts NOTIFY changed)
     /// Width of the widest of those texts.
     Q_PROPERTY(double tickWidth MEMBER m_tickWidth NOTIFY tickWidthChanged)
     // By the same index: the labels that fit below the area, by their middles.
     Q_PROPERTY(QList<double> labelXs MEMBER m_labelXs NOTIFY changed)
-    Q_PROPERTY(QStringList labelTexts MEMBER m_labelTexts NOTIFY changed)
+    Q_PROPERTY(QList<QString> labelTexts MEMBER m_labelTexts NOTIFY changed)
     // By the same index: whole numbers that fit above the points that are not zero, and where they stand.
     Q_PROPERTY(QList<double> numberXs MEMBER m_numberXs NOTIFY changed)
     Q_PROPERTY(QList<double> numberYs MEMBER m_numberYs NOTIFY changed)
-    Q_PROPERTY(QStringList numberTexts MEMBER m_numberTexts NOTIFY changed)
+    Q_PROPERTY(QList<QString> numberTexts MEMBER m_numberTexts NOTIFY changed)
     /// Whether the points are so few that each of them can be seen.
     Q_PROPERTY(bool showsMarks READ showsMarks NOTIFY changed)
 public:
@@ -75,6 +75,8 @@ public:
     void setFontPixelSize(int size) { change(m_fontPixelSize, size); }
 
     [[nodiscard]] double top() const { return m_top; }
+    [[nodiscard]] QVariant line() const { return QVariant::fromValue(m_line); }
+    [[nodiscard]] QVariant area() const { return QVariant::fromValue(m_area); }
     [[nodiscard]] double step() const { return m_step; }
     [[nodiscard]] bool showsMarks() const;
 
@@ -117,13 +119,13 @@ private:
     QPolygonF m_area;
     QString m_bars;
     QList<double> m_tickYs;
-    QStringList m_tickTexts;
+    QList<QString> m_tickTexts;
     double m_tickWidth = 0;
     QList<double> m_labelXs;
-    QStringList m_labelTexts;
+    QList<QString> m_labelTexts;
     QList<double> m_numberXs;
     QList<double> m_numberYs;
-    QStringList m_numberTexts;
+    QList<QString> m_numberTexts;
 };
 
 } // namespace norvin

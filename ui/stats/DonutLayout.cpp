@@ -1,5 +1,6 @@
 #include "DonutLayout.h"
 
+#include <QLocale>
 #include <QtMath>
 
 #include <algorithm>
@@ -44,10 +45,10 @@ void DonutLayout::setModel(ChartModel* model) {
     update();
 }
 
-void DonutLayout::setLocale(const QLocale& locale) {
-    if (locale == m_locale)
+void DonutLayout::setLanguage(const QString& language) {
+    if (language == m_language)
         return;
-    m_locale = locale;
+    m_language = language;
     update();
 }
 
@@ -78,6 +79,7 @@ void DonutLayout::update() {
     m_sweeps.clear();
     m_shares.clear();
     m_colors.clear();
+    const QLocale locale(m_language);
     const double total = m_model ? m_model->total() : 0;
     const double room = m_model && m_model->rowCount() > 1 ? gap : 0;
     double start = twelveOClock;
@@ -87,8 +89,8 @@ void DonutLayout::update() {
             m_starts.append(start + room / 2);
             m_sweeps.append(std::max(share * 360 - room, std::min(share * 360, thinnest)));
             m_shares.append(share > 0 && share < 0.005
-                                ? qtTrId("chart_share_small").arg(m_locale.toString(1))
-                                : qtTrId("chart_share").arg(m_locale.toString(std::lround(share * 100))));
+                                ? qtTrId("chart_share_small").arg(locale.toString(1))
+                                : qtTrId("chart_share").arg(locale.toString(std::lround(share * 100))));
             m_colors.append(colorOf(point.key));
             start += share * 360;
         }

@@ -3,11 +3,10 @@
 #include "stats/ChartModel.h"
 
 #include <QList>
-#include <QLocale>
 #include <QMetaObject>
 #include <QPointer>
 #include <QQmlEngine>
-#include <QStringList>
+#include <QString>
 
 namespace norvin {
 
@@ -18,22 +17,23 @@ class DonutLayout : public QObject {
     QML_ELEMENT
     /// May be null.
     Q_PROPERTY(norvin::ChartModel* model READ model WRITE setModel NOTIFY changed)
-    /// How percentages are written.
-    Q_PROPERTY(QLocale locale MEMBER m_locale WRITE setLocale NOTIFY changed)
+    /// The language that percentages are written for ("fr").
+    Q_PROPERTY(QString language READ language WRITE setLanguage NOTIFY changed)
     // By the index of the point: where a slice begins and how far it reaches,
     Q_PROPERTY(QList<double> starts MEMBER m_starts NOTIFY changed)
     Q_PROPERTY(QList<double> sweeps MEMBER m_sweeps NOTIFY changed)
     /// its share as text,
-    Q_PROPERTY(QStringList shares MEMBER m_shares NOTIFY changed)
+    Q_PROPERTY(QList<QString> shares MEMBER m_shares NOTIFY changed)
     /// and its colour, as "#rrggbb": the same for the same key, whatever else there is.
-    Q_PROPERTY(QStringList colors MEMBER m_colors NOTIFY changed)
+    Q_PROPERTY(QList<QString> colors MEMBER m_colors NOTIFY changed)
 public:
     explicit DonutLayout(QObject* parent = nullptr)
         : QObject(parent) {}
 
     [[nodiscard]] ChartModel* model() const { return m_model; }
     void setModel(ChartModel* model);
-    void setLocale(const QLocale& locale);
+    [[nodiscard]] QString language() const { return m_language; }
+    void setLanguage(const QString& language);
 
     /// The slice in the direction of a place seen from the middle; -1 for none.
     Q_INVOKABLE [[nodiscard]] int sliceAt(double x, double y) const;
@@ -48,11 +48,11 @@ private:
 
     QPointer<ChartModel> m_model;
     QMetaObject::Connection m_connection;
-    QLocale m_locale;
+    QString m_language;
     QList<double> m_starts;
     QList<double> m_sweeps;
-    QStringList m_shares;
-    QStringList m_colors;
+    QList<QString> m_shares;
+    QList<QString> m_colors;
 };
 
 } // namespace norvin

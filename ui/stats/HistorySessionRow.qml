@@ -16,7 +16,7 @@ StatsButton {
     /// Empty without a score.
     required property string scoreText
 
-    words: [root.date, root.time, root.title, root.duration, root.scoreText].filter(part => part.length > 0).join(", ")
+    words: root.date + ", " + root.time + ", " + root.title + ", " + root.duration + (root.scoreText.length > 0 ? ", " + root.scoreText : "")
     implicitHeight: 44
 
     RowLayout {
@@ -48,8 +48,10 @@ StatsButton {
         }
 
         ThemedText {
+            Layout.preferredWidth: 84
             text: root.duration
             color: Theme.textMuted
+            horizontalAlignment: Text.AlignRight
             Accessible.ignored: true
         }
 

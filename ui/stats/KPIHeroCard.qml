@@ -16,7 +16,7 @@ StatsButton {
     /// Whether the card has come up.
     property bool appeared: false
 
-    words: [root.title, root.value, root.subtitle].filter(part => part.length > 0).join(", ")
+    words: root.title + ", " + root.value + (root.subtitle.length > 0 ? ", " + root.subtitle : "")
     surface: Theme.surface
     innerRadius: Theme.radiusLarge
     padding: Theme.gap4
@@ -60,7 +60,8 @@ StatsButton {
                 Layout.fillWidth: true
                 text: root.title
                 color: Theme.textMuted
-                wrapMode: Text.WordWrap
+                fontSizeMode: Text.HorizontalFit
+                minimumPixelSize: Theme.caption - 1
                 Accessible.ignored: true
             }
         }
@@ -81,7 +82,8 @@ StatsButton {
             text: root.subtitle
             color: Theme.textFaint
             font.pixelSize: Theme.caption
-            wrapMode: Text.WordWrap
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: Theme.caption - 2
             Accessible.ignored: true
         }
     }

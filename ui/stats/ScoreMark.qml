@@ -10,7 +10,8 @@ RowLayout {
 
     required property string scoreText
 
-    Layout.preferredWidth: 64
+    Layout.fillWidth: false
+    Layout.preferredWidth: 56
     spacing: Theme.gap1 + 2
 
     Item {

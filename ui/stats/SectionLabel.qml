@@ -15,7 +15,7 @@ RowLayout {
     spacing: Theme.gap3
 
     Symbol {
-        Layout.alignment: Qt.AlignVCenter
+        Layout.alignment: root.subtitle.length > 0 ? Qt.AlignTop : Qt.AlignVCenter
         name: root.icon
         color: Theme.accentText
         size: 22
@@ -29,7 +29,6 @@ RowLayout {
             text: root.title
             font.pixelSize: Theme.bodyLarge
             font.weight: Font.DemiBold
-            wrapMode: Text.WordWrap
             Accessible.role: Accessible.Heading
         }
 
@@ -39,7 +38,6 @@ RowLayout {
             text: root.subtitle
             color: Theme.textMuted
             font.pixelSize: Theme.caption
-            wrapMode: Text.WordWrap
         }
     }
 }

@@ -9,8 +9,8 @@ import NorvinFocus.Ui
 ChartArea {
     id: root
 
-    property int diameter: 148
-    property int thickness: 24
+    property int diameter: 136
+    property int thickness: 22
 
     isVertical: true
     hasBubble: false
@@ -20,7 +20,7 @@ ChartArea {
         id: layout
 
         model: root.model
-        locale: Localization.locale
+        language: Localization.language
     }
 
     Item {
@@ -42,7 +42,7 @@ ChartArea {
                 anchors.fill: parent
 
                 ShapePath {
-                    strokeColor: layout.colors[slice.index] ?? "transparent"
+                    strokeColor: Qt.color(layout.colors[slice.index] ?? "transparent")
                     strokeWidth: root.thickness + (slice.index === root.current ? 6 : 0)
                     fillColor: "transparent"
                     capStyle: ShapePath.FlatCap
@@ -89,7 +89,7 @@ ChartArea {
         id: legend
 
         anchors.left: ring.right
-        anchors.leftMargin: Theme.gap5
+        anchors.leftMargin: Theme.gap4
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
         spacing: 0
@@ -108,6 +108,7 @@ ChartArea {
             }
 
             ThemedText {
+                Layout.rightMargin: 36 + Theme.gap2
                 text: qsTrId("chart_duration")
                 color: Theme.textFaint
                 font.pixelSize: Theme.caption
@@ -140,7 +141,7 @@ ChartArea {
                         implicitWidth: 10
                         implicitHeight: 10
                         radius: 3
-                        color: layout.colors[entry.index] ?? "transparent"
+                        color: Qt.color(layout.colors[entry.index] ?? "transparent")
                     }
 
                     ThemedText {
@@ -153,13 +154,15 @@ ChartArea {
                     ThemedText {
                         text: entry.valueText
                         color: Theme.textMuted
+                        font.pixelSize: Theme.caption
                         Accessible.ignored: true
                     }
 
                     ThemedText {
-                        Layout.preferredWidth: 46
+                        Layout.preferredWidth: 36
                         text: layout.shares[entry.index] ?? ""
                         color: Theme.textFaint
+                        font.pixelSize: Theme.caption
                         horizontalAlignment: Text.AlignRight
                         Accessible.ignored: true
                     }

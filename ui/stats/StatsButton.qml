@@ -27,8 +27,11 @@ T.AbstractButton {
     Keys.onReturnPressed: root.explained()
     Keys.onEnterPressed: root.explained()
 
-    contentItem: Item {
+    Item {
         id: body
+
+        anchors.fill: parent
+        anchors.margins: root.padding
     }
 
     background: Rectangle {

@@ -63,6 +63,8 @@ Page {
 
     WaitingLine {
         Layout.fillWidth: true
+        Layout.topMargin: -Theme.gap2
+        Layout.bottomMargin: -Theme.gap2
         isShown: root.model.isWaiting
     }
 

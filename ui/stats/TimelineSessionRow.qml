@@ -17,7 +17,7 @@ StatsButton {
     /// Whether no line leads on.
     required property bool isLast
 
-    words: [root.time, root.title, root.duration, root.scoreText].filter(part => part.length > 0).join(", ")
+    words: root.time + ", " + root.title + ", " + root.duration + (root.scoreText.length > 0 ? ", " + root.scoreText : "")
     implicitHeight: 48
 
     Rectangle {
@@ -64,8 +64,10 @@ StatsButton {
         }
 
         ThemedText {
+            Layout.preferredWidth: 84
             text: root.duration
             color: Theme.textMuted
+            horizontalAlignment: Text.AlignRight
             Accessible.ignored: true
         }
 

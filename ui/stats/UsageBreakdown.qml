@@ -20,8 +20,8 @@ RowLayout {
     spacing: Theme.gap8
 
     ColumnLayout {
-        Layout.fillWidth: true
-        Layout.preferredWidth: 1
+        Layout.fillWidth: false
+        Layout.preferredWidth: root.width * 0.53
         Layout.alignment: Qt.AlignTop
         spacing: Theme.gap3
 
@@ -43,7 +43,6 @@ RowLayout {
 
     ColumnLayout {
         Layout.fillWidth: true
-        Layout.preferredWidth: 1
         Layout.alignment: Qt.AlignTop
         spacing: 0
 
