@@ -10,7 +10,11 @@ ColumnLayout {
 
     required property StatsExplanation explanation
     /// All of it in words.
-    readonly property string words: [title.text, scope.text, figure.text].filter(part => part.length > 0).join(", ")
+    readonly property string words: root.withFact(root.withFact(title.text, scope.text), figure.text)
+
+    function withFact(text: string, fact: string): string {
+        return fact.length > 0 ? text + ", " + fact : text;
+    }
 
     spacing: Theme.gap3
 

@@ -21,9 +21,13 @@ Item {
 
     signal opened
 
+    function withFact(text: string, fact: string): string {
+        return fact.length > 0 ? text + ", " + fact : text;
+    }
+
     implicitHeight: 52
     Accessible.role: Accessible.ListItem
-    Accessible.name: [root.title, root.detail, root.value, root.score].filter(part => part.length > 0).join(", ")
+    Accessible.name: root.withFact(root.withFact(root.withFact(root.title, root.detail), root.value), root.score)
     Accessible.onPressAction: root.opened()
 
     Rectangle {

@@ -36,9 +36,16 @@ Item {
         target: root.explanation
 
         function onLevelChanged(): void {
-            // What takes the keyboard is shown first.
-            Qt.callLater(root.focusLevel);
+            focusing.restart();
         }
+    }
+
+    Timer {
+        id: focusing
+
+        // What is to have the keyboard must be shown first.
+        interval: 0
+        onTriggered: root.focusLevel()
     }
 
     T.Popup {
