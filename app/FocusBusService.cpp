@@ -8,23 +8,10 @@
 
 #include <QDBusError>
 #include <QDBusMessage>
-#include <QJsonDocument>
 
 #include <algorithm>
 
 namespace norvin {
-
-namespace {
-
-QString compact(const QJsonObject& object) {
-    return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
-}
-
-QString compact(const QJsonArray& array) {
-    return QString::fromUtf8(QJsonDocument(array).toJson(QJsonDocument::Compact));
-}
-
-} // namespace
 
 FocusBusService::FocusBusService(QDBusConnection bus, DeepWorkScreen& screen, AppBlockerService& blocker,
                                  TrackingHealthModel& health, QObject* parent)
@@ -176,16 +163,16 @@ QString FocusBusService::Status() {
 }
 
 QString FocusBusService::Tasks() {
-    return compact(tasksReport(m_screen));
+    return compactText(tasksReport(m_screen));
 }
 
 QString FocusBusService::Lists() {
-    return compact(listsReport(m_blocker));
+    return compactText(listsReport(m_blocker));
 }
 
 QString FocusBusService::Doctor() {
     m_health.refresh();
-    return compact(healthReport(m_health));
+    return compactText(healthReport(m_health));
 }
 
 QString FocusBusService::Follow() {
@@ -227,7 +214,7 @@ void FocusBusService::refuse(const QString& reasonKey) {
 }
 
 QString FocusBusService::statusJson() {
-    return compact(statusReport(m_screen));
+    return compactText(statusReport(m_screen));
 }
 
 // Several things change in one turn; the bus hears of them once.

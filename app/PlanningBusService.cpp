@@ -2,18 +2,9 @@
 
 #include "app/FocusBusService.h"
 #include "app/PlanningReport.h"
-
-#include <QJsonDocument>
+#include "app/StatusReport.h"
 
 namespace norvin {
-
-namespace {
-
-QString compact(const QJsonObject& object) {
-    return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
-}
-
-} // namespace
 
 PlanningBusService::PlanningBusService(QDBusConnection bus, PlanningCommands& commands, QObject* object)
     : QDBusAbstractAdaptor(object)
@@ -35,22 +26,24 @@ QString PlanningBusService::FinishTask(const QString& id, const QDBusMessage& me
 }
 
 QString PlanningBusService::Agenda(const QString& date, const QDBusMessage& message) {
-    return answer(m_commands.agenda(date), message, compact);
+    return answer(m_commands.agenda(date), message,
+                  [](const QJsonObject& agenda) { return compactText(agenda); });
 }
 
 QString PlanningBusService::Projects() {
-    return QString::fromUtf8(QJsonDocument(m_commands.projects()).toJson(QJsonDocument::Compact));
+    return compactText(m_commands.projects());
 }
 
 QString PlanningBusService::Export(const QString& path, bool overwrite, const QDBusMessage& message) {
     using Overwrite = PlanningExchange::Overwrite;
     return answer(m_commands.exportTo(path, overwrite ? Overwrite::yes : Overwrite::no), message,
-                  [](const SnapshotCounts& counts) { return compact(countsReport(counts)); });
+                  [](const SnapshotCounts& counts) { return compactText(countsReport(counts)); });
 }
 
 QString PlanningBusService::Import(const QString& path, const QDBusMessage& message) {
-    return answer(m_commands.importFrom(path), message,
-                  [](const PlanningExchange::Imported& imported) { return compact(importReport(imported)); });
+    return answer(m_commands.importFrom(path), message, [](const PlanningExchange::Imported& imported) {
+        return compactText(importReport(imported));
+    });
 }
 
 template <class T, class Reply>

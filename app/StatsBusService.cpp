@@ -2,8 +2,7 @@
 
 #include "app/FocusBusService.h"
 #include "app/StatsReporter.h"
-
-#include <QJsonDocument>
+#include "app/StatusReport.h"
 
 namespace norvin {
 
@@ -36,8 +35,7 @@ QString StatsBusService::Report(const QString& period, const QDBusMessage& messa
             bus.send(refusal(message, "refused_records_unreadable", *problem));
             return;
         }
-        const QJsonDocument document(std::get<QJsonObject>(outcome));
-        bus.send(message.createReply(QString::fromUtf8(document.toJson(QJsonDocument::Compact))));
+        bus.send(message.createReply(compactText(std::get<QJsonObject>(outcome))));
     });
     return {};
 }

@@ -5,6 +5,8 @@
 #include "focus/DeepWorkScreen.h"
 #include "model/TaskItem.h"
 
+#include <QJsonDocument>
+
 namespace norvin {
 
 namespace {
@@ -102,6 +104,14 @@ QJsonArray healthReport(const TrackingHealthModel& health) {
         });
     }
     return report;
+}
+
+QString compactText(const QJsonObject& report) {
+    return QString::fromUtf8(QJsonDocument(report).toJson(QJsonDocument::Compact));
+}
+
+QString compactText(const QJsonArray& report) {
+    return QString::fromUtf8(QJsonDocument(report).toJson(QJsonDocument::Compact));
 }
 
 QString statusText(const QJsonObject& status) {

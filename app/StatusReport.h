@@ -16,6 +16,10 @@ class TrackingHealthModel;
 [[nodiscard]] QJsonObject listsReport(const AppBlockerService& blocker);
 [[nodiscard]] QJsonArray healthReport(const TrackingHealthModel& health);
 
+/// A report as it goes over the bus and into scripts: one line of JSON.
+[[nodiscard]] QString compactText(const QJsonObject& report);
+[[nodiscard]] QString compactText(const QJsonArray& report);
+
 /// The same for people to read, in English, ending in a line break.
 [[nodiscard]] QString statusText(const QJsonObject& status);
 [[nodiscard]] QString tasksText(const QJsonArray& tasks);
