@@ -1,8 +1,8 @@
 """Runs clang-tidy over the sources that are named on standard input: tidy.py BUILD-DIRECTORY
 
-Most of its time goes into the headers of Qt, which every file includes. So the sources of a library are looked at in
-batches, each as one file that includes them; a batch in which names meet that only one file should know is a fault too,
-and reported as one by the compiler. Programs of one file, as tests are, are looked at one by one."""
+Most of its time goes into the headers of Qt, which every file includes. So the sources of a folder are looked at in
+batches, each as one file that includes them; they must not give the same name to different things. Programs of one
+file, as tests are, are looked at one by one."""
 
 import json
 import os
@@ -27,11 +27,12 @@ def flags_of(entry):
 
 
 def batches_of(entries):
-    """Lists of sources that are compiled alike, in the order in which they are named."""
+    """Lists of sources of one folder that are compiled alike."""
     alike = {}
     for entry in entries:
-        alike.setdefault((flags_of(entry), entry["directory"]), []).append(entry["file"])
-    for (flags, directory), files in alike.items():
+        folder = os.path.dirname(entry["file"])
+        alike.setdefault((flags_of(entry), entry["directory"], folder), []).append(entry["file"])
+    for (flags, directory, _), files in alike.items():
         for first in range(0, len(files), BATCH):
             yield flags, directory, files[first:first + BATCH]
 
@@ -51,6 +52,8 @@ def main():
             source = os.path.join(folder, f"batch_{number}.cpp")
             with open(source, "w", encoding="utf-8") as batch:
                 batch.writelines(f'#include "{file}"\n' for file in files)
+            # A name of one file may be that of a parameter in the next.
+            flags = (*flags, "-Wno-shadow")
         commands.append({"directory": directory, "file": source, "command": " ".join([*flags, "-c", source])})
     with open(os.path.join(folder, "compile_commands.json"), "w", encoding="utf-8") as file:
         json.dump(commands, file, indent=1)

@@ -6,7 +6,7 @@ namespace norvin {
 
 namespace {
 
-constexpr qsizetype mostBrowsers = 64;
+constexpr qsizetype mostKnown = 64;
 
 }
 
@@ -68,7 +68,7 @@ void AtspiBrowsers::setState(qint64 processId, ReadState state) {
     const auto known = m_states.constFind(processId);
     if (known != m_states.constEnd() && *known == state)
         return;
-    if (m_states.size() >= mostBrowsers)
+    if (m_states.size() >= mostKnown)
         m_states.clear();
     m_states.insert(processId, state);
     Q_EMIT stateChanged(processId);

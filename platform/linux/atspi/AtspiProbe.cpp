@@ -15,7 +15,7 @@ constexpr QLatin1String accessible("org.a11y.atspi.Accessible");
 constexpr QLatin1String action("org.a11y.atspi.Action");
 constexpr QLatin1String document("org.a11y.atspi.Document");
 constexpr QLatin1String textInterface("org.a11y.atspi.Text");
-constexpr QLatin1String properties("org.freedesktop.DBus.Properties");
+constexpr QLatin1String propertiesName("org.freedesktop.DBus.Properties");
 constexpr QLatin1String busInterface("org.freedesktop.DBus");
 
 AtspiReference registry() {
@@ -29,7 +29,7 @@ AtspiReference bus() {
 }
 
 AtspiCall nameCall(const AtspiReference& object) {
-    return {object, properties, QLatin1String("Get"), {QString(accessible), QStringLiteral("Name")}};
+    return {object, propertiesName, QLatin1String("Get"), {QString(accessible), QStringLiteral("Name")}};
 }
 
 // A call with less time than this left may well remain unanswered by a program that is only slow.
@@ -164,7 +164,7 @@ std::vector<AtspiProbe::WindowFacts> AtspiProbe::windowFactsOfEach(const Referen
 }
 
 QString AtspiProbe::toolkit(const AtspiReference& application) {
-    return decodeText(call(application, properties, QLatin1String("Get"),
+    return decodeText(call(application, propertiesName, QLatin1String("Get"),
                            {QStringLiteral("org.a11y.atspi.Application"), QStringLiteral("ToolkitName")}),
                       longestText);
 }
