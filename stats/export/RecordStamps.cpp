@@ -2,6 +2,7 @@
 
 #include <QDate>
 
+#include <array>
 #include <cstdlib>
 
 namespace norvin {
@@ -12,9 +13,11 @@ constexpr qint64 dayLength = 86'400'000;
 constexpr qint64 epochDay = 2'440'588;
 
 void appendNumber(QByteArray& text, qint64 number, int digits) {
-    const QByteArray written = QByteArray::number(number);
-    text.append(qMax(qsizetype{0}, digits - written.size()), '0');
-    text += written;
+    std::array<char, 20> written{};
+    size_t first = written.size();
+    for (; number > 0 || digits > 0; number /= 10, --digits)
+        written[--first] = static_cast<char>('0' + number % 10);
+    text.append(written.data() + first, static_cast<qsizetype>(written.size() - first));
 }
 
 // Days of 24 hours: what the clock shows was made from the instant and the offset.

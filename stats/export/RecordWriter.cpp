@@ -46,15 +46,21 @@ void writeNumber(RecordRows& rows, const char* name, qint64 number) {
 
 } // namespace
 
+RecordRows::RecordRows(QIODevice& device)
+    : m_device(device) {
+    m_pending.reserve(pieceSize + pieceSize / 4);
+}
+
 bool RecordRows::flush() {
     if (m_isGood && !m_pending.isEmpty())
         m_isGood = m_device.write(m_pending) == m_pending.size();
-    m_pending.clear();
+    // Keeps its room.
+    m_pending.resize(0);
     return m_isGood;
 }
 
 void RecordRows::write(const QByteArray& bytes) {
-    m_pending += bytes;
+    m_pending.append(bytes);
     if (m_pending.size() >= pieceSize)
         static_cast<void>(flush());
 }

@@ -23,8 +23,7 @@ using TaskLabels = QHash<TaskId, TaskLabel>;
 /// For one thread, any one.
 class RecordRows {
 public:
-    explicit RecordRows(QIODevice& device)
-        : m_device(device) {}
+    explicit RecordRows(QIODevice& device);
     RecordRows(const RecordRows&) = delete;
     RecordRows& operator=(const RecordRows&) = delete;
     virtual ~RecordRows() = default;
