@@ -385,7 +385,7 @@
     </message>
     <message id="chart_minutes">
         <source></source>
-        <translation>Minutes</translation>
+        <translation>Focus time</translation>
     </message>
     <message id="chart_share">
         <source></source>
@@ -2417,7 +2417,7 @@
     </message>
     <message id="session_subtitle">
         <source></source>
-        <translation>each session in the hour it began</translation>
+        <translation>in minutes, each session in the hour it began</translation>
     </message>
     <message id="session_task_nothing_found">
         <source></source>

@@ -385,7 +385,7 @@
     </message>
     <message id="chart_minutes">
         <source></source>
-        <translation>Minutes</translation>
+        <translation>Temps de concentration</translation>
     </message>
     <message id="chart_share">
         <source></source>
@@ -2417,7 +2417,7 @@
     </message>
     <message id="session_subtitle">
         <source></source>
-        <translation>chaque session à l’heure où elle a commencé</translation>
+        <translation>en minutes, chaque session à l’heure où elle a commencé</translation>
     </message>
     <message id="session_task_nothing_found">
         <source></source>
