@@ -17,7 +17,7 @@ namespace {
 
 // Far above what a browser's window has: only a broken or hostile program answers more.
 constexpr int mostValues = 4096;
-constexpr int deepest = 8;
+constexpr int deepestValue = 8;
 constexpr int longestWait = 60'000; // ms
 
 QVariant plain(const QVariant& value, int depth, int& count);
@@ -57,7 +57,7 @@ QVariant plainArgument(const QDBusArgument& argument, int depth, int& count) {
 
 QVariant plain(const QVariant& value, int depth, int& count) {
     ++count;
-    if (depth > deepest)
+    if (depth > deepestValue)
         return {};
     if (value.userType() == qMetaTypeId<QDBusVariant>())
         return plain(value.value<QDBusVariant>().variant(), depth + 1, count);
