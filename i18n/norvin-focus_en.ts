@@ -2644,7 +2644,7 @@
     </message>
     <message id="stats_export_usage">
         <source></source>
-        <translation>Application use as CSV…</translation>
+        <translation>Applications as CSV…</translation>
     </message>
     <message id="stats_export_usage_title">
         <source></source>

@@ -2644,7 +2644,7 @@
     </message>
     <message id="stats_export_usage">
         <source></source>
-        <translation>Usage des applications en CSV…</translation>
+        <translation>Applications en CSV…</translation>
     </message>
     <message id="stats_export_usage_title">
         <source></source>

@@ -71,6 +71,9 @@ bool drawPicture(const QImage& picture, const QColor& background, QIODevice& fil
     QImage sheet(picture.size() + QSize(2 * pictureMargin, 2 * pictureMargin), QImage::Format_RGB32);
     sheet.fill(background);
     QPainter painter(&sheet);
+    // Where a page draws nothing, some renderers leave black instead of nothing. Nothing of it is darker than
+    // what is behind it.
+    painter.setCompositionMode(QPainter::CompositionMode_Lighten);
     painter.drawImage(QRect(QPoint(pictureMargin, pictureMargin), picture.size()), picture);
     painter.end();
     return sheet.save(&file, "PNG");

@@ -85,6 +85,14 @@ QFont font(double size, Weight weight) {
     return result;
 }
 
+QFont fitted(const QFont& font, const QString& text, double width) {
+    const int smallest = font.pixelSize() * 3 / 4;
+    QFont result = font;
+    while (result.pixelSize() > smallest && QFontMetricsF(result).horizontalAdvance(text) > width)
+        result.setPixelSize(result.pixelSize() - 1);
+    return result;
+}
+
 void drawText(QPainter& painter, const QRectF& area, Qt::Alignment alignment, const QString& text,
               const QFont& font, const QColor& color) {
     painter.setFont(font);

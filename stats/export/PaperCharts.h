@@ -24,6 +24,9 @@ enum class Weight { normal, bold };
 /// @param size in points
 [[nodiscard]] QFont font(double size, Weight weight = Weight::normal);
 
+/// The same font, or a smaller one in which the text has room, down to three quarters.
+[[nodiscard]] QFont fitted(const QFont& font, const QString& text, double width);
+
 /// On one line, cut with an ellipsis where it has no room.
 void drawText(QPainter& painter, const QRectF& area, Qt::Alignment alignment, const QString& text,
               const QFont& font, const QColor& color);

@@ -16,20 +16,26 @@ namespace {
 
 constexpr double margin = 48 * point;
 constexpr double top = 48 * point;
-constexpr double bottom = StatsPages::pageHeight - 60 * point;
+constexpr double bottom = StatsPages::pageHeight - 54 * point;
 constexpr double width = StatsPages::pageWidth - 2 * margin;
-constexpr double chartHeight = 130 * point;
+constexpr double chartHeight = 104 * point;
 constexpr double rowHeight = 19 * point;
+/// Lists of no more rows are not torn apart.
+constexpr qsizetype mostRowsTogether = 10;
 
 void paintFigure(QPainter& painter, const QRectF& area, const StatsDocument::Figure& figure) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(card);
     painter.drawRoundedRect(area, 6 * point, 6 * point);
-    const QRectF inside = area.adjusted(9 * point, 8 * point, -9 * point, -8 * point);
-    drawText(painter, inside, Qt::AlignLeft | Qt::AlignTop, figure.name, font(8.5), faintInk);
-    drawText(painter, inside.adjusted(0, 12 * point, 0, -12 * point), Qt::AlignLeft | Qt::AlignVCenter,
-             figure.value, font(15, Weight::bold), ink);
-    drawText(painter, inside, Qt::AlignLeft | Qt::AlignBottom, figure.note, font(7.5), faintInk);
+    const QRectF inside = area.adjusted(7 * point, 8 * point, -7 * point, -8 * point);
+    const auto draw = [&painter](const QRectF& place, Qt::Alignment alignment, const QString& text,
+                                 const QFont& font, const QColor& color) {
+        drawText(painter, place, alignment, text, fitted(font, text, place.width()), color);
+    };
+    draw(inside, Qt::AlignLeft | Qt::AlignTop, figure.name, font(8.5), faintInk);
+    draw(inside.adjusted(0, 12 * point, 0, -12 * point), Qt::AlignLeft | Qt::AlignVCenter, figure.value,
+         font(15, Weight::bold), ink);
+    draw(inside, Qt::AlignLeft | Qt::AlignBottom, figure.note, font(7.5), faintInk);
 }
 
 void paintRow(QPainter& painter, double y, const StatsDocument::Row& row, double leadWidth) {
@@ -138,8 +144,11 @@ void StatsPages::addSection(const StatsDocument::Section& section) {
     double leadWidth = 0;
     for (const StatsDocument::Row& row : section.rows)
         leadWidth = std::max(leadWidth, QFontMetricsF(font(9)).horizontalAdvance(row.lead) + point);
-    for (const StatsDocument::Row& row : section.rows) {
-        add({.height = rowHeight, .keepsNext = false, .paint = [row, leadWidth](QPainter& painter, double y) {
+    const bool staysTogether = section.rows.size() <= mostRowsTogether;
+    for (qsizetype i = 0; i < section.rows.size(); ++i) {
+        add({.height = rowHeight,
+             .keepsNext = staysTogether && i + 1 < section.rows.size(),
+             .paint = [row = section.rows.at(i), leadWidth](QPainter& painter, double y) {
                  paintRow(painter, y, row, leadWidth);
              }});
     }

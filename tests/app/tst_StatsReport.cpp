@@ -51,13 +51,13 @@ struct ReportRig : FocusRig {
     }
     void use(const char* bundle, const char* name, const char* category, int seconds,
              const QDateTime& start) const {
-        AppUsageSession usage;
-        usage.bundleID = QLatin1String(bundle);
-        usage.appName = QLatin1String(name);
-        usage.category = QLatin1String(category);
-        usage.startTime = start;
-        usage.durationSeconds = seconds;
-        context().insert(usage);
+        AppUsageSession made;
+        made.bundleID = QLatin1String(bundle);
+        made.appName = QLatin1String(name);
+        made.category = QLatin1String(category);
+        made.startTime = start;
+        made.durationSeconds = seconds;
+        context().insert(made);
     }
     [[nodiscard]] QJsonObject report(std::optional<StatsPeriod> period) {
         QJsonObject given;
@@ -101,7 +101,7 @@ void tst_StatsReport::answersWhetherAnybodyHasTheRecordsOrNot() {
 
 void tst_StatsReport::includesTheWorkPhaseThatRuns() {
     ReportRig rig;
-    rig.timer.startSession();
+    rig.timer.startSession(nullptr, PomodoroPhase::work);
     rig.pass(61s);
     const QJsonObject today = rig.report(std::nullopt);
     QCOMPARE(today[QStringLiteral("focusMinutes")].toInt(), 77);

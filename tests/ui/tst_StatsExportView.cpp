@@ -96,9 +96,16 @@ void StatsExportViewTest::aPictureHoldsTheWholePage() {
     QFETCH(QString, tab);
     open(language);
     showTab(tab);
-    const QQuickItem* content =
+    QQuickItem* const content =
         m_rig->visible(tab == QLatin1String("today") ? "todayContent" : "historyContent");
     QVERIFY(content->height() > m_rig->window()->height());
+    const auto hasCome = [content] {
+        const QList<QQuickItem*> items = UiRig::visibleItems(content);
+        return std::all_of(items.cbegin(), items.cend(), [](const QQuickItem* item) {
+            return !item->property("appeared").isValid() || item->opacity() == 1.0;
+        });
+    };
+    QTRY_VERIFY(hasCome());
     const QString file = m_files.filePath(QStringLiteral("page.png"));
     write(StatsExport::Picture, file);
     QTRY_VERIFY(!m_rig->stats.files()->noticeText().isEmpty());
