@@ -3,7 +3,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import NorvinFocus.Ui
 
-/// Small texts along a chart, each in the middle of its place, none beyond the ends.
+/// Small texts along a chart, by their middles.
 Item {
     id: root
 
@@ -23,7 +23,7 @@ Item {
 
             required property int index
 
-            x: Math.max(0, Math.min(Math.round((root.xs[label.index] ?? 0) - width / 2), Math.floor(root.width - width)))
+            x: Math.round((root.xs[label.index] ?? 0) - width / 2)
             y: root.ys[label.index] ?? 0
             text: root.texts[label.index] ?? ""
             color: root.color

@@ -116,8 +116,8 @@ void ChartLayout::placeTicks(const QFontMetricsF& metrics) {
     }
 }
 
-// Every so many labels, counted from the last, which says where the chart has come to. None reaches beyond
-// the area, so that one at an edge may stand nearer to the next than the others do.
+// Every so many labels, counted from the last, which says where the chart has come to. One at an edge may be
+// moved inwards, and then has to leave its neighbour the room.
 void ChartLayout::placeLabels(const QFontMetricsF& metrics) {
     m_labelXs.clear();
     m_labelTexts.clear();
@@ -140,7 +140,8 @@ void ChartLayout::placeLabels(const QFontMetricsF& metrics) {
     for (qsizetype i = labelled.size() - 1; i >= 0; i -= every) {
         const QString& label = m_model->points().at(labelled.at(i)).label;
         const double half = metrics.horizontalAdvance(label) / 2;
-        const double middle = std::max(half, std::min(m_xs.at(labelled.at(i)), m_width - half));
+        const double middle =
+            std::max(half - m_overhang, std::min(m_xs.at(labelled.at(i)), m_width + m_overhang - half));
         if (middle + half + labelGap > taken)
             continue;
         taken = middle - half;

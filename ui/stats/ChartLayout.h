@@ -26,6 +26,8 @@ class ChartLayout : public QObject {
     /// Whether each point stands in the middle of a band of its own, as bars do, rather than from the left
     /// edge to the right one, as the points of a line do.
     Q_PROPERTY(bool inBands MEMBER m_inBands WRITE setInBands NOTIFY changed)
+    /// How far a label may reach beyond the area, at either side.
+    Q_PROPERTY(double overhang MEMBER m_overhang WRITE setOverhang NOTIFY changed)
     /// Height of the texts' font, from 1.
     Q_PROPERTY(int fontPixelSize MEMBER m_fontPixelSize WRITE setFontPixelSize NOTIFY changed)
 
@@ -72,6 +74,7 @@ public:
     void setHeight(double height) { change(m_height, height); }
     void setScale(Scale scale) { change(m_scale, scale); }
     void setInBands(bool inBands) { change(m_inBands, inBands); }
+    void setOverhang(double overhang) { change(m_overhang, overhang); }
     void setFontPixelSize(int size) { change(m_fontPixelSize, size); }
 
     [[nodiscard]] double top() const { return m_top; }
@@ -110,6 +113,7 @@ private:
     double m_height = 0;
     Scale m_scale = Largest;
     bool m_inBands = false;
+    double m_overhang = 0;
     int m_fontPixelSize = 12;
     double m_top = 1;
     double m_step = 0;

@@ -33,7 +33,7 @@ StatsButton {
         }
 
         ThemedText {
-            Layout.preferredWidth: 66
+            Layout.preferredWidth: 72
             text: root.time
             color: Theme.textFaint
             Accessible.ignored: true

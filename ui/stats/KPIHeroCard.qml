@@ -19,7 +19,7 @@ StatsButton {
     words: root.title + ", " + root.value + (root.subtitle.length > 0 ? ", " + root.subtitle : "")
     surface: Theme.surface
     innerRadius: Theme.radiusLarge
-    padding: Theme.gap4
+    padding: Theme.gap3
     implicitHeight: column.implicitHeight + 2 * root.padding
     opacity: root.appeared ? 1 : 0
 

@@ -28,6 +28,7 @@ ChartArea {
         width: plot.width
         height: plot.height
         scale: root.scale
+        overhang: Theme.gap6
         fontPixelSize: Theme.caption
     }
 
@@ -60,8 +61,8 @@ ChartArea {
 
         x: layout.tickWidth + Theme.gap3
         y: 32
-        width: root.width - plot.x - Theme.gap2
-        height: root.height - plot.y - 40
+        width: root.width - plot.x - Theme.gap6
+        height: root.height - plot.y - 42
 
         Repeater {
             model: layout.tickYs.length
@@ -193,7 +194,7 @@ ChartArea {
         }
 
         AxisTexts {
-            y: plot.height + Theme.gap1 + 2
+            y: plot.height + Theme.gap2
             width: plot.width
             xs: layout.labelXs
             texts: layout.labelTexts

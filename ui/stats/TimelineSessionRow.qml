@@ -23,7 +23,7 @@ StatsButton {
     Rectangle {
         id: dot
 
-        x: 86
+        x: 96
         anchors.verticalCenter: parent.verticalCenter
         width: 10
         height: 10
@@ -48,7 +48,7 @@ StatsButton {
         spacing: Theme.gap3
 
         ThemedText {
-            Layout.preferredWidth: 62
+            Layout.preferredWidth: 72
             text: root.time
             color: Theme.textMuted
             Accessible.ignored: true

@@ -5,7 +5,7 @@ import QtQuick.Layouts
 import NorvinFocus.Ui
 
 /// What was used: at the left by category, at the right the applications that were used most.
-RowLayout {
+Item {
     id: root
 
     required property ChartModel categories
@@ -17,12 +17,12 @@ RowLayout {
     signal explained(string what, string key)
 
     Layout.fillWidth: true
-    spacing: Theme.gap8
+    implicitHeight: Math.max(left.implicitHeight, right.implicitHeight)
 
     ColumnLayout {
-        Layout.fillWidth: false
-        Layout.preferredWidth: root.width * 0.53
-        Layout.alignment: Qt.AlignTop
+        id: left
+
+        width: Math.round((root.width - Theme.gap8) * 0.54)
         spacing: Theme.gap3
 
         ThemedText {
@@ -42,8 +42,11 @@ RowLayout {
     }
 
     ColumnLayout {
-        Layout.fillWidth: true
-        Layout.alignment: Qt.AlignTop
+        id: right
+
+        anchors.left: left.right
+        anchors.leftMargin: Theme.gap8
+        anchors.right: parent.right
         spacing: 0
 
         ThemedText {
