@@ -81,6 +81,8 @@ void StatsExportViewTest::theMenuIsReachedByKeyboard() {
         m_rig->keepPicture(QStringLiteral("stats-export-menu-") + QLatin1String(language));
         QCOMPARE(menu->property("count").toInt(), 5);
         m_rig->press(Qt::Key_Down);
+        m_rig->press(Qt::Key_Down);
+        QCOMPARE(menu->property("currentIndex").toInt(), 1);
         m_rig->press(Qt::Key_Escape);
         QTRY_VERIFY(!menu->property("visible").toBool());
         QTRY_VERIFY(m_rig->hasKeyboard("statsExport"));

@@ -53,31 +53,31 @@ Item {
         }
 
         ContextMenuItem {
-            choice: StatsExport.Sessions.toString()
+            choice: `${StatsExport.Sessions}`
             symbol: "tablecells"
             text: qsTrId("stats_export_sessions")
         }
 
         ContextMenuItem {
-            choice: StatsExport.Usage.toString()
+            choice: `${StatsExport.Usage}`
             symbol: "tablecells"
             text: qsTrId("stats_export_usage")
         }
 
         ContextMenuItem {
-            choice: StatsExport.Json.toString()
+            choice: `${StatsExport.Json}`
             symbol: "curlybraces"
             text: qsTrId("stats_export_json")
         }
 
         ContextMenuItem {
-            choice: StatsExport.Picture.toString()
+            choice: `${StatsExport.Picture}`
             symbol: "photo"
             text: qsTrId("stats_export_picture")
         }
 
         ContextMenuItem {
-            choice: StatsExport.Document.toString()
+            choice: `${StatsExport.Document}`
             symbol: "doc.text"
             text: qsTrId("stats_export_document")
         }
