@@ -139,38 +139,11 @@ ChartArea {
             }
         }
 
-        Shape {
-            id: reference
-
-            anchors.fill: parent
+        ReferenceLine {
+            y: plot.height * (1 - root.threshold / layout.top)
+            width: plot.width
             visible: root.thresholdName.length > 0
-
-            ShapePath {
-                strokeColor: Theme.amber
-                strokeWidth: 1
-                strokeStyle: ShapePath.DashLine
-                dashPattern: [5, 4]
-                fillColor: "transparent"
-                startX: 0
-                startY: plot.thresholdY
-
-                PathLine {
-                    x: plot.width
-                    y: plot.thresholdY
-                }
-            }
-        }
-
-        readonly property real thresholdY: plot.height * (1 - root.threshold / layout.top)
-
-        ThemedText {
-            visible: reference.visible
-            x: plot.width - width
-            y: plot.thresholdY - height - 2
-            text: root.thresholdName
-            color: Theme.amber
-            font.pixelSize: Theme.caption
-            Accessible.ignored: true
+            name: root.thresholdName
         }
 
         Rectangle {
