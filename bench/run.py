@@ -4,9 +4,7 @@ Whole processes are measured on a private virtual display, in turn with their ne
 meanwhile meets both. The store holds ten years of a heavy user. Nothing here passes or fails."""
 
 import json
-import random
 import re
-import sqlite3
 import statistics
 import subprocess
 import sys
@@ -25,39 +23,6 @@ from support.pages import Pages  # noqa: E402
 START_PAIRS = 15
 SAMPLE_SECONDS = 30
 YEARS = 10
-DAY = 86_400_000  # milliseconds
-
-
-def fill_store(file):
-    """200 projects, 20,000 tasks, 36,500 sessions and 1,500,000 intervals, the newest of today."""
-    chance = random.Random(1)
-    now = int(time.time() * 1000)
-    first = now - YEARS * 365 * DAY
-    connection = sqlite3.connect(file)
-    connection.execute("PRAGMA synchronous = OFF")
-
-    def identity():
-        return uuid.UUID(int=chance.getrandbits(128)).bytes
-
-    projects = [identity() for _ in range(200)]
-    connection.executemany("INSERT INTO Project VALUES (?, ?, '', '#7c3aed', '', ?)",
-                           ((key, f"Project {i}", first + i) for i, key in enumerate(projects)))
-    connection.executemany(
-        "INSERT INTO TaskItem VALUES (?, ?, '', ?, 1, NULL, ?, NULL, ?, NULL, NULL)",
-        ((identity(), f"Task {i}", "Done" if i % 5 else "To Do", first + i, projects[i % 200]) for i in range(20_000)))
-    connection.executemany(
-        "INSERT INTO Session VALUES (?, ?, 25, 1, NULL, ?, 0, 0, 0, 1400, 100)",
-        ((identity(), first + i * (YEARS * 365 * DAY // 36_500), chance.uniform(3, 10)) for i in range(36_500)))
-    connection.executemany("INSERT INTO AppUsageSource VALUES (?, ?, ?, 'category_other')",
-                           ((i, f"org.example.App{i}", f"App {i}") for i in range(1, 121)))
-    step = YEARS * 365 * DAY // 1_500_000
-    connection.executemany(
-        "INSERT INTO AppUsageSession VALUES (?, ?, ?, ?, 60)",
-        ((chance.randbytes(16), 1 + min(119, int(chance.paretovariate(1))), first + i * step, first + i * step + 60_000)
-         for i in range(1_500_000)))
-    connection.commit()
-    connection.execute("PRAGMA wal_checkpoint(TRUNCATE)")
-    connection.close()
 
 
 def first_frame(command, environment):
@@ -178,6 +143,11 @@ def measure_browser(program, kind, identifier):
         pages.close()
 
 
+def frames_in(log):
+    """Milliseconds of each frame that a program drew."""
+    return [int(length) for length in re.findall(r"rendered with .*? in (\d+)ms", log)]
+
+
 def measure_scrolling(program):
     """Milliseconds of each frame drawn while a board of 500 cards a column is scrolled with the wheel."""
     desktop = Desktop()
@@ -205,7 +175,49 @@ def measure_scrolling(program):
         for _ in range(120):
             desktop.run("xdotool", "click", "5")
             time.sleep(0.016)
-        return [int(length) for length in re.findall(r"rendered with .*? in (\d+)ms", app.log()[before:])]
+        return frames_in(app.log()[before:])
+    finally:
+        desktop.close()
+
+
+def measure_statistics(program, fill_store):
+    """Of the statistics page over ten years: the proportional set size before, with, and after it, MB; the frames while
+    it is opened, scrolled and put to other periods; samples and frames of a session that runs with it in front."""
+    desktop = Desktop()
+    try:
+        desktop.environment["QT_LOGGING_RULES"] = "qt.scenegraph.time.renderloop=true"
+        app = Application(desktop, program)
+        app.write_preferences(tick_sound_enabled="false")
+        subprocess.run([fill_store, app.store_file, str(YEARS)], check=True)
+        app.launch()
+        app.do("allow", "--app", WORK)
+        desktop.bring_to_front(app.windows()[0])
+
+        def size():
+            rollup = Path(f"/proc/{app.process.pid}/smaps_rollup").read_text()
+            return next(int(line.split()[1]) for line in rollup.splitlines() if line.startswith("Pss:")) / 1024
+
+        def keys(*names):
+            desktop.run("xdotool", "key", "--delay", "400", *names, "sleep", "1.5")
+
+        sizes = [size()]
+        drawn = len(app.log())
+        keys("ctrl+4")
+        keys("Right", "Tab", "Tab", "Right", "Right", "Right", "Left", "Right")
+        desktop.run("xdotool", "mousemove", "700", "600")
+        for _ in range(60):
+            desktop.run("xdotool", "click", "5")
+            time.sleep(0.016)
+        frames = frames_in(app.log()[drawn:])
+        sizes.append(size())
+        app.do("start", "--minutes", "60")
+        drawn = len(app.log())
+        (running,) = sample(app.process.pid)
+        live = frames_in(app.log()[drawn:])
+        app.do("stop")
+        keys("ctrl+1")
+        sizes.append(size())
+        return sizes, frames, running, live
     finally:
         desktop.close()
 
@@ -219,7 +231,7 @@ def run_benchmarks(program):
         if run["run_type"] == "iteration":
             name, *arguments = run["name"].split("/")
             size = [argument for argument in arguments if argument.isdigit()]
-            runs.setdefault("/".join([name, *size]) if program.endswith("planning") else name, []).append(run)
+            runs.setdefault("/".join([name, *size]) if program.endswith(("planning", "stats")) else name, []).append(run)
 
     def median(name, key):
         return statistics.median(run[key] for run in runs[name])
@@ -231,6 +243,7 @@ def main():
     build = Path(sys.argv[1]).resolve()
     program = str(build / "bin" / "norvin-focus")
     minimal_window = str(build / "bin" / "bench_minimal_window")
+    fill_store = str(build / "bin" / "fill_store")
     rows = []
     desktop = Desktop()
     try:
@@ -241,7 +254,7 @@ def main():
         app.process.wait()
         for name in ("empty store", "ten years"):
             if name == "ten years":
-                fill_store(app.store_file)
+                subprocess.run([fill_store, app.store_file, str(YEARS)], check=True)
             own, minimal = measure_start(desktop, program, minimal_window)
             rows.append((f"start to first frame / that of a minimal Qt Quick window, {name}", f"{own / minimal:.2f}",
                          f"{own * 1000:.0f} / {minimal * 1000:.0f} ms", "2"))
@@ -297,6 +310,32 @@ def main():
     frames = measure_scrolling(program)
     rows.append(("scrolling a board of 500 cards a column: longest frame / 16 ms", f"{max(frames) / 16:.2f}",
                  f"{max(frames)} ms, median {statistics.median(frames):.0f}, {len(frames)} frames", "1"))
+
+    median = run_benchmarks(str(build / "bin" / "bench_stats"))
+    month, years = "30", "3652"
+    sql = {"30 days": median(f"sqlMonth/{years}", "real_time"), "ten years": median(f"sqlAll/{years}", "real_time")}
+    for name, store, period, limit in (("openMonth", month, "30 days", "–"), ("openMonth", years, "30 days", "10 ms"),
+                                       ("openAll", years, "ten years", "500 ms")):
+        own = median(f"{name}/{store}", "real_time")
+        of = "a store of ten years" if store == years else "a store of 30 days"
+        rows.append((f"statistics of {period} from cold, {of} / the same sums in SQL", f"{own / sql[period]:.2f}",
+                     f"{own:.1f} / {sql[period]:.1f} ms", limit))
+    for name, what, limit in (("switchPeriod", "another period shown, all loaded", "10 ms"),
+                              ("liveSecond", "a second of a session", "1 ms"),
+                              ("intervalRecorded", "an interval recorded", "–")):
+        few, many = median(f"{name}/{month}", "real_time"), median(f"{name}/{years}", "real_time")
+        rows.append((f"statistics: {what}, of ten years / of 30 days", f"{many / few:.2f}",
+                     f"{many * 1000:.0f} / {few * 1000:.0f} µs", limit))
+    rows.append(("statistics: bytes of ten years, MB", f"{median(f'switchPeriod/{years}', 'bytes') / 1e6:.1f}", "", "64"))
+    (before, shown, after), frames, (cpu, switches, _), live = measure_statistics(program, fill_store)
+    rows.append(("statistics page over ten years: proportional set size before, with, after it, MB",
+                 f"{before:.0f}, {shown:.0f}, {after:.0f}", "", "100"))
+    rows.append(("statistics page opened, scrolled, other periods: longest frame / 16 ms", f"{max(frames) / 16:.2f}",
+                 f"{max(frames)} ms, median {statistics.median(frames):.0f}, {len(frames)} frames", "1"))
+    rows.append(("session running, statistics in front: CPU, % of a core", f"{cpu:.3f}", "", "0.2"))
+    rows.append(("session running, statistics in front: voluntary context switches a second", f"{switches:.2f}", "", "6"))
+    rows.append(("session running, statistics in front: longest frame / 16 ms", f"{max(live, default=0) / 16:.2f}",
+                 f"{max(live, default=0)} ms, {len(live)} frames", "1"))
 
     print("| what | measured | from | at most |\n| --- | --- | --- | --- |")
     for row in rows:

@@ -117,7 +117,7 @@ private:
         static const QStringList categories{
             QStringLiteral("category_development"), QStringLiteral("category_productivity"),
             QStringLiteral("category_other"), QStringLiteral("category_entertainment"),
-            QStringLiteral("category_browsers")};
+            QStringLiteral("category_navigation")};
         usage.category = categories.at((which + (isRenamed ? 1 : 0)) % categories.size());
         return usage;
     }
