@@ -83,6 +83,8 @@ Page {
             id: today
 
             anchors.fill: parent
+            anchors.leftMargin: -Theme.gap1
+            anchors.topMargin: -Theme.gap1
             visible: !root.showsHistory && root.model.hasFigures
 
             TodayPage {
@@ -95,6 +97,8 @@ Page {
             id: history
 
             anchors.fill: parent
+            anchors.leftMargin: -Theme.gap1
+            anchors.topMargin: -Theme.gap1
             visible: root.showsHistory && root.model.hasFigures
 
             HistoryPage {

@@ -38,7 +38,7 @@ Flickable {
 
     clip: true
     boundsBehavior: Flickable.StopAtBounds
-    contentHeight: column.implicitHeight + Theme.gap6
+    contentHeight: column.implicitHeight + Theme.gap1 + Theme.gap6
 
     onFocusedChanged: root.follow()
 
@@ -62,7 +62,10 @@ Flickable {
     ColumnLayout {
         id: column
 
-        width: root.width - Theme.gap3
+        // Room for the ring around what has the keyboard.
+        x: Theme.gap1
+        y: Theme.gap1
+        width: root.width - Theme.gap1 - Theme.gap3
         spacing: Theme.gap4
     }
 }
