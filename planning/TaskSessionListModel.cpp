@@ -13,10 +13,12 @@ TaskSessionListModel::TaskSessionListModel(ModelContext& context, QObject* paren
         if (m_task && session.task == m_task)
             load();
     });
-    connect(&m_context, &ModelContext::sessionsRemoved, this, [this] {
+    const auto loadAgain = [this] {
         if (m_task)
             load();
-    });
+    };
+    connect(&m_context, &ModelContext::sessionsRemoved, this, loadAgain);
+    connect(&m_context, &ModelContext::sessionsEdited, this, loadAgain);
 }
 
 TaskSessionListModel::~TaskSessionListModel() = default;

@@ -205,6 +205,9 @@ private Q_SLOTS:
         QCOMPARE(rig.sheet.sessions()->totalMinutes(), 75);
         const QModelIndex newest = rig.sheet.sessions()->index(0);
         QCOMPARE(newest.data(TaskSessionListModel::MinutesRole).toInt(), 50);
+        for (const Session& session : context.fetchSessions())
+            static_cast<void>(context.setSessionTask(session.id, task->id()));
+        QCOMPARE(rig.sheet.sessions()->totalMinutes(), 255);
     }
 };
 
