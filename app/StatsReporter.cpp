@@ -37,11 +37,14 @@ void StatsReporter::answerSoon() {
 }
 
 void StatsReporter::answerAll() {
+    if (m_questions.empty())
+        return;
+    // In another time zone everything is read again first.
+    m_records.refreshDay();
     // The streak, and the intervals of long ago, are in no figure before everything is there.
-    if (m_questions.empty() || (!m_records.isComplete() && m_records.problem().isEmpty()))
+    if (!m_records.isComplete() && m_records.problem().isEmpty())
         return;
     disconnect(m_watch);
-    m_records.refreshDay();
     // An answer may bring the next question.
     const std::vector<Question> questions = std::exchange(m_questions, {});
     const QString problem = m_records.isComplete() ? QString() : m_records.problem();
