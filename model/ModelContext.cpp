@@ -302,9 +302,9 @@ std::optional<Session> ModelContext::session(const SessionId& id) const {
     return d->guarded([&] { return d->records.session(id); }, std::optional<Session>());
 }
 
-RecordCut ModelContext::cutRecords() {
+std::optional<RecordCut> ModelContext::cutRecords() {
     static_cast<void>(save());
-    return d->guarded([this] { return d->records.cut(); }, RecordCut());
+    return d->guarded([this] { return d->records.cut(); }, std::optional<RecordCut>());
 }
 
 StoreResult ModelContext::save() {

@@ -89,9 +89,8 @@ public:
     [[nodiscard]] QList<AppUsageSession> fetchAppUsage(const RecordQuery& query = {}) const;
     /// None when there is no such session. A read error is logged and gives none.
     [[nodiscard]] std::optional<Session> session(const SessionId& id) const;
-    /// Saves, and says how the records in the file and here stand now. A read error is logged and gives a cut
-    /// without rows.
-    [[nodiscard]] RecordCut cutRecords();
+    /// Saves, and says how the records in the file and here stand now. A read error is logged and gives none.
+    [[nodiscard]] std::optional<RecordCut> cutRecords();
 
     /// Writes all changes in one transaction.
     /// @return none on success; on failure the changes stay for the next save

@@ -153,7 +153,12 @@ void StatsRecords::startReading(Wanted wanted) {
     m_problem.clear();
     m_reading = std::make_shared<Reading>();
     m_reading->storeFile = m_storeFile;
-    m_reading->cut = m_context.cutRecords();
+    std::optional<RecordCut> cut = m_context.cutRecords();
+    if (!cut) {
+        fail(QStringLiteral("The store cannot be read."));
+        return;
+    }
+    m_reading->cut = *std::move(cut);
     m_reading->zone = m_tables.days().zone();
     m_reading->today = m_today;
     m_reading->onlySessions = wanted == Wanted::sessions;
@@ -237,7 +242,7 @@ void StatsRecords::take(Stage stage, StatsTables tables) {
         for (const AppUsageSession& usage : m_reading->newUsage)
             tables.add(usage);
         // What is shown must not shrink while everything is read again.
-        if (stage == Stage::month && m_stage == Stage::complete)
+        if (stage == Stage::month && m_stage > Stage::month)
             return;
         m_tables = std::move(tables);
     }
