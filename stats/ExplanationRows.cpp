@@ -75,7 +75,10 @@ void ExplanationRows::setRecords(std::vector<FigureRecord> records, const StatsD
 }
 
 void ExplanationRows::updateRecords(std::vector<FigureRecord> records, const StatsDays& days) {
-    m_days = days;
+    if (days.zone() != m_days.zone()) {
+        setRecords(std::move(records), days);
+        return;
+    }
     const auto shortest = static_cast<std::ptrdiff_t>(std::min(records.size(), m_records.size()));
     const std::ptrdiff_t head =
         std::mismatch(records.begin(), records.begin() + shortest, m_records.begin(), isSame).first -

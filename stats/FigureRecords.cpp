@@ -189,7 +189,7 @@ UsageQuestion usageQuestion(const FigureQuestion& question, const StatsDays& day
 
 UsageSum sumOfIntervals(const FigureQuestion& question, const StatsTables& tables, qint64 today) {
     UsageSum sum;
-    sum.total.bundleID = question.key;
+    sum.total.bundleID = sum.total.name = question.key;
     for (const UsageEntry& entry : usageOf(question, tables, today)) {
         const UsageSource& source = tables.sources()[static_cast<size_t>(entry.source)];
         if (source.bundleID != question.key || (question.category && source.category != *question.category))

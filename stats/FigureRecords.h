@@ -36,7 +36,8 @@ struct FigureQuestion {
     QString key = {};
     /// That of the history page; none on the page about today.
     std::optional<StatsPeriod> period = {};
-    /// The limits of a bucket; none of an instant is open.
+    /// Where a bucket begins in the chart, and what belongs to it; none of the limits is open.
+    Instant date = {};
     Instant from = {};
     Instant to = {};
     /// Of an application, only what was recorded under this category; none for all.
@@ -94,13 +95,15 @@ struct UsageQuestion {
     // Those that start in [from, to); none of an instant is open.
     Instant from;
     Instant to;
+    bool operator==(const UsageQuestion&) const = default;
 };
 /// @param question about an application
 [[nodiscard]] UsageQuestion usageQuestion(const FigureQuestion& question, const StatsDays& days,
                                           qint64 today);
 /// What the intervals of an application add up to.
 struct UsageSum {
-    /// Of the application, under the name and category of the first interval.
+    /// Of the application, under the name and category of the first interval; without any, under its
+    /// identifier.
     AppTotal total;
     qint64 intervals = 0;
 };

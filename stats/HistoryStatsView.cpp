@@ -104,23 +104,20 @@ void HistoryStatsView::showBuckets() {
         const bool isCurrent = bucket.date <= now && (bucket.end.isNone() || now < bucket.end);
         const QDateTime start = days.dateTime(bucket.date);
         QString label;
-        QString name;
         switch (unit) {
         case BucketUnit::hour:
             label = QString::number(start.time().hour());
-            name = m_locale.toString(start.time(), QLocale::ShortFormat);
             break;
         case BucketUnit::day:
             label = m_locale.toString(start.date(), qtTrId("date_day_month_short"));
-            name = m_locale.toString(start.date(), QLocale::LongFormat);
             break;
         case BucketUnit::month:
             label = m_locale.toString(start.date(), qtTrId("date_month_year_short"));
-            name = m_locale.toString(start.date(), qtTrId("date_month_year"));
             break;
         }
         const int minutes = bucket.minutes + (live && isCurrent ? live->minutes : 0);
-        points.append(minutesPoint(label, name, minutes, static_cast<int>(points.size())));
+        points.append(minutesPoint(label, bucketName(bucket.date, unit, days, m_locale), minutes,
+                                   static_cast<int>(points.size())));
     }
     m_focus->setPoints(std::move(points));
 }

@@ -5,6 +5,7 @@
 #include "stats/FigureTexts.h"
 #include "stats/HistoryStatsView.h"
 #include "stats/StatsRecords.h"
+#include "stats/StatsShown.h"
 #include "stats/TodayStatsView.h"
 
 #include <QtGlobal>
@@ -49,6 +50,7 @@ StatsExplanation::StatsExplanation(ModelContext& context, const QString& storeFi
     , m_intervals(new UsageIntervalRows(context, storeFile, this))
     , m_session(new SessionDetail(context, this)) {
     connect(&m_records, &StatsRecords::changed, this, &StatsExplanation::scheduleUpdate);
+    connect(&m_history, &HistoryStatsView::sectionsChanged, this, &StatsExplanation::scheduleUpdate);
     connect(&m_timer, &PomodoroTimerService::stateChanged, this, &StatsExplanation::scheduleUpdate);
     connect(&m_timer, &PomodoroTimerService::phaseChanged, this, &StatsExplanation::scheduleUpdate);
     connect(&m_timer, &PomodoroTimerService::timeRemainingChanged, this, &StatsExplanation::updateLive);
@@ -64,18 +66,19 @@ std::optional<FigureQuestion> StatsExplanation::questionAbout(const QString& tab
     if (!figure)
         return std::nullopt;
     FigureQuestion question{
-        .figure = *figure, .key = key, .period = {}, .from = {}, .to = {}, .category = {}};
+        .figure = *figure, .key = key, .period = {}, .date = {}, .from = {}, .to = {}, .category = {}};
     if (tab == QLatin1String("history"))
         question.period = m_history.statsPeriod();
     if (*figure == Figure::bucket) {
         const std::vector<TimeBucket>& buckets = m_history.buckets();
         bool isNumber = false;
         const auto place = key.toULongLong(&isNumber);
-        if (!isNumber || place >= buckets.size())
+        if (!question.period || !isNumber || place >= buckets.size())
             return std::nullopt;
+        question.date = buckets[place].date;
         // Whatever lies before the first one belongs to it.
         if (place > 0)
-            question.from = buckets[place].date;
+            question.from = question.date;
         question.to = buckets[place].end;
     }
     return question;
@@ -251,7 +254,8 @@ void StatsExplanation::describe() {
             else if (question.figure == Figure::weekday)
                 name = nameOf(*m_history.weekdays(), question.key);
             else if (question.figure == Figure::bucket)
-                name = nameOf(*m_history.focus(), question.key);
+                name = bucketName(question.date, bucketUnit(*question.period), m_records.tables().days(),
+                                  m_locale);
             sum = sumOf(m_rows->records());
             m_sumText = figureSumText(question.figure, sum);
             break;
@@ -293,14 +297,35 @@ void StatsExplanation::scheduleUpdate() {
         Qt::QueuedConnection);
 }
 
+// After midnight a bucket has another place in the chart, and the one that was the last has an end.
+void StatsExplanation::followBucket() {
+    FigureQuestion& question = m_places.front().question;
+    if (question.figure != Figure::bucket || question.period != m_history.statsPeriod())
+        return;
+    const std::vector<TimeBucket>& buckets = m_history.buckets();
+    const auto found = std::find_if(buckets.cbegin(), buckets.cend(), [&question](const TimeBucket& bucket) {
+        return bucket.date == question.date;
+    });
+    if (found == buckets.cend())
+        return;
+    question.from = found == buckets.cbegin() ? Instant() : found->date;
+    question.to = found->end;
+}
+
 void StatsExplanation::update() {
+    followBucket();
     const StatsDays& days = m_records.tables().days();
     switch (level()) {
     case Records:
         m_rows->updateRecords(recordsBehind(m_places.back().question, m_records.tables(), moment()), days);
         break;
-    case Intervals:
+    case Intervals: {
+        // Of another day after midnight; what is recorded, they follow by themselves.
+        const UsageQuestion question = usageQuestion(m_places.back().question, days, m_records.today());
+        if (!m_intervals->shows(question, days.zone()))
+            m_intervals->show(question, days.zone());
         break;
+    }
     case OneSession:
     case TaskChoice:
         if (const SessionRow* session = find(m_records.tables().sessions(), m_places.back().session)) {
@@ -321,17 +346,19 @@ void StatsExplanation::update() {
 }
 
 void StatsExplanation::updateLive() {
-    if (!isPresented() || level() != Records || m_rows->records().empty() ||
-        !std::holds_alternative<LiveWork>(m_rows->records().front()))
+    if (!isPresented() || level() != Records)
         return;
     const std::optional<LiveWork> live = liveWork(m_timer);
-    // In another bucket from now on, or over.
-    if (!live || !countsLive(m_places.back().question, m_records.now())) {
+    const bool counts = live && countsLive(m_places.back().question, m_records.now());
+    const bool isListed =
+        !m_rows->records().empty() && std::holds_alternative<LiveWork>(m_rows->records().front());
+    if (counts != isListed) {
+        // It has gone over into another bucket, or is over.
         scheduleUpdate();
-        return;
+    } else if (isListed) {
+        m_rows->setLive(*live);
+        describe();
     }
-    m_rows->setLive(*live);
-    describe();
 }
 
 void StatsExplanation::retranslate(const QLocale& locale) {

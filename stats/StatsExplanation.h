@@ -112,6 +112,7 @@ private:
     void show();
     void describe();
     void scheduleUpdate();
+    void followBucket();
     void update();
     void updateLive();
     [[nodiscard]] FigureMoment moment() const;

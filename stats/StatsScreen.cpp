@@ -67,6 +67,7 @@ void StatsScreen::close() {
         return;
     m_isOpen = false;
     m_patience.reset();
+    m_explanation.close();
     m_records.release();
     showWaiting();
 }
@@ -87,8 +88,9 @@ void StatsScreen::retranslate(const QLocale& locale) {
     m_today.retranslate(locale);
     m_history.retranslate(locale);
     m_files.retranslate(locale);
-    m_explanation.retranslate(locale);
     update();
+    // After the pages, whose names it uses.
+    m_explanation.retranslate(locale);
 }
 
 // Many records may come and go at once, as when a task is deleted or brought back.

@@ -60,7 +60,7 @@ public:
 
     /// The page is seen.
     Q_INVOKABLE void open();
-    /// The page is no longer seen: what it read is given back.
+    /// The page is no longer seen: nothing is explained any more, and what was read is given back.
     Q_INVOKABLE void close();
     /// Reads the records again.
     Q_INVOKABLE void refresh();

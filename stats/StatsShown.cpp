@@ -2,6 +2,8 @@
 
 #include "stats/StatsFormats.h"
 
+#include <QtGlobal>
+
 #include <algorithm>
 #include <iterator>
 
@@ -25,6 +27,19 @@ std::vector<SessionRow> completedRows(SessionSpan sessions) {
     std::copy_if(sessions.begin(), sessions.end(), std::back_inserter(rows),
                  [](const SessionRow& row) { return row.completed; });
     return rows;
+}
+
+QString bucketName(Instant date, BucketUnit unit, const StatsDays& days, const QLocale& locale) {
+    const QDateTime start = days.dateTime(date);
+    switch (unit) {
+    case BucketUnit::hour:
+        return locale.toString(start.time(), QLocale::ShortFormat);
+    case BucketUnit::day:
+        return locale.toString(start.date(), QLocale::LongFormat);
+    case BucketUnit::month:
+        break;
+    }
+    return locale.toString(start.date(), qtTrId("date_month_year"));
 }
 
 ChartPoint minutesPoint(const QString& label, const QString& name, int minutes, int key) {

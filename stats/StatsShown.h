@@ -16,6 +16,9 @@ namespace norvin {
 [[nodiscard]] QList<ChartPoint> categoryPoints(const QList<CategoryTotal>& totals);
 /// The completed ones in their order.
 [[nodiscard]] std::vector<SessionRow> completedRows(SessionSpan sessions);
+/// A stretch of time of the history's chart in full ("9:00", "Tuesday, 4 March 2025", "March 2025").
+/// @param date where it begins
+[[nodiscard]] QString bucketName(Instant date, BucketUnit unit, const StatsDays& days, const QLocale& locale);
 /// A minute count as the value of a chart's point.
 [[nodiscard]] ChartPoint minutesPoint(const QString& label, const QString& name, int minutes, int key);
 

@@ -41,6 +41,10 @@ public:
     /// Begins with other intervals; what is being read for the ones before is given up.
     /// @param zone in which times are written
     void show(const UsageQuestion& question, const QTimeZone& zone);
+    /// Whether these are the ones that are shown.
+    [[nodiscard]] bool shows(const UsageQuestion& question, const QTimeZone& zone) const {
+        return m_isShown && question == m_question && zone == m_days.zone();
+    }
     /// Gives up what is being read, and forgets the rest.
     void clear();
     [[nodiscard]] bool isWaiting() const { return m_request != nullptr && m_rows.empty(); }

@@ -28,6 +28,7 @@ private Q_SLOTS:
     void intervalsThatCannotBeReadAreAProblem();
     void levelsLeadDownAndBack();
     void theRunningPhaseMoves();
+    void midnightPasses();
     void aSessionGetsAnotherTask();
     void aSessionIsDeleted();
     void tasksAreFound();
@@ -371,6 +372,37 @@ void StatsExplanationTest::theRunningPhaseMoves() {
     QTRY_COMPARE(rig.listed().size(), size_t(1));
     QCOMPARE(rig.minutes(), 25);
     QVERIFY(std::holds_alternative<SessionRow>(rig.listed().front()));
+}
+
+void StatsExplanationTest::midnightPasses() {
+    Rig rig(inParis({2025, 3, 10}, {22, 59, 30}));
+    static_cast<void>(rig.insertSession(inParis({2025, 3, 10}, {21, 0}), 10));
+    QTRY_VERIFY(rig.screen->records().isComplete());
+    rig.focus.timer.startSession(nullptr, PomodoroPhase::work);
+    // The phase that runs is a part of the hour that it is.
+    rig.screen->history()->setPeriod(QStringLiteral("today"));
+    rig.ask(history, "bucket", QStringLiteral("23"));
+    QVERIFY(rig.listed().empty());
+    rig.focus.pass(31s);
+    QCOMPARE(rig.minutes(), 1);
+    rig.focus.timer.stopSession();
+
+    rig.focus.pass(59min);
+    rig.screen->history()->setPeriod(QStringLiteral("week"));
+    rig.ask(history, "bucket", QStringLiteral("7"));
+    const QString title = rig.explanation().title();
+    rig.focus.timer.startSession(nullptr, PomodoroPhase::work);
+    rig.focus.pass(61s);
+    QTRY_COMPARE(rig.minutes(), 10);
+    QCOMPARE(rig.explanation().title(), title);
+
+    const char* const bundle = "org.example.Late";
+    rig.insertInterval(bundle, rig.focus.clock.now(), 5);
+    rig.ask(today, "application", QLatin1String(bundle));
+    QCOMPARE(rig.intervals(), QList<qint64>{5});
+    rig.focus.pass(24h);
+    QTRY_VERIFY(rig.intervals().isEmpty());
+    QCOMPARE(rig.explanation().title(), QLatin1String(bundle));
 }
 
 void StatsExplanationTest::aSessionGetsAnotherTask() {
