@@ -3,6 +3,7 @@
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Statement.h>
 #include <SQLiteCpp/Transaction.h>
+#include <sqlite3.h>
 
 #include <algorithm>
 #include <array>
@@ -134,6 +135,12 @@ constexpr std::array formerIndexes{
            "CREATE INDEX AppUsageSession_startTime ON AppUsageSession(startTime)"},
 };
 
+bool isFormer(const Object& object, const std::string& sql) {
+    return std::any_of(formerIndexes.begin(), formerIndexes.end(), [&](const Object& former) {
+        return std::string_view(object.name) == former.name && sql == former.sql;
+    });
+}
+
 bool isAsIn(SQLite::Database& database, const Object& object) {
     SQLite::Statement query(database, "SELECT sql FROM sqlite_schema WHERE name = ?1");
     query.bind(1, object.name);
@@ -159,6 +166,8 @@ void create(SQLite::Database& database) {
 }
 
 void renewIndexes(SQLite::Database& database) {
+    if (database.execAndGet("PRAGMA user_version").getInt() != version)
+        return;
     for (const Object& former : formerIndexes) {
         if (!isAsIn(database, former))
             continue;
@@ -166,10 +175,16 @@ void renewIndexes(SQLite::Database& database) {
             std::find_if(objects.begin(), objects.end(), [&former](const Object& object) {
                 return std::string_view(object.name) == former.name;
             });
-        SQLite::Transaction transaction(database, SQLite::TransactionBehavior::IMMEDIATE);
-        database.exec(std::string("DROP INDEX ") + former.name);
-        database.exec(current->sql);
-        transaction.commit();
+        try {
+            SQLite::Transaction transaction(database, SQLite::TransactionBehavior::IMMEDIATE);
+            database.exec(std::string("DROP INDEX ") + former.name);
+            database.exec(current->sql);
+            transaction.commit();
+        } catch (const SQLite::Exception& exception) {
+            // With the old one everything can be read as well, if more slowly.
+            if (exception.getErrorCode() != SQLITE_FULL)
+                throw;
+        }
     }
 }
 
@@ -186,7 +201,7 @@ StoreResult validate(SQLite::Database& database) {
         texts.emplace(query.getColumn(0).getString(), query.getColumn(1).getString());
     for (const Object& object : objects) {
         const auto text = texts.find(object.name);
-        if (text == texts.end() || text->second != object.sql) {
+        if (text == texts.end() || (text->second != object.sql && !isFormer(object, text->second))) {
             return StoreError{.description = QStringLiteral("The store's %1 is not that of schema number %2.")
                                                  .arg(QLatin1String(object.name))
                                                  .arg(version)};

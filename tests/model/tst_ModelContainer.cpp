@@ -292,11 +292,14 @@ private Q_SLOTS:
 
     void aFullDiskCostsNothing_data() {
         QTest::addColumn<bool>("withLog");
-        QTest::newRow("closed in order") << false;
-        QTest::newRow("killed") << true;
+        QTest::addColumn<bool>("isOfEarlierVersion");
+        QTest::newRow("closed in order") << false << false;
+        QTest::newRow("killed") << true << false;
+        QTest::newRow("with an index of before") << false << true;
     }
     void aFullDiskCostsNothing() {
         QFETCH(bool, withLog);
+        QFETCH(bool, isOfEarlierVersion);
         const StoreFixture source;
         const StoreFixture full;
         if (::unshare(CLONE_NEWNS) != 0 || ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
@@ -313,6 +316,11 @@ private Q_SLOTS:
                 QVERIFY(!open->mainContext().save());
             for (const auto* suffix : {"", "-wal"})
                 writeFile(full.file() + suffix, contentOf(source.file() + suffix));
+        }
+        if (isOfEarlierVersion) {
+            SQLite::Database shell = full.raw();
+            shell.exec("DROP INDEX AppUsageSession_startTime");
+            shell.exec("CREATE INDEX AppUsageSession_startTime ON AppUsageSession(startTime)");
         }
         const QString ballast = full.folder() + "/ballast";
         {
