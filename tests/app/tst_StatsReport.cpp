@@ -5,6 +5,7 @@
 
 #include <QJsonArray>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimeZone>
 #include <QTranslator>
@@ -17,6 +18,7 @@ class tst_StatsReport final : public QObject {
 private Q_SLOTS:
     void initTestCase();
     void answersWhetherAnybodyHasTheRecordsOrNot();
+    void readsAgainInAnotherTimeZone();
     void includesTheWorkPhaseThatRuns();
     void readsWellInATerminal();
     void isATable();
@@ -97,6 +99,30 @@ void tst_StatsReport::answersWhetherAnybodyHasTheRecordsOrNot() {
     QCOMPARE(rig.report(std::nullopt)[QStringLiteral("sessions")].toInt(), 2);
     QVERIFY(rig.records.isComplete());
     rig.records.release();
+}
+
+void tst_StatsReport::readsAgainInAnotherTimeZone() {
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("store"));
+    FocusRig rig;
+    const auto opened = ModelContainer::openOrRecreate(file);
+    ModelContext& context = std::get<std::unique_ptr<ModelContainer>>(opened)->mainContext();
+    Session session;
+    session.startTime = rig.clock.now();
+    session.completed = true;
+    context.insert(session);
+    StatsRecords records(context, file, rig.clock);
+    StatsReporter reporter(records, rig.timer, context);
+    records.acquire();
+    QTRY_VERIFY(records.isComplete());
+    rig.clock.setNow(rig.clock.now().toTimeZone(QTimeZone("Asia/Kolkata")));
+    QJsonObject given;
+    reporter.report(StatsPeriod::all, [&given](const std::variant<QJsonObject, QString>& outcome) {
+        given = std::get<QJsonObject>(outcome);
+    });
+    QTRY_VERIFY(!given.isEmpty());
+    QCOMPARE(given[QStringLiteral("timeZone")].toString(), QStringLiteral("Asia/Kolkata"));
+    QCOMPARE(given[QStringLiteral("sessions")].toInt(), 1);
 }
 
 void tst_StatsReport::includesTheWorkPhaseThatRuns() {
