@@ -62,6 +62,7 @@ void SessionTaskList::scheduleLoad() {
 
 void SessionTaskList::load() {
     const std::vector<TaskItem*>& tasks = m_context.tasks();
+    beginResetModel();
     m_all.clear();
     m_all.reserve(tasks.size() + 1);
     m_all.push_back({.id = {}, .key = {}});
@@ -74,6 +75,8 @@ void SessionTaskList::load() {
     m_warm = 0;
     m_warmUp.start();
     find();
+    endResetModel();
+    Q_EMIT countChanged();
 }
 
 void SessionTaskList::warmUp() {
@@ -101,21 +104,21 @@ void SessionTaskList::setSearchText(const QString& text) {
     if (text == m_searchText)
         return;
     m_searchText = text;
+    beginResetModel();
     find();
+    endResetModel();
+    Q_EMIT countChanged();
     Q_EMIT searchTextChanged();
 }
 
 void SessionTaskList::find() {
     const QStringList words = searchKey(m_searchText).split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    beginResetModel();
     m_found.clear();
     for (size_t place = 0; place < m_all.size(); ++place) {
         if (std::all_of(words.cbegin(), words.cend(),
                         [&](const QString& word) { return keyOf(m_all[place]).contains(word); }))
             m_found.push_back(place);
     }
-    endResetModel();
-    Q_EMIT countChanged();
 }
 
 std::optional<TaskId> SessionTaskList::taskAt(int row) const {

@@ -157,7 +157,8 @@ void StatsExplanation::close() {
 }
 
 void StatsExplanation::chooseTask() {
-    if (level() != OneSession)
+    // There is none for the moment in which all records are read again for another time zone.
+    if (level() != OneSession || !m_session->session())
         return;
     m_session->tasks()->open(m_session->session()->task);
     Place place;
