@@ -72,7 +72,7 @@ private:
     bool m_isFirst = true;
 };
 
-/// Objects of a JSON list, each on a line of its own, four levels of nesting at most.
+/// A JSON object with members and lists of objects, each of which is on a line of its own.
 class JsonRows final : public RecordRows {
 public:
     using RecordRows::RecordRows;
