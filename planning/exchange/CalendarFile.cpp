@@ -22,7 +22,7 @@ using Problem = std::optional<PlanningError>;
 // Identifiers of other programs become ids in this space: the same one is the same task again.
 constexpr QUuid foreignIds(0x7d0c7a52, 0x41a7, 0x4d0e, 0x9b, 0x5e, 0x2f, 0x60, 0x1c, 0x83, 0xd9, 0x4b);
 
-TaskPriority priorityOf(int number) {
+TaskPriority priorityOfNumber(int number) {
     if (number == 0 || number == 5)
         return TaskPriority::medium;
     return number < 5 ? TaskPriority::high : TaskPriority::low;
@@ -224,7 +224,7 @@ private:
             const bool isOwn = name == ownPriorityName;
             if (!isNumber || (!isOwn && (number < 0 || number > 9)))
                 return wrongValue(*line);
-            task.priorityValue = isOwn ? number : static_cast<int>(priorityOf(number));
+            task.priorityValue = isOwn ? number : static_cast<int>(priorityOfNumber(number));
         }
         return std::nullopt;
     }
