@@ -67,9 +67,10 @@ void HistoryStatsView::update() {
     showWeekdays(sessions);
     showRecent(sessions);
     showBuckets();
+    m_shownMinutes = periodFocusMinutes();
+    m_shownScore = scoreText();
     Q_EMIT sectionsChanged();
-    m_shownFigures.clear();
-    updateLive();
+    Q_EMIT figuresChanged();
 }
 
 void HistoryStatsView::showWeekdays(SessionSpan sessions) {
@@ -123,14 +124,14 @@ void HistoryStatsView::showBuckets() {
 }
 
 void HistoryStatsView::updateLive() {
-    const QString focus = focusText();
-    const QString shown = focus + u'|' + scoreText();
-    if (shown == m_shownFigures)
+    const int minutes = periodFocusMinutes();
+    const QString score = scoreText();
+    if (minutes == m_shownMinutes && score == m_shownScore)
         return;
-    const bool minutePassed = !m_shownFigures.startsWith(focus + u'|');
-    m_shownFigures = shown;
-    if (minutePassed)
+    if (minutes != m_shownMinutes)
         showBuckets();
+    m_shownMinutes = minutes;
+    m_shownScore = score;
     Q_EMIT figuresChanged();
 }
 

@@ -123,8 +123,9 @@ private:
     bool m_hasUsage = false;
     /// Without the work phase that runs.
     std::vector<TimeBucket> m_buckets;
-    /// Those that move with the timer, as they were last told.
-    QString m_shownFigures;
+    // What moves with the timer, as it was last told.
+    int m_shownMinutes = 0;
+    QString m_shownScore;
 };
 
 } // namespace norvin

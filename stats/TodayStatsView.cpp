@@ -45,9 +45,10 @@ void TodayStatsView::update() {
     m_sessions->setRows(completedRows(sessions), tables.days());
     showHours(sessions);
     showScores();
+    m_shownMinutes = todayFocusMinutes();
+    m_shownScore = scoreText();
     Q_EMIT sectionsChanged();
-    m_shownFigures.clear();
-    updateLive();
+    Q_EMIT figuresChanged();
 }
 
 void TodayStatsView::showHours(SessionSpan sessions) {
@@ -78,10 +79,12 @@ void TodayStatsView::showScores() {
 }
 
 void TodayStatsView::updateLive() {
-    const QString shown = focusText() + u'|' + scoreText();
-    if (shown == m_shownFigures)
+    const int minutes = todayFocusMinutes();
+    const QString score = scoreText();
+    if (minutes == m_shownMinutes && score == m_shownScore)
         return;
-    m_shownFigures = shown;
+    m_shownMinutes = minutes;
+    m_shownScore = score;
     Q_EMIT figuresChanged();
 }
 

@@ -98,8 +98,9 @@ private:
     int m_streak = 0;
     qint64 m_usageSeconds = 0;
     bool m_hasUsage = false;
-    /// Those that move with the timer, as they were last told.
-    QString m_shownFigures;
+    // What moves with the timer, as it was last told.
+    int m_shownMinutes = 0;
+    QString m_shownScore;
 };
 
 } // namespace norvin

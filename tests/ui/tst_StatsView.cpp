@@ -64,7 +64,7 @@ private:
         usage.durationSeconds = seconds;
         rig->focus.context().insert(usage);
     }
-    void fillYear();
+    void fillTenYears();
     /// Until everything that came up is there.
     void waitForMotion() const {
         QTRY_VERIFY(rig->visible("kpiSessions"));
@@ -95,14 +95,14 @@ private:
     std::unique_ptr<UiRig> rig;
 };
 
-/// Sessions and applications of a year, made up but the same each time.
-void StatsViewTest::fillYear() {
+/// Sessions and applications of ten years, made up but the same each time.
+void StatsViewTest::fillTenYears() {
     const TaskItem* report = rig->focus.addTask(QStringLiteral("Write the report for the annual meeting"));
     const TaskItem* mail = rig->focus.addTask(QStringLiteral("Answer mail"));
     const QDateTime today(QDate(2025, 3, 10), QTime(0, 0), QTimeZone::utc());
     int number = 7;
     const auto next = [&number](int below) { return (number = (number * 1103 + 12345) % 65536) % below; };
-    for (int day = 380; day >= 0; --day) {
+    for (int day = 3650; day >= 0; --day) {
         const QDateTime start = today.addDays(-day);
         const int sessions = day == 0 ? 5 : start.date().dayOfWeek() > 5 ? next(2) : 2 + next(4);
         for (int session = 0; session < sessions; ++session) {
@@ -331,7 +331,7 @@ void StatsViewTest::nothingIsCutAndEverythingHasAName() {
     };
     QFETCH(QString, language);
     open(language);
-    fillYear();
+    fillTenYears();
     showStatistics();
     waitForMotion();
     rig->keepPicture(QStringLiteral("stats-today-%1").arg(language));
