@@ -1,6 +1,7 @@
 #include "model/RecordScan.h"
 
 #include "model/RowCursor.h"
+#include "model/SessionColumns.h"
 #include "model/StoreConnection.h"
 
 #include <QFile>
@@ -86,11 +87,9 @@ StoreResult RecordScan::sources(std::vector<StoredSource>& sources) {
 
 StoreResult RecordScan::sessions(const Range& range, const Visit<Session>& visit) {
     return guarded([&] {
-        RowCursor rows = d->rows(
-            "SELECT id, startTime, durationMinutes, completed, task, score, interruptionCount, "
-            "blockedAttemptsCount, blockedSiteAttemptsCount, legitimateTimeSeconds, distractedTimeSeconds "
-            "FROM Session WHERE startTime >= ?1 AND startTime < ?2 AND rowid <= ?3 ORDER BY startTime, "
-            "rowid");
+        RowCursor rows =
+            d->rows(NORVIN_SESSION_COLUMNS "WHERE startTime >= ?1 AND startTime < ?2 AND rowid <= ?3 "
+                                           "ORDER BY startTime, rowid");
         bindRange(rows, range);
         while (rows.next()) {
             Session session{.id = SessionId(rows.uuid(0)),

@@ -1,15 +1,10 @@
 #include "model/RecordStore.h"
 
+#include "model/SessionColumns.h"
 #include "model/StoreConnection.h"
 
 #include <algorithm>
 #include <limits>
-
-// What a row of a session is read from.
-#define NORVIN_SESSION_COLUMNS                                                                               \
-    "SELECT id, startTime, durationMinutes, completed, task, score, interruptionCount, "                     \
-    "blockedAttemptsCount, blockedSiteAttemptsCount, legitimateTimeSeconds, distractedTimeSeconds "          \
-    "FROM Session "
 
 namespace norvin {
 
