@@ -1963,6 +1963,14 @@
         <source></source>
         <translation>What to plan</translation>
     </message>
+    <message id="preferences_subtitle">
+        <source></source>
+        <translation>What you change here counts at once.</translation>
+    </message>
+    <message id="preferences_title">
+        <source></source>
+        <translation>Preferences</translation>
+    </message>
     <message id="priority_high">
         <source></source>
         <translation>High</translation>

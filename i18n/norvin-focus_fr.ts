@@ -1963,6 +1963,14 @@
         <source></source>
         <translation>Que planifier</translation>
     </message>
+    <message id="preferences_subtitle">
+        <source></source>
+        <translation>Ce que vous changez ici compte aussitôt.</translation>
+    </message>
+    <message id="preferences_title">
+        <source></source>
+        <translation>Préférences</translation>
+    </message>
     <message id="priority_high">
         <source></source>
         <translation>Haute</translation>
