@@ -20,6 +20,7 @@
 #include "platform/linux/login1/Login1SleepMonitor.h"
 #include "platform/linux/pulse/PulseAudioOutput.h"
 #include "platform/linux/settings/IniPreferences.h"
+#include "platform/linux/updates/UpdateSources.h"
 #include "platform/linux/webextension/ExtensionServer.h"
 #include "platform/linux/x11/X11IdleTimeSource.h"
 #include "platform/linux/x11/X11OverlaySupport.h"
@@ -91,6 +92,7 @@ struct LinuxPlatform::Parts {
     std::unique_ptr<xcb_connection_t, void (*)(xcb_connection_t*)> idleConnection{nullptr, &xcb_disconnect};
     std::unique_ptr<IdleTimeSource> idleTime;
     std::unique_ptr<OverlaySupport> overlays;
+    std::unique_ptr<UpdateSource> updates;
     std::unique_ptr<ClockTimer> soundProbe;
 
     Parts() {
@@ -195,6 +197,16 @@ SystemSounds& LinuxPlatform::sounds() const {
 
 AudioOutput& LinuxPlatform::audioOutput() const {
     return m_parts->audioOutput;
+}
+
+UpdateSource& LinuxPlatform::updates() const {
+    if (!m_parts->updates) {
+        UpdatePlaces places;
+        places.program = QCoreApplication::applicationFilePath();
+        m_parts->updates =
+            makeUpdateSource(places, sessionBus(), QDBusConnection::systemBus(), m_parts->clock);
+    }
+    return *m_parts->updates;
 }
 
 } // namespace norvin

@@ -12,6 +12,7 @@
 #include "platform/Preferences.h"
 #include "platform/SleepMonitor.h"
 #include "platform/SystemSounds.h"
+#include "platform/UpdateSource.h"
 #include "platform/UserNotifications.h"
 #include "platform/Workspace.h"
 
@@ -28,6 +29,7 @@ namespace norvin {
 /// | BrowserScripting, AccessibilityElements | extension in the browser; accessibility services |
 /// | IdleTimeSource | X server; else none, with "health_wayland_idle" or "health_no_display" |
 /// | OverlaySupport | X server; else none, with "health_wayland_overlay" or "health_no_display" |
+/// | UpdateSource | portal of Flatpak; PackageKit; else none, with "update_source_build" |
 class LinuxPlatform final {
 public:
     LinuxPlatform();
@@ -52,6 +54,8 @@ public:
     [[nodiscard]] SystemSounds& sounds() const;
     /// Generated sound, at 44,100 frames a second.
     [[nodiscard]] AudioOutput& audioOutput() const;
+    /// Made when it is first asked for.
+    [[nodiscard]] UpdateSource& updates() const;
 
 private:
     struct Parts;
