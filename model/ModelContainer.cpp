@@ -9,8 +9,6 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
-#include <sqlite3.h>
-
 #include <utility>
 
 namespace norvin {
@@ -18,19 +16,6 @@ namespace norvin {
 namespace {
 
 using OpenResult = std::variant<std::unique_ptr<ModelContext>, StoreError>;
-
-// What says nothing about the file: it may be in order, and must not be deleted.
-bool isPassing(const StoreError& error) {
-    switch (error.code) {
-    case SQLITE_BUSY:
-    case SQLITE_LOCKED:
-    case SQLITE_FULL:
-    case SQLITE_NOMEM:
-        return true;
-    default:
-        return false;
-    }
-}
 
 void removeStore(const QString& storeFile) {
     const QFileInfo file(storeFile);
@@ -62,18 +47,22 @@ ModelContainer::openContext(std::variant<std::unique_ptr<StoreConnection>, Store
 
 std::variant<std::unique_ptr<ModelContainer>, StoreError>
 ModelContainer::openOrRecreate(const QString& storeFile, std::chrono::milliseconds lockWait) {
+    StoreOpening opening{.replacement = carryOutReplacement(storeFile)};
     OpenResult opened = openContext(StoreConnection::open(storeFile, lockWait));
     if (const auto* error = std::get_if<StoreError>(&opened); error != nullptr && !isPassing(*error)) {
         logLine(QStringLiteral(
                     "⚠️ SwiftData: Schema mismatch or corruption — resetting database. Error: ") +
                 error->description);
+        opening.lossReason = error->description;
         removeStore(storeFile);
         opened = openContext(StoreConnection::open(storeFile, lockWait));
     }
     if (auto* error = std::get_if<StoreError>(&opened))
         return std::move(*error);
-    return std::unique_ptr<ModelContainer>(
+    std::unique_ptr<ModelContainer> container(
         new ModelContainer(storeFile, std::get<std::unique_ptr<ModelContext>>(std::move(opened))));
+    container->m_opening = std::move(opening);
+    return container;
 }
 
 void ModelContainer::moveToThread(QThread* thread) {

@@ -2,6 +2,7 @@
 
 #include "model/ModelContext.h"
 #include "model/StoreError.h"
+#include "model/StoreReplacement.h"
 
 #include <QString>
 
@@ -13,13 +14,20 @@ class QThread;
 
 namespace norvin {
 
+/// What happened when a store was opened.
+struct StoreOpening {
+    ReplacementOutcome replacement = {};
+    /// Why the file that was there had to be deleted and made anew, in English; empty where it had not.
+    QString lossReason = {};
+};
+
 /// An open store. It and everything in it belong to the thread that opened it, and may be used there only.
 class ModelContainer final {
 public:
-    /// Opens the store file, making it where there is none. A file that cannot be opened (damaged, of another
-    /// schema) is reported on standard output, deleted with its two companions, and made anew once. A store
-    /// that somebody has locked is waited for; one that stays locked, or that only a full disk keeps shut, is
-    /// left alone.
+    /// Carries out the replacement of the store that was prepared, if one was, and then opens the file,
+    /// making it where there is none. A file that cannot be opened (damaged, of another schema) is reported
+    /// on standard output, deleted with its two companions, and made anew once. A store that somebody has
+    /// locked is waited for; one that stays locked, or that only a full disk keeps shut, is left alone.
     /// @param lockWait how long to wait for a lock at most; blocks the calling thread
     /// @return the container, or why there is none even after the file was made anew
     [[nodiscard]] static std::variant<std::unique_ptr<ModelContainer>, StoreError>
@@ -37,6 +45,7 @@ public:
     void moveToThread(QThread* thread);
     [[nodiscard]] ModelContext& mainContext() { return *m_mainContext; }
     [[nodiscard]] const QString& storeFile() const { return m_storeFile; }
+    [[nodiscard]] const StoreOpening& opening() const { return m_opening; }
 
 private:
     ModelContainer(QString storeFile, std::unique_ptr<ModelContext> context);
@@ -44,6 +53,7 @@ private:
     openContext(std::variant<std::unique_ptr<StoreConnection>, StoreError> opened);
 
     QString m_storeFile;
+    StoreOpening m_opening;
     std::unique_ptr<ModelContext> m_mainContext;
 };
 

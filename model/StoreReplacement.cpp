@@ -1,0 +1,171 @@
+#include "model/StoreReplacement.h"
+
+#include "model/BackupFolder.h"
+#include "model/StoreConnection.h"
+#include "platform/Log.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+#include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Exception.h>
+#include <sqlite3.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+namespace norvin {
+
+namespace {
+
+// How long the store may be held by somebody who looks into it.
+constexpr int settleWaitMilliseconds = 2000;
+
+const QByteArray withBackups = QByteArrayLiteral("store and backups\n");
+const QByteArray withoutBackups = QByteArrayLiteral("store\n");
+
+QString besideStore(const QString& storeFile, const char* ending) {
+    const QFileInfo store(storeFile);
+    return store.dir().filePath(store.completeBaseName() + QLatin1String(ending));
+}
+
+QString restoreFile(const QString& storeFile) {
+    return besideStore(storeFile, ".restore");
+}
+
+QString eraseMarker(const QString& storeFile) {
+    return besideStore(storeFile, ".erase");
+}
+
+void syncFolderOf(const QString& file) {
+    static_cast<void>(syncFolder(QFileInfo(file).path()));
+}
+
+// Companions first: a log must never meet another file than the one that it belongs to.
+void removeCompanions(const QString& storeFile) {
+    for (const char* ending : {"-wal", "-shm", "-journal"})
+        QFile::remove(storeFile + QLatin1String(ending));
+    syncFolderOf(storeFile);
+}
+
+// Brings the store into one file without companions.
+StoreResult settle(const QString& storeFile) {
+    try {
+        SQLite::Database database(QFile::encodeName(storeFile).toStdString(), SQLite::OPEN_READWRITE,
+                                  settleWaitMilliseconds);
+        database.exec("PRAGMA synchronous = FULL");
+        if (database.execAndGet("PRAGMA journal_mode = DELETE").getString() != "delete")
+            return StoreError{.code = SQLITE_BUSY,
+                              .description = QStringLiteral("Another program has the store open.")};
+        return {};
+    } catch (const SQLite::Exception& exception) {
+        return storeError(exception);
+    }
+}
+
+void putAside(const QString& storeFile) {
+    const QString aside = besideStore(storeFile, ".damaged");
+    QFile::remove(aside);
+    QFile::remove(aside + QStringLiteral("-wal"));
+    QFile::rename(storeFile + QStringLiteral("-wal"), aside + QStringLiteral("-wal"));
+    QFile::rename(storeFile, aside);
+}
+
+// Whether the file itself is at fault, rather than what surrounds it.
+bool isDamage(const StoreError& error) {
+    return error.code == SQLITE_CORRUPT || error.code == SQLITE_NOTADB || error.code < 0;
+}
+
+// What there is must be found again, whatever the user thinks of the backup afterwards.
+StoreResult keepPresent(const QString& storeFile, const QString& prepared) {
+    if (!QFile::exists(storeFile))
+        return {};
+    StoreResult failure = settle(storeFile);
+    if (!failure)
+        failure = checkStoreFile(storeFile);
+    if (failure && isDamage(*failure)) {
+        logLine(QStringLiteral("StoreReplacement: The present store cannot be backed up: ") +
+                failure->description);
+        putAside(storeFile);
+        return {};
+    }
+    if (failure)
+        return failure;
+    // Whoever was stopped half-way finds the copy of the first attempt again by its name.
+    const QString copy =
+        BackupFolder(storeFile).fileFor(BackupKind::beforeRestore, QFileInfo(prepared).lastModified());
+    const auto facts = readStoreFacts(storeFile);
+    const auto* held = std::get_if<StoreFacts>(&facts);
+    if (QFile::exists(copy) || (held != nullptr && held->isEmpty()))
+        return {};
+    return copyStoreFile(storeFile, copy);
+}
+
+ReplacementOutcome refused(const QString& prepared, const QString& problem) {
+    logLine(QStringLiteral("StoreReplacement: The backup was not restored: ") + problem);
+    QFile::remove(prepared);
+    return {.kind = ReplacementOutcome::Kind::refused, .problem = problem};
+}
+
+ReplacementOutcome restore(const QString& storeFile, const QString& prepared) {
+    const auto facts = readStoreFacts(prepared);
+    if (const auto* error = std::get_if<StoreError>(&facts))
+        return refused(prepared, error->description);
+    if (const StoreResult failure = keepPresent(storeFile, prepared))
+        return refused(prepared, failure->description);
+    removeCompanions(storeFile);
+    if (std::rename(QFile::encodeName(prepared).constData(), QFile::encodeName(storeFile).constData()) != 0)
+        return refused(prepared, QString::fromLocal8Bit(std::strerror(errno)));
+    syncFolderOf(storeFile);
+    return {.kind = ReplacementOutcome::Kind::restored};
+}
+
+ReplacementOutcome erase(const QString& storeFile, const QString& marker) {
+    QFile file(marker);
+    const bool takesBackups = file.open(QIODevice::ReadOnly) && file.readAll() == withBackups;
+    file.close();
+    removeCompanions(storeFile);
+    const QString damaged = besideStore(storeFile, ".damaged");
+    for (const QString& gone : {storeFile, restoreFile(storeFile), damaged, damaged + QStringLiteral("-wal")})
+        QFile::remove(gone);
+    if (takesBackups)
+        BackupFolder(storeFile).clear();
+    syncFolderOf(storeFile);
+    QFile::remove(marker);
+    syncFolderOf(storeFile);
+    if (QFile::exists(storeFile))
+        return {.kind = ReplacementOutcome::Kind::refused,
+                .problem = QStringLiteral("%1 cannot be removed").arg(storeFile)};
+    return {.kind = ReplacementOutcome::Kind::erased};
+}
+
+} // namespace
+
+StoreResult prepareRestore(const QString& storeFile, const QString& backup, const CopyProgress& progress) {
+    return copyStoreFile(backup, restoreFile(storeFile), progress);
+}
+
+StoreResult prepareErase(const QString& storeFile, ErasedBackups backups) {
+    QSaveFile marker(eraseMarker(storeFile));
+    if (marker.open(QIODevice::WriteOnly))
+        marker.write(backups == ErasedBackups::removed ? withBackups : withoutBackups);
+    if (!marker.commit())
+        return StoreError{.code = SQLITE_IOERR, .description = marker.errorString()};
+    syncFolderOf(storeFile);
+    return {};
+}
+
+ReplacementOutcome carryOutReplacement(const QString& storeFile) {
+    // Erasing goes before: nobody who wanted everything gone wants an older state back.
+    if (const QString marker = eraseMarker(storeFile); QFile::exists(marker))
+        return erase(storeFile, marker);
+    if (const QString prepared = restoreFile(storeFile); QFile::exists(prepared))
+        return restore(storeFile, prepared);
+    return {};
+}
+
+} // namespace norvin
