@@ -21,6 +21,7 @@
 #include "platform/linux/pulse/PulseAudioOutput.h"
 #include "platform/linux/settings/IniPreferences.h"
 #include "platform/linux/updates/UpdateSources.h"
+#include "platform/linux/statusnotifier/StatusNotifierItem.h"
 #include "platform/linux/webextension/ExtensionServer.h"
 #include "platform/linux/x11/X11IdleTimeSource.h"
 #include "platform/linux/x11/X11OverlaySupport.h"
@@ -78,6 +79,7 @@ struct LinuxPlatform::Parts {
     GioApplicationCatalog applications{entries, QCoreApplication::applicationFilePath()};
     Login1SleepMonitor sleepMonitor{QDBusConnection::systemBus()};
     FreedesktopNotifications notifications{sessionBus()};
+    StatusNotifierItem statusItem{sessionBus()};
     CanberraSounds sounds;
     PulseAudioOutput audioOutput{clock, audioSampleRate};
     AtspiTrust accessibilityTrust{sessionBus()};
@@ -93,13 +95,14 @@ struct LinuxPlatform::Parts {
     std::unique_ptr<IdleTimeSource> idleTime;
     std::unique_ptr<OverlaySupport> overlays;
     std::unique_ptr<UpdateSource> updates;
-    std::unique_ptr<ClockTimer> soundProbe;
+    std::unique_ptr<ClockTimer> laterProbe;
 
     Parts() {
         // Not at once: the first frame needs the processor more.
-        soundProbe = clock.after(std::chrono::milliseconds(400), [this] {
+        laterProbe = clock.after(std::chrono::milliseconds(400), [this] {
             sounds.probe();
             audioOutput.probe();
+            statusItem.probe();
         });
         lookAtDisplay();
         browserRoutes = std::make_unique<BrowserRoutes>(
@@ -189,6 +192,10 @@ OverlaySupport& LinuxPlatform::overlays() const {
 
 UserNotifications& LinuxPlatform::notifications() const {
     return m_parts->notifications;
+}
+
+StatusItem& LinuxPlatform::statusItem() const {
+    return m_parts->statusItem;
 }
 
 SystemSounds& LinuxPlatform::sounds() const {

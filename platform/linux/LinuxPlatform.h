@@ -11,6 +11,7 @@
 #include "platform/OverlaySupport.h"
 #include "platform/Preferences.h"
 #include "platform/SleepMonitor.h"
+#include "platform/StatusItem.h"
 #include "platform/SystemSounds.h"
 #include "platform/UpdateSource.h"
 #include "platform/UserNotifications.h"
@@ -51,6 +52,7 @@ public:
     [[nodiscard]] IdleTimeSource& idleTime() const;
     [[nodiscard]] OverlaySupport& overlays() const;
     [[nodiscard]] UserNotifications& notifications() const;
+    [[nodiscard]] StatusItem& statusItem() const;
     [[nodiscard]] SystemSounds& sounds() const;
     /// Generated sound, at 44,100 frames a second.
     [[nodiscard]] AudioOutput& audioOutput() const;

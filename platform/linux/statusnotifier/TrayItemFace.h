@@ -1,0 +1,57 @@
+#pragma once
+
+#include "platform/StatusItem.h"
+#include "platform/linux/statusnotifier/TraySymbol.h"
+
+#include <QDBusConnection>
+#include <QDBusVirtualObject>
+#include <QVariantMap>
+
+namespace norvin {
+
+/// The item as trays read it: org.kde.StatusNotifierItem. Main thread only.
+class TrayItemFace final : public QDBusVirtualObject {
+    Q_OBJECT
+public:
+    static constexpr auto interfaceName = "org.kde.StatusNotifierItem";
+    /// Where trays look for the item of a program that tells them its name alone.
+    static constexpr auto path = "/StatusNotifierItem";
+
+    /// @param menuPath where the item's menu stands
+    TrayItemFace(const QDBusConnection& bus, const QString& menuPath, QObject* parent = nullptr);
+    ~TrayItemFace() override;
+
+    [[nodiscard]] const StatusItem::Content& content() const { return m_content; }
+    /// Whether a tray has asked for the label alone, as one does that shows it.
+    [[nodiscard]] bool isLabelRead() const { return m_isLabelRead; }
+    void forgetReaders() { m_isLabelRead = false; }
+
+    /// What is read from now on.
+    void setContent(const StatusItem::Content& content);
+
+    // Tell the tray to read anew.
+    void announceSymbol() { announce("NewIcon"); }
+    void announceTip() { announce("NewToolTip"); }
+    void announceLabel();
+
+    [[nodiscard]] QString introspect(const QString& path) const override;
+    bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override;
+
+Q_SIGNALS:
+    void activated(std::optional<QPoint> position);
+    void secondaryActivated();
+
+private:
+    [[nodiscard]] QVariantMap properties() const;
+    [[nodiscard]] QDBusMessage answerTo(const QDBusMessage& message);
+    [[nodiscard]] QDBusMessage answerAboutProperties(const QDBusMessage& message);
+    void announce(const char* signal);
+
+    QDBusConnection m_bus;
+    QString m_menuPath;
+    StatusItem::Content m_content;
+    QList<TrayPicture> m_pictures;
+    bool m_isLabelRead = false;
+};
+
+} // namespace norvin
