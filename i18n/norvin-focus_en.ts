@@ -15,6 +15,50 @@
         <source></source>
         <translation>Accessibility is on. A browser that was open may have to be closed and opened once.</translation>
     </message>
+    <message id="action_new_project">
+        <source></source>
+        <translation>New project</translation>
+    </message>
+    <message id="action_new_task">
+        <source></source>
+        <translation>New task</translation>
+    </message>
+    <message id="action_pause">
+        <source></source>
+        <translation>Pause the session</translation>
+    </message>
+    <message id="action_resume">
+        <source></source>
+        <translation>Resume the session</translation>
+    </message>
+    <message id="action_send_feedback">
+        <source></source>
+        <translation>Suggest an improvement…</translation>
+    </message>
+    <message id="action_show_panel">
+        <source></source>
+        <translation>Open the timer panel</translation>
+    </message>
+    <message id="action_show_welcome">
+        <source></source>
+        <translation>Show the welcome again</translation>
+    </message>
+    <message id="action_start_break">
+        <source></source>
+        <translation>Start a break</translation>
+    </message>
+    <message id="action_start_rearming">
+        <source></source>
+        <translation>Start rearming</translation>
+    </message>
+    <message id="action_start_work">
+        <source></source>
+        <translation>Start a work phase</translation>
+    </message>
+    <message id="action_stop">
+        <source></source>
+        <translation>Stop the session</translation>
+    </message>
     <message id="active_task_next">
         <source></source>
         <translation>First up: %1</translation>
@@ -153,6 +197,26 @@
     <message id="attach_refused_not_local">
         <source></source>
         <translation>Only files on this computer can be attached.</translation>
+    </message>
+    <message id="autostart_no_portal">
+        <source></source>
+        <translation>This desktop does not let sandboxed programs start at login.</translation>
+    </message>
+    <message id="autostart_no_portal_remedy">
+        <source></source>
+        <translation>Install xdg-desktop-portal and the part of it that belongs to your desktop.</translation>
+    </message>
+    <message id="autostart_reason">
+        <source></source>
+        <translation>Norvin Focus wants to be ready when you log in.</translation>
+    </message>
+    <message id="autostart_unwritable">
+        <source></source>
+        <translation>The entry for the start at login cannot be written.</translation>
+    </message>
+    <message id="autostart_unwritable_remedy">
+        <source></source>
+        <translation>Make sure that you may write to the folder “autostart” of your settings.</translation>
     </message>
     <message id="balance_label">
         <source></source>
@@ -406,6 +470,10 @@
     <message id="chart_value_format">
         <source></source>
         <translation>%1: %2</translation>
+    </message>
+    <message id="check_for_updates">
+        <source></source>
+        <translation>Check for updates…</translation>
     </message>
     <message id="chip_ambiguous">
         <source></source>
@@ -1614,6 +1682,30 @@
         <source></source>
         <translation>Overview</translation>
     </message>
+    <message id="palette_empty">
+        <source></source>
+        <translation>Nothing goes by that name.</translation>
+    </message>
+    <message id="palette_kind_project">
+        <source></source>
+        <translation>Project</translation>
+    </message>
+    <message id="palette_kind_task">
+        <source></source>
+        <translation>Task</translation>
+    </message>
+    <message id="palette_open">
+        <source></source>
+        <translation>Search everything (Ctrl+K)</translation>
+    </message>
+    <message id="palette_placeholder">
+        <source></source>
+        <translation>Go to a page, task or project, or do something</translation>
+    </message>
+    <message id="palette_results">
+        <source></source>
+        <translation>Results</translation>
+    </message>
     <message id="pause_button">
         <source></source>
         <translation>Pause</translation>
@@ -1991,6 +2083,13 @@
         <source></source>
         <translation>%1, %2 of %3</translation>
     </message>
+    <message id="project_count" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n project</numerusform>
+            <numerusform>%n projects</numerusform>
+        </translation>
+    </message>
     <message id="project_delete_button">
         <source></source>
         <translation>Delete project</translation>
@@ -2124,6 +2223,13 @@
     <message id="queue_keys_hint">
         <source></source>
         <translation>Enter: work on it · Ctrl+Enter: tick off · +: subtask · Alt+↑↓: move · Del: remove</translation>
+    </message>
+    <message id="queued_tasks" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n task in the queue</numerusform>
+            <numerusform>%n tasks in the queue</numerusform>
+        </translation>
     </message>
     <message id="quick_add_added">
         <source></source>
@@ -3002,6 +3108,13 @@
         <source></source>
         <translation>Tasks</translation>
     </message>
+    <message id="tasks_today" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n task today</numerusform>
+            <numerusform>%n tasks today</numerusform>
+        </translation>
+    </message>
     <message id="tick_sounds_button_off">
         <source></source>
         <translation>Tick sounds: off (Ctrl+T)</translation>
@@ -3226,6 +3339,10 @@
     <message id="window_closed_running_title">
         <source></source>
         <translation>The session goes on</translation>
+    </message>
+    <message id="window_menu">
+        <source></source>
+        <translation>Menu</translation>
     </message>
 </context>
 </TS>

@@ -15,6 +15,50 @@
         <source></source>
         <translation>L’accessibilité est active. Un navigateur déjà ouvert doit peut-être être fermé puis rouvert une fois.</translation>
     </message>
+    <message id="action_new_project">
+        <source></source>
+        <translation>Nouveau projet</translation>
+    </message>
+    <message id="action_new_task">
+        <source></source>
+        <translation>Nouvelle tâche</translation>
+    </message>
+    <message id="action_pause">
+        <source></source>
+        <translation>Suspendre la session</translation>
+    </message>
+    <message id="action_resume">
+        <source></source>
+        <translation>Reprendre la session</translation>
+    </message>
+    <message id="action_send_feedback">
+        <source></source>
+        <translation>Proposer une amélioration…</translation>
+    </message>
+    <message id="action_show_panel">
+        <source></source>
+        <translation>Ouvrir le panneau du minuteur</translation>
+    </message>
+    <message id="action_show_welcome">
+        <source></source>
+        <translation>Revoir l’accueil</translation>
+    </message>
+    <message id="action_start_break">
+        <source></source>
+        <translation>Démarrer une pause</translation>
+    </message>
+    <message id="action_start_rearming">
+        <source></source>
+        <translation>Démarrer un réarmement</translation>
+    </message>
+    <message id="action_start_work">
+        <source></source>
+        <translation>Démarrer une phase de travail</translation>
+    </message>
+    <message id="action_stop">
+        <source></source>
+        <translation>Arrêter la session</translation>
+    </message>
     <message id="active_task_next">
         <source></source>
         <translation>Pour commencer : %1</translation>
@@ -153,6 +197,26 @@
     <message id="attach_refused_not_local">
         <source></source>
         <translation>Seuls des fichiers de cet ordinateur peuvent être joints.</translation>
+    </message>
+    <message id="autostart_no_portal">
+        <source></source>
+        <translation>Ce bureau ne laisse pas les programmes isolés démarrer à l’ouverture de session.</translation>
+    </message>
+    <message id="autostart_no_portal_remedy">
+        <source></source>
+        <translation>Installez xdg-desktop-portal et la partie qui correspond à votre bureau.</translation>
+    </message>
+    <message id="autostart_reason">
+        <source></source>
+        <translation>Norvin Focus veut être prêt quand vous ouvrez votre session.</translation>
+    </message>
+    <message id="autostart_unwritable">
+        <source></source>
+        <translation>L’entrée de démarrage à l’ouverture de session ne peut pas être écrite.</translation>
+    </message>
+    <message id="autostart_unwritable_remedy">
+        <source></source>
+        <translation>Vérifiez que vous avez le droit d’écrire dans le dossier « autostart » de vos réglages.</translation>
     </message>
     <message id="balance_label">
         <source></source>
@@ -406,6 +470,10 @@
     <message id="chart_value_format">
         <source></source>
         <translation>%1 : %2</translation>
+    </message>
+    <message id="check_for_updates">
+        <source></source>
+        <translation>Rechercher des mises à jour…</translation>
     </message>
     <message id="chip_ambiguous">
         <source></source>
@@ -1614,6 +1682,30 @@
         <source></source>
         <translation>Vue d’ensemble</translation>
     </message>
+    <message id="palette_empty">
+        <source></source>
+        <translation>Rien ne porte ce nom.</translation>
+    </message>
+    <message id="palette_kind_project">
+        <source></source>
+        <translation>Projet</translation>
+    </message>
+    <message id="palette_kind_task">
+        <source></source>
+        <translation>Tâche</translation>
+    </message>
+    <message id="palette_open">
+        <source></source>
+        <translation>Tout rechercher (Ctrl+K)</translation>
+    </message>
+    <message id="palette_placeholder">
+        <source></source>
+        <translation>Aller à une page, une tâche ou un projet, ou agir</translation>
+    </message>
+    <message id="palette_results">
+        <source></source>
+        <translation>Résultats</translation>
+    </message>
     <message id="pause_button">
         <source></source>
         <translation>Pause</translation>
@@ -1991,6 +2083,13 @@
         <source></source>
         <translation>%1, %2 sur %3</translation>
     </message>
+    <message id="project_count" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n projet</numerusform>
+            <numerusform>%n projets</numerusform>
+        </translation>
+    </message>
     <message id="project_delete_button">
         <source></source>
         <translation>Supprimer le projet</translation>
@@ -2124,6 +2223,13 @@
     <message id="queue_keys_hint">
         <source></source>
         <translation>Entrée : s’y mettre · Ctrl+Entrée : cocher · + : sous-tâche · Alt+↑↓ : déplacer · Suppr : retirer</translation>
+    </message>
+    <message id="queued_tasks" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n tâche dans la file</numerusform>
+            <numerusform>%n tâches dans la file</numerusform>
+        </translation>
     </message>
     <message id="quick_add_added">
         <source></source>
@@ -3002,6 +3108,13 @@
         <source></source>
         <translation>Tâches</translation>
     </message>
+    <message id="tasks_today" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n tâche aujourd’hui</numerusform>
+            <numerusform>%n tâches aujourd’hui</numerusform>
+        </translation>
+    </message>
     <message id="tick_sounds_button_off">
         <source></source>
         <translation>Tic-tac : désactivé (Ctrl+T)</translation>
@@ -3226,6 +3339,10 @@
     <message id="window_closed_running_title">
         <source></source>
         <translation>La session continue</translation>
+    </message>
+    <message id="window_menu">
+        <source></source>
+        <translation>Menu</translation>
     </message>
 </context>
 </TS>

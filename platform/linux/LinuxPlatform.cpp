@@ -6,6 +6,8 @@
 #include "platform/linux/SessionBus.h"
 #include "platform/linux/atspi/AtspiBrowsers.h"
 #include "platform/linux/atspi/AtspiTrust.h"
+#include "platform/linux/autostart/PortalAutostart.h"
+#include "platform/linux/autostart/XdgAutostart.h"
 #include "platform/linux/browsers/AtspiRoute.h"
 #include "platform/linux/browsers/BrowserRestarter.h"
 #include "platform/linux/browsers/BrowserRoutes.h"
@@ -28,6 +30,7 @@
 #include "platform/linux/x11/X11Workspace.h"
 #include "platform/linux/x11/XcbSupport.h"
 
+#include <QFile>
 #include <QGuiApplication>
 
 #include <cstring>
@@ -94,6 +97,7 @@ struct LinuxPlatform::Parts {
     std::unique_ptr<xcb_connection_t, void (*)(xcb_connection_t*)> idleConnection{nullptr, &xcb_disconnect};
     std::unique_ptr<IdleTimeSource> idleTime;
     std::unique_ptr<OverlaySupport> overlays;
+    std::unique_ptr<Autostart> autostart;
     std::unique_ptr<UpdateSource> updates;
     std::unique_ptr<ClockTimer> laterProbe;
 
@@ -204,6 +208,16 @@ SystemSounds& LinuxPlatform::sounds() const {
 
 AudioOutput& LinuxPlatform::audioOutput() const {
     return m_parts->audioOutput;
+}
+
+Autostart& LinuxPlatform::autostart() const {
+    if (!m_parts->autostart) {
+        if (QFile::exists(UpdatePlaces().flatpakInfo))
+            m_parts->autostart = std::make_unique<PortalAutostart>(sessionBus(), m_parts->preferences);
+        else
+            m_parts->autostart = std::make_unique<XdgAutostart>(XdgAutostart::ownPlaces());
+    }
+    return *m_parts->autostart;
 }
 
 UpdateSource& LinuxPlatform::updates() const {

@@ -4,6 +4,7 @@
 #include "platform/AccessibilityTrust.h"
 #include "platform/ApplicationCatalog.h"
 #include "platform/AudioOutput.h"
+#include "platform/Autostart.h"
 #include "platform/BrowserAccess.h"
 #include "platform/BrowserScripting.h"
 #include "platform/Clock.h"
@@ -30,6 +31,7 @@ namespace norvin {
 /// | BrowserScripting, AccessibilityElements | extension in the browser; accessibility services |
 /// | IdleTimeSource | X server; else none, with "health_wayland_idle" or "health_no_display" |
 /// | OverlaySupport | X server; else none, with "health_wayland_overlay" or "health_no_display" |
+/// | Autostart | background portal inside a Flatpak sandbox; else the autostart folder |
 /// | UpdateSource | portal of Flatpak; PackageKit; else none, with "update_source_build" |
 class LinuxPlatform final {
 public:
@@ -56,6 +58,8 @@ public:
     [[nodiscard]] SystemSounds& sounds() const;
     /// Generated sound, at 44,100 frames a second.
     [[nodiscard]] AudioOutput& audioOutput() const;
+    /// Made when it is first asked for.
+    [[nodiscard]] Autostart& autostart() const;
     /// Made when it is first asked for.
     [[nodiscard]] UpdateSource& updates() const;
 
