@@ -5,12 +5,18 @@
 #include "platform/Preferences.h"
 #include "services/FeedbackPost.h"
 
+#include <QUuid>
+
 namespace norvin {
 
 namespace {
 
 // A file is written for each change that is kept: not for every letter.
 constexpr std::chrono::milliseconds keepingDelay{300};
+
+QString newId() {
+    return QUuid::createUuid().toString(QUuid::WithoutBraces);
+}
 
 QString keyOf(FeedbackResult::Outcome outcome) {
     switch (outcome) {
@@ -48,6 +54,7 @@ FeedbackForm::FeedbackForm(const QString& baseUrl, Preferences& preferences, Clo
     , m_baseUrl(baseUrl)
     , m_preferences(preferences)
     , m_clock(clock)
+    , m_id(newId())
     , m_kind(kinds().constFirst()) {
     connect(&m_preferences, &Preferences::changed, this, [this](const QString& key) {
         if (key == QLatin1String(baseUrlKey))
@@ -154,7 +161,8 @@ bool FeedbackForm::isEmailPlausible() const {
 
 QByteArray FeedbackForm::json() const {
     const QString language = preference("app_language");
-    return toJson({.kind = m_kind,
+    return toJson({.id = m_id,
+                   .kind = m_kind,
                    .text = m_text.trimmed(),
                    .email = m_email.trimmed(),
                    .version = QStringLiteral(NORVIN_VERSION),
@@ -184,6 +192,7 @@ void FeedbackForm::send() {
 void FeedbackForm::finish(const FeedbackResult& result) {
     m_post.reset();
     if (result.outcome == FeedbackResult::Outcome::sent) {
+        m_id = newId();
         m_text.clear();
         m_kind = kinds().constFirst();
         store(textKey, {});

@@ -108,6 +108,7 @@ private:
     QString m_baseUrl;
     Preferences& m_preferences;
     Clock& m_clock;
+    QString m_id;
     QString m_kind;
     QString m_text;
     QString m_email;

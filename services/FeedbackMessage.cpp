@@ -6,7 +6,8 @@
 namespace norvin {
 
 QByteArray toJson(const FeedbackMessage& message) {
-    QJsonObject object{{QStringLiteral("kind"), message.kind},
+    QJsonObject object{{QStringLiteral("id"), message.id},
+                       {QStringLiteral("kind"), message.kind},
                        {QStringLiteral("suggestion"), message.text},
                        {QStringLiteral("version"), message.version},
                        {QStringLiteral("language"), message.language}};

@@ -10,6 +10,8 @@ namespace norvin {
 
 /// A suggestion as its writer made it.
 struct FeedbackMessage {
+    /// Tells a message that arrives twice from two messages; random, and the same until it has arrived.
+    QString id;
     /// "idea", "problem" or "praise".
     QString kind;
     QString text;

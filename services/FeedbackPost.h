@@ -43,7 +43,8 @@ struct FeedbackResult {
 };
 
 /// One message on its way over HTTPS. Destroying it gives up. Follows no redirection, and sends no cookies
-/// and nothing about the machine besides the message. Main thread only.
+/// and nothing about the machine besides the message. A connection that ends before there is an answer may be
+/// tried again at once, so that the message can arrive twice. Main thread only.
 class FeedbackPost final : public QObject {
     Q_OBJECT
 public:
