@@ -159,6 +159,12 @@ StoreResult prepareErase(const QString& storeFile, ErasedBackups backups) {
     return {};
 }
 
+void cancelReplacement(const QString& storeFile) {
+    QFile::remove(restoreFile(storeFile));
+    QFile::remove(eraseMarker(storeFile));
+    syncFolderOf(storeFile);
+}
+
 ReplacementOutcome carryOutReplacement(const QString& storeFile) {
     // Erasing goes before: nobody who wanted everything gone wants an older state back.
     if (const QString marker = eraseMarker(storeFile); QFile::exists(marker))

@@ -29,6 +29,9 @@ struct ReplacementOutcome {
 /// Any thread. @return why that failed; nothing has changed then
 [[nodiscard]] StoreResult prepareErase(const QString& storeFile, ErasedBackups backups);
 
+/// Drops what was prepared.
+void cancelReplacement(const QString& storeFile);
+
 /// Carries out what was prepared. Only for a process that has the store to itself, before it opens the store.
 /// The store that gives way to a backup is backed up itself first; one that cannot be read is put aside as
 /// "<store>.damaged". Where the old one is in use or the disk is full, it stays, and the preparation is

@@ -30,6 +30,9 @@ public:
     /// Forgets the key, as durably as setValue() stores.
     virtual void remove(const QString& key) = 0;
 
+    /// Forgets everything, as durably as setValue() stores.
+    virtual void clear() = 0;
+
 Q_SIGNALS:
     /// A value was stored or forgotten.
     void changed(const QString& key);

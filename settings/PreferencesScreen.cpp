@@ -1,6 +1,7 @@
 #include "settings/PreferencesScreen.h"
 
 #include "focus/PomodoroTimerService.h"
+#include "platform/Autostart.h"
 #include "platform/Preferences.h"
 
 #include <algorithm>
@@ -26,6 +27,12 @@ PreferencesScreen::PreferencesScreen(Preferences& preferences, TickSoundSettings
 }
 
 PreferencesScreen::~PreferencesScreen() = default;
+
+void PreferencesScreen::setCompanions(const Companions& companions) {
+    m_with = companions;
+    if (m_with.autostart != nullptr)
+        connect(m_with.autostart, &Autostart::changed, this, &PreferencesScreen::autostartChanged);
+}
 
 QString PreferencesScreen::profileName() const {
     return m_preferences.value(QLatin1String(profileNameKey)).value_or(QVariant()).toString();
@@ -90,9 +97,32 @@ void PreferencesScreen::setHasFloatingTimer(bool wanted) {
         m_preferences.setValue(QLatin1String(floatingTimerKey), wanted);
 }
 
-void PreferencesScreen::open() {}
+bool PreferencesScreen::startsAtLogin() const {
+    return m_with.autostart != nullptr && m_with.autostart->isEnabled();
+}
 
-void PreferencesScreen::retranslate(const QLocale&) {}
+void PreferencesScreen::setStartsAtLogin(bool starts) {
+    if (m_with.autostart != nullptr)
+        m_with.autostart->setEnabled(starts);
+}
+
+QString PreferencesScreen::autostartProblemKey() const {
+    if (m_with.autostart == nullptr)
+        return {};
+    const Availability availability = m_with.autostart->availability();
+    return availability.isAvailable() ? QString() : availability.reason()->reasonKey;
+}
+
+void PreferencesScreen::open() {
+    Q_EMIT autostartChanged();
+    if (m_with.data != nullptr)
+        m_with.data->refresh();
+}
+
+void PreferencesScreen::retranslate(const QLocale& locale) {
+    if (m_with.data != nullptr)
+        m_with.data->retranslate(locale);
+}
 
 void PreferencesScreen::handleChange(const QString& key) {
     if (key == QLatin1String(profileNameKey))

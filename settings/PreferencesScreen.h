@@ -1,5 +1,9 @@
 #pragma once
 
+#include "services/OutsideServices.h"
+#include "settings/DataSettings.h"
+#include "sound/AmbientSoundService.h"
+#include "sound/ImmersionService.h"
 #include "sound/TickSoundSettings.h"
 
 #include <QList>
@@ -9,6 +13,7 @@
 
 namespace norvin {
 
+class Autostart;
 class Preferences;
 
 /// The preferences page: what the user may decide, each stored as soon as it changes. What other parts of the
@@ -32,14 +37,35 @@ class PreferencesScreen final : public QObject {
     /// Whether a small window shows the time while the main window is not in front.
     Q_PROPERTY(
         bool hasFloatingTimer READ hasFloatingTimer WRITE setHasFloatingTimer NOTIFY floatingTimerChanged)
+    /// Whether the program starts, hidden, when the user logs in.
+    Q_PROPERTY(bool startsAtLogin READ startsAtLogin WRITE setStartsAtLogin NOTIFY autostartChanged)
+    /// Localisation key of why that cannot be decided, empty while it can. The key with "_remedy" appended
+    /// says what to do.
+    Q_PROPERTY(QString autostartProblemKey READ autostartProblemKey NOTIFY autostartChanged)
     Q_PROPERTY(norvin::TickSoundSettings* tickSounds READ tickSounds CONSTANT)
+    // Each of these may be null.
+    Q_PROPERTY(norvin::AmbientSoundService* ambientSounds READ ambientSounds CONSTANT)
+    Q_PROPERTY(norvin::ImmersionService* immersion READ immersion CONSTANT)
+    Q_PROPERTY(norvin::OutsideServices* outside READ outside CONSTANT)
+    Q_PROPERTY(norvin::DataSettings* data READ data CONSTANT)
 public:
+    /// What the page shows besides; all of it must outlive the page.
+    struct Companions {
+        Autostart* autostart = nullptr;
+        AmbientSoundService* ambientSounds = nullptr;
+        ImmersionService* immersion = nullptr;
+        OutsideServices* outside = nullptr;
+        DataSettings* data = nullptr;
+    };
     static constexpr auto profileNameKey = "profile_name";
     static constexpr auto floatingTimerKey = "floating_timer_enabled";
 
     /// Both must outlive this.
     PreferencesScreen(Preferences& preferences, TickSoundSettings& tickSounds, QObject* parent = nullptr);
     ~PreferencesScreen() override;
+
+    /// To be called before the page is shown.
+    void setCompanions(const Companions& companions);
 
     [[nodiscard]] QString profileName() const;
     void setProfileName(const QString& name);
@@ -54,7 +80,14 @@ public:
     [[nodiscard]] int rearmingMinutes() const;
     [[nodiscard]] bool hasFloatingTimer() const;
     void setHasFloatingTimer(bool wanted);
+    [[nodiscard]] bool startsAtLogin() const;
+    void setStartsAtLogin(bool starts);
+    [[nodiscard]] QString autostartProblemKey() const;
     [[nodiscard]] TickSoundSettings* tickSounds() const { return &m_tickSounds; }
+    [[nodiscard]] AmbientSoundService* ambientSounds() const { return m_with.ambientSounds; }
+    [[nodiscard]] ImmersionService* immersion() const { return m_with.immersion; }
+    [[nodiscard]] OutsideServices* outside() const { return m_with.outside; }
+    [[nodiscard]] DataSettings* data() const { return m_with.data; }
 
     /// The page came to the front: looks again at what changes by itself.
     Q_INVOKABLE void open();
@@ -65,6 +98,7 @@ Q_SIGNALS:
     void profileNameChanged();
     void inactivityChanged();
     void floatingTimerChanged();
+    void autostartChanged();
     /// The user wants the welcome once more.
     void welcomeWanted();
     /// The user wants to see the block lists.
@@ -75,6 +109,7 @@ private:
 
     Preferences& m_preferences;
     TickSoundSettings& m_tickSounds;
+    Companions m_with;
 };
 
 } // namespace norvin

@@ -25,6 +25,12 @@ public:
         if (m_values.remove(key))
             Q_EMIT changed(key);
     }
+    void clear() override {
+        const QList<QString> keys = m_values.keys();
+        m_values.clear();
+        for (const QString& key : keys)
+            Q_EMIT changed(key);
+    }
 
     [[nodiscard]] const QHash<QString, QVariant>& values() const { return m_values; }
 

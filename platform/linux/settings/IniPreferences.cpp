@@ -84,6 +84,14 @@ void IniPreferences::remove(const QString& key) {
     Q_EMIT changed(key);
 }
 
+void IniPreferences::clear() {
+    const QStringList keys = m_settings->allKeys();
+    m_settings->clear();
+    write();
+    for (const QString& key : keys)
+        Q_EMIT changed(key);
+}
+
 void IniPreferences::write() {
     // A QSettings keeps its first error for good. A second object over the same file takes over what the
     // first could not write, as long as both exist for a moment, and starts with a clean status.

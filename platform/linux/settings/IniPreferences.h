@@ -25,6 +25,7 @@ public:
     [[nodiscard]] std::optional<QVariant> value(const QString& key) const override;
     void setValue(const QString& key, const QVariant& value) override;
     void remove(const QString& key) override;
+    void clear() override;
 
 private:
     void open();

@@ -1,0 +1,279 @@
+#include "settings/DataSettings.h"
+
+#include "focus/PomodoroTimerService.h"
+#include "model/StoreFile.h"
+#include "model/StoreReplacement.h"
+#include "platform/Preferences.h"
+#include "services/LicenseService.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+namespace norvin {
+
+DataSettings::DataSettings(BackupService& service, const StoreOpening& opening, PomodoroTimerService& timer,
+                           Preferences& preferences, QObject* parent)
+    : QObject(parent)
+    , m_service(service)
+    , m_timer(timer)
+    , m_preferences(preferences) {
+    using Kind = ReplacementOutcome::Kind;
+    if (!opening.lossReason.isEmpty()) {
+        m_startState = StartState::lost;
+        m_startProblem = opening.lossReason;
+        m_offered = newestBackup();
+    } else if (opening.replacement.kind == Kind::refused) {
+        m_startState = StartState::refused;
+        m_startProblem = opening.replacement.problem;
+    } else if (opening.replacement.kind != Kind::none) {
+        m_startState = opening.replacement.kind == Kind::restored ? StartState::restored : StartState::erased;
+    }
+    connect(&service, &BackupService::workChanged, this, &DataSettings::workChanged);
+    connect(&service, &BackupService::finished, this, &DataSettings::handleFinished);
+    connect(&timer, &PomodoroTimerService::stateChanged, this, &DataSettings::canReplaceChanged);
+}
+
+DataSettings::~DataSettings() = default;
+
+QUrl DataSettings::storeFolder() const {
+    return QUrl::fromLocalFile(QFileInfo(storeFile()).path());
+}
+
+QUrl DataSettings::backupFolder() const {
+    const bool isThere = QFileInfo::exists(backupPath());
+    return isThere ? QUrl::fromLocalFile(backupPath()) : storeFolder();
+}
+
+QString DataSettings::sizeText() const {
+    return m_facts ? m_locale.formattedDataSize(m_facts->bytes, 1, QLocale::DataSizeTraditionalFormat)
+                   : QString();
+}
+
+QString DataSettings::recordsText() const {
+    if (!m_facts)
+        return {};
+    if (!m_facts->firstSession.isValid())
+        return qtTrId("data_no_records");
+    const auto count = [](qint64 number) {
+        return static_cast<int>(std::min<qint64>(number, std::numeric_limits<int>::max()));
+    };
+    return qtTrId("data_records_since")
+        .arg(m_locale.toString(m_facts->firstSession.date(), qtTrId("backup_date_pattern")),
+             qtTrId("count_sessions", count(m_facts->sessions)),
+             qtTrId("count_intervals", count(m_facts->intervals)));
+}
+
+QString DataSettings::lastBackupText() const {
+    if (!m_facts)
+        return {};
+    if (m_backups.rows().empty())
+        return qtTrId("data_no_backup");
+    return qtTrId("data_last_backup").arg(m_backups.whenText(m_backups.rows().front().file));
+}
+
+bool DataSettings::isWorking() const {
+    // That of the day is nobody's to wait for.
+    return m_service.isWorking() && m_service.job() != BackupService::Job::daily;
+}
+
+QString DataSettings::workText() const {
+    if (!isWorking())
+        return {};
+    return m_service.job() == BackupService::Job::restore ? qtTrId("data_restoring")
+                                                          : qtTrId("data_backing_up");
+}
+
+bool DataSettings::canReplace() const {
+    return m_timer.state() != TimerState::running && m_timer.state() != TimerState::paused;
+}
+
+QString DataSettings::eraseWord() const {
+    return qtTrId("erase_word");
+}
+
+QString DataSettings::startNotice() const {
+    switch (m_startState) {
+    case StartState::fine:
+        return {};
+    case StartState::lost:
+        return m_offered ? qtTrId("data_lost_with_backup").arg(m_startProblem, m_backups.whenText(*m_offered))
+                         : qtTrId("data_lost").arg(m_startProblem);
+    case StartState::restored:
+        return qtTrId("data_restored");
+    case StartState::erased:
+        return qtTrId("data_erased");
+    case StartState::refused:
+        return qtTrId("data_not_replaced").arg(m_startProblem);
+    }
+    return {};
+}
+
+QString DataSettings::startAction() const {
+    return m_offered ? qtTrId("data_restore_button") : QString();
+}
+
+bool DataSettings::isStartNoticeProblem() const {
+    return m_startState == StartState::lost || m_startState == StartState::refused;
+}
+
+void DataSettings::refresh() {
+    if (storeFile().isEmpty())
+        return;
+    if (m_reading.isRunning()) {
+        m_isReadAgain = true;
+        return;
+    }
+    m_reading.start([this, file = storeFile(), folder = m_service.folder()] {
+        Read read;
+        auto facts = readStoreFacts(file);
+        if (const auto* held = std::get_if<StoreFacts>(&facts))
+            read.store = *held;
+        for (const BackupFile& backup : folder.files())
+            read.backups.push_back({.file = backup, .facts = readStoreFacts(backup.path)});
+        return [this, read = std::move(read)] { takeRead(read); };
+    });
+}
+
+void DataSettings::takeRead(Read read) {
+    m_facts = read.store;
+    m_backups.setRows(std::move(read.backups));
+    Q_EMIT factsChanged();
+    if (std::exchange(m_isReadAgain, false))
+        refresh();
+}
+
+void DataSettings::backUpNow() {
+    if (m_service.backUpNow())
+        dismissNotice();
+    else
+        say(qtTrId("data_busy"), true);
+}
+
+QString DataSettings::restoreQuestion(int row) const {
+    if (row < 0 || row >= m_backups.count())
+        return {};
+    const BackupListModel::Row& chosen = m_backups.rows()[static_cast<size_t>(row)];
+    const auto* const facts = std::get_if<StoreFacts>(&chosen.facts);
+    return qtTrId("restore_message")
+        .arg(m_backups.whenText(chosen.file), facts != nullptr ? contentsText(*facts) : QString());
+}
+
+void DataSettings::restore(int row) {
+    if (row >= 0 && row < m_backups.count())
+        restoreFile(m_backups.rows()[static_cast<size_t>(row)].file.path);
+}
+
+void DataSettings::act() {
+    if (m_offered)
+        restoreFile(m_offered->path);
+}
+
+void DataSettings::restoreFile(const QString& file) {
+    if (!canReplace())
+        say(qtTrId("data_refused_session"), true);
+    else if (m_service.prepareRestore(file))
+        dismissNotice();
+    else
+        say(qtTrId("data_busy"), true);
+}
+
+void DataSettings::handleFinished(const BackupService::Result& result) {
+    switch (result.job) {
+    case BackupService::Job::daily:
+        if (result.failure)
+            say(qtTrId("data_daily_failed").arg(result.failure->description), true);
+        break;
+    case BackupService::Job::manual:
+        if (result.failure)
+            say(qtTrId("data_backup_failed").arg(result.failure->description), true);
+        else
+            say(qtTrId("data_backup_made").arg(QFileInfo(result.file).fileName()), false);
+        break;
+    case BackupService::Job::restore:
+        if (result.failure) {
+            say(qtTrId("data_restore_failed").arg(result.failure->description), true);
+        } else if (canReplace()) {
+            Q_EMIT restartWanted();
+        } else {
+            // A phase was begun meanwhile, and nobody restarts under it.
+            cancelReplacement(storeFile());
+            say(qtTrId("data_refused_session"), true);
+        }
+        break;
+    }
+    if (!result.file.isEmpty())
+        refresh();
+}
+
+void DataSettings::dismissStartNotice() {
+    m_startState = StartState::fine;
+    m_offered.reset();
+    Q_EMIT startNoticeChanged();
+}
+
+void DataSettings::dismissNotice() {
+    say({}, false);
+}
+
+void DataSettings::say(const QString& notice, bool isProblem) {
+    m_notice = notice;
+    m_isNoticeProblem = isProblem;
+    Q_EMIT noticeChanged();
+}
+
+bool DataSettings::isEraseWord(const QString& text) const {
+    return text.trimmed().compare(eraseWord(), Qt::CaseInsensitive) == 0;
+}
+
+void DataSettings::erase(const QString& typed, bool settings, bool backups) {
+    if (!isEraseWord(typed) || storeFile().isEmpty())
+        return;
+    if (!canReplace() || m_service.isWorking()) {
+        say(canReplace() ? qtTrId("data_busy") : qtTrId("data_refused_session"), true);
+        return;
+    }
+    const auto failure = prepareErase(storeFile(), backups ? ErasedBackups::removed : ErasedBackups::kept);
+    if (failure) {
+        say(qtTrId("data_erase_failed").arg(failure->description), true);
+        return;
+    }
+    if (settings)
+        clearPreferences();
+    Q_EMIT restartWanted();
+}
+
+void DataSettings::clearPreferences() {
+    // A trial does not begin anew.
+    QList<std::pair<QString, QVariant>> kept;
+    for (const char* const key : {LicenseService::firstLaunchKey, LicenseService::latestDayKey}) {
+        if (const auto value = m_preferences.value(QLatin1String(key)))
+            kept.append({QLatin1String(key), *value});
+    }
+    m_preferences.clear();
+    for (const auto& [key, value] : std::as_const(kept))
+        m_preferences.setValue(key, value);
+}
+
+void DataSettings::retranslate(const QLocale& locale) {
+    m_locale = locale;
+    m_backups.retranslate(locale);
+    // How something ended was said in the language of before.
+    dismissNotice();
+    Q_EMIT languageChanged();
+    Q_EMIT factsChanged();
+    Q_EMIT workChanged();
+    Q_EMIT startNoticeChanged();
+}
+
+std::optional<BackupFile> DataSettings::newestBackup() const {
+    const QList<BackupFile> all = m_service.folder().files();
+    if (all.isEmpty())
+        return {};
+    return all.constFirst();
+}
+
+} // namespace norvin
