@@ -59,6 +59,10 @@
         <source></source>
         <translation>Stop the session</translation>
     </message>
+    <message id="action_toggle_floating_timer">
+        <source></source>
+        <translation>Floating timer on or off</translation>
+    </message>
     <message id="active_task_next">
         <source></source>
         <translation>First up: %1</translation>
@@ -139,6 +143,102 @@
         <source></source>
         <translation>Stay focused</translation>
     </message>
+    <message id="ambience_air_tones">
+        <source></source>
+        <translation>Air tones</translation>
+    </message>
+    <message id="ambience_brown_noise">
+        <source></source>
+        <translation>Brown noise</translation>
+    </message>
+    <message id="ambience_category_focus">
+        <source></source>
+        <translation>Focus</translation>
+    </message>
+    <message id="ambience_category_label">
+        <source></source>
+        <translation>Kind of sound</translation>
+    </message>
+    <message id="ambience_category_nature">
+        <source></source>
+        <translation>Nature</translation>
+    </message>
+    <message id="ambience_category_noise">
+        <source></source>
+        <translation>Noise</translation>
+    </message>
+    <message id="ambience_fan">
+        <source></source>
+        <translation>Fan</translation>
+    </message>
+    <message id="ambience_fire">
+        <source></source>
+        <translation>Fire</translation>
+    </message>
+    <message id="ambience_grey_noise">
+        <source></source>
+        <translation>Grey noise</translation>
+    </message>
+    <message id="ambience_low_drone">
+        <source></source>
+        <translation>Low drone</translation>
+    </message>
+    <message id="ambience_none">
+        <source></source>
+        <translation>No sound</translation>
+    </message>
+    <message id="ambience_pink_noise">
+        <source></source>
+        <translation>Pink noise</translation>
+    </message>
+    <message id="ambience_play_button">
+        <source></source>
+        <translation>Listen</translation>
+    </message>
+    <message id="ambience_rain">
+        <source></source>
+        <translation>Rain</translation>
+    </message>
+    <message id="ambience_singing_bowls">
+        <source></source>
+        <translation>Singing bowls</translation>
+    </message>
+    <message id="ambience_soft_pads">
+        <source></source>
+        <translation>Soft pads</translation>
+    </message>
+    <message id="ambience_stop_button">
+        <source></source>
+        <translation>Stop listening</translation>
+    </message>
+    <message id="ambience_stream">
+        <source></source>
+        <translation>Stream</translation>
+    </message>
+    <message id="ambience_subtitle">
+        <source></source>
+        <translation>Fades in with a work phase; breaks are silent</translation>
+    </message>
+    <message id="ambience_title">
+        <source></source>
+        <translation>Ambient sound</translation>
+    </message>
+    <message id="ambience_volume">
+        <source></source>
+        <translation>Volume of the ambient sound</translation>
+    </message>
+    <message id="ambience_waves">
+        <source></source>
+        <translation>Waves</translation>
+    </message>
+    <message id="ambience_white_noise">
+        <source></source>
+        <translation>White noise</translation>
+    </message>
+    <message id="ambience_wind">
+        <source></source>
+        <translation>Wind</translation>
+    </message>
     <message id="another_work_button">
         <source></source>
         <translation>Another work phase</translation>
@@ -198,6 +298,14 @@
         <source></source>
         <translation>Only files on this computer can be attached.</translation>
     </message>
+    <message id="autostart_hint">
+        <source></source>
+        <translation>Without a window, ready for the first session.</translation>
+    </message>
+    <message id="autostart_label">
+        <source></source>
+        <translation>Start when I log in</translation>
+    </message>
     <message id="autostart_no_portal">
         <source></source>
         <translation>This desktop does not let sandboxed programs start at login.</translation>
@@ -217,6 +325,46 @@
     <message id="autostart_unwritable_remedy">
         <source></source>
         <translation>Make sure that you may write to the folder “autostart” of your settings.</translation>
+    </message>
+    <message id="backup_contents_empty">
+        <source></source>
+        <translation>nothing in it</translation>
+    </message>
+    <message id="backup_date_pattern">
+        <source></source>
+        <translation>d MMMM yyyy</translation>
+    </message>
+    <message id="backup_kind_before_restore">
+        <source></source>
+        <translation>before a restore</translation>
+    </message>
+    <message id="backup_kind_daily">
+        <source></source>
+        <translation>daily</translation>
+    </message>
+    <message id="backup_kind_manual">
+        <source></source>
+        <translation>made by you</translation>
+    </message>
+    <message id="backup_now_button">
+        <source></source>
+        <translation>Back up now</translation>
+    </message>
+    <message id="backup_unreadable">
+        <source></source>
+        <translation>This file is damaged and cannot be restored.</translation>
+    </message>
+    <message id="backup_when">
+        <source></source>
+        <translation>%1, %2</translation>
+    </message>
+    <message id="backups_text">
+        <source></source>
+        <translation>While the program runs, it makes a copy once a day and keeps it for 14 days. Copies that you make yourself stay until you delete them.</translation>
+    </message>
+    <message id="backups_title">
+        <source></source>
+        <translation>Backups</translation>
     </message>
     <message id="balance_label">
         <source></source>
@@ -711,6 +859,94 @@
         <source></source>
         <translation>Objectives of the day</translation>
     </message>
+    <message id="data_backing_up">
+        <source></source>
+        <translation>Making and checking the backup…</translation>
+    </message>
+    <message id="data_backup_failed">
+        <source></source>
+        <translation>The backup could not be made, and nothing has changed. %1</translation>
+    </message>
+    <message id="data_backup_made">
+        <source></source>
+        <translation>The backup was made and checked: %1</translation>
+    </message>
+    <message id="data_busy">
+        <source></source>
+        <translation>Something else is being copied. Try again in a moment.</translation>
+    </message>
+    <message id="data_daily_failed">
+        <source></source>
+        <translation>The backup of the day could not be made; it is tried again in an hour. %1</translation>
+    </message>
+    <message id="data_erase_failed">
+        <source></source>
+        <translation>Nothing was erased. %1</translation>
+    </message>
+    <message id="data_erased">
+        <source></source>
+        <translation>Everything was erased.</translation>
+    </message>
+    <message id="data_last_backup">
+        <source></source>
+        <translation>Last backup: %1</translation>
+    </message>
+    <message id="data_lost">
+        <source></source>
+        <translation>Your data could not be opened, so the program began with an empty store. (%1)</translation>
+    </message>
+    <message id="data_lost_with_backup">
+        <source></source>
+        <translation>Your data could not be opened, so the program began with an empty store. (%1) There is a backup of %2.</translation>
+    </message>
+    <message id="data_no_backup">
+        <source></source>
+        <translation>There is no backup yet.</translation>
+    </message>
+    <message id="data_no_records">
+        <source></source>
+        <translation>No session has been recorded yet.</translation>
+    </message>
+    <message id="data_not_replaced">
+        <source></source>
+        <translation>Your data stays as it was: the change could not be carried out. (%1)</translation>
+    </message>
+    <message id="data_open_folder_button">
+        <source></source>
+        <translation>Open the folder</translation>
+    </message>
+    <message id="data_place_text">
+        <source></source>
+        <translation>Everything is in one file on this computer, and nowhere else.</translation>
+    </message>
+    <message id="data_place_title">
+        <source></source>
+        <translation>Where your data is</translation>
+    </message>
+    <message id="data_records_since">
+        <source></source>
+        <translation>Recording since %1: %2, %3.</translation>
+    </message>
+    <message id="data_refused_session">
+        <source></source>
+        <translation>Not while a phase is under way: end it first.</translation>
+    </message>
+    <message id="data_restore_button">
+        <source></source>
+        <translation>Restore the backup</translation>
+    </message>
+    <message id="data_restore_failed">
+        <source></source>
+        <translation>The backup was not restored, and nothing has changed. %1</translation>
+    </message>
+    <message id="data_restored">
+        <source></source>
+        <translation>The backup is in place. What there was before is among the backups.</translation>
+    </message>
+    <message id="data_restoring">
+        <source></source>
+        <translation>Checking the backup and preparing it…</translation>
+    </message>
     <message id="date_at_time">
         <source></source>
         <translation>%1 at %2</translation>
@@ -817,6 +1053,54 @@
     <message id="enumeration_and">
         <source></source>
         <translation>%1 and %2</translation>
+    </message>
+    <message id="erase_backup_offer">
+        <source></source>
+        <translation>You may want a backup before.</translation>
+    </message>
+    <message id="erase_backups_hint">
+        <source></source>
+        <translation>Without them there is no way back.</translation>
+    </message>
+    <message id="erase_backups_label">
+        <source></source>
+        <translation>Backups too</translation>
+    </message>
+    <message id="erase_button">
+        <source></source>
+        <translation>Erase and restart</translation>
+    </message>
+    <message id="erase_message">
+        <source></source>
+        <translation>All projects, tasks, links to files, sessions and records of use are deleted from this computer. Your settings, block lists and backups stay unless you say so here. Then the program starts again.</translation>
+    </message>
+    <message id="erase_open_button">
+        <source></source>
+        <translation>Erase everything…</translation>
+    </message>
+    <message id="erase_settings_hint">
+        <source></source>
+        <translation>Language, sounds, your name, and all four lists.</translation>
+    </message>
+    <message id="erase_settings_label">
+        <source></source>
+        <translation>Settings and block lists too</translation>
+    </message>
+    <message id="erase_text">
+        <source></source>
+        <translation>Takes all projects, tasks, sessions and records of use away for good.</translation>
+    </message>
+    <message id="erase_title">
+        <source></source>
+        <translation>Erase everything</translation>
+    </message>
+    <message id="erase_word">
+        <source></source>
+        <translation>erase</translation>
+    </message>
+    <message id="erase_word_label">
+        <source></source>
+        <translation>Type “%1” to confirm</translation>
     </message>
     <message id="explain_application_rule">
         <source></source>
@@ -970,6 +1254,110 @@
         <source></source>
         <translation>The extension is in place. Close the browser and open it again.</translation>
     </message>
+    <message id="feedback_broken">
+        <source></source>
+        <translation>The connection broke off before an answer came. You can send again: the same message is not counted twice.</translation>
+    </message>
+    <message id="feedback_close_button">
+        <source></source>
+        <translation>Close</translation>
+    </message>
+    <message id="feedback_email_label">
+        <source></source>
+        <translation>E-mail address for an answer (optional)</translation>
+    </message>
+    <message id="feedback_email_placeholder">
+        <source></source>
+        <translation>name@example.org</translation>
+    </message>
+    <message id="feedback_email_wrong">
+        <source></source>
+        <translation>This is not an e-mail address.</translation>
+    </message>
+    <message id="feedback_kept">
+        <source></source>
+        <translation>Your text is kept.</translation>
+    </message>
+    <message id="feedback_keys_hint">
+        <source></source>
+        <translation>Ctrl+Enter sends. What you write is kept until it has arrived.</translation>
+    </message>
+    <message id="feedback_kind_idea">
+        <source></source>
+        <translation>Idea</translation>
+    </message>
+    <message id="feedback_kind_label">
+        <source></source>
+        <translation>Kind of feedback</translation>
+    </message>
+    <message id="feedback_kind_praise">
+        <source></source>
+        <translation>Praise</translation>
+    </message>
+    <message id="feedback_kind_problem">
+        <source></source>
+        <translation>Problem</translation>
+    </message>
+    <message id="feedback_not_understood">
+        <source></source>
+        <translation>Something answered that does not take feedback, perhaps the sign-in page of a network.</translation>
+    </message>
+    <message id="feedback_offline">
+        <source></source>
+        <translation>The server could not be reached. Are you online?</translation>
+    </message>
+    <message id="feedback_preview_destination">
+        <source></source>
+        <translation>to %1</translation>
+    </message>
+    <message id="feedback_preview_label">
+        <source></source>
+        <translation>Exactly this is sent</translation>
+    </message>
+    <message id="feedback_redirected">
+        <source></source>
+        <translation>The server pointed elsewhere. Norvin Focus does not follow.</translation>
+    </message>
+    <message id="feedback_refused">
+        <source></source>
+        <translation>The server refused the message (status %1).</translation>
+    </message>
+    <message id="feedback_retry_button">
+        <source></source>
+        <translation>Try again</translation>
+    </message>
+    <message id="feedback_section_text">
+        <source></source>
+        <translation>Tell us what is missing or does not work. You see every word before it is sent.</translation>
+    </message>
+    <message id="feedback_send_button">
+        <source></source>
+        <translation>Send</translation>
+    </message>
+    <message id="feedback_sending">
+        <source></source>
+        <translation>Sending…</translation>
+    </message>
+    <message id="feedback_text_placeholder">
+        <source></source>
+        <translation>What would you like to tell us?</translation>
+    </message>
+    <message id="feedback_thanks">
+        <source></source>
+        <translation>Thank you! Your message has arrived.</translation>
+    </message>
+    <message id="feedback_timed_out">
+        <source></source>
+        <translation>The server did not answer in time.</translation>
+    </message>
+    <message id="feedback_title">
+        <source></source>
+        <translation>Send feedback</translation>
+    </message>
+    <message id="feedback_untrusted">
+        <source></source>
+        <translation>The server could not prove who it is, so nothing was sent.</translation>
+    </message>
     <message id="file_open_button">
         <source></source>
         <translation>Open</translation>
@@ -977,6 +1365,30 @@
     <message id="file_save_button">
         <source></source>
         <translation>Save</translation>
+    </message>
+    <message id="floating_timer">
+        <source></source>
+        <translation>Floating timer</translation>
+    </message>
+    <message id="floating_timer_close">
+        <source></source>
+        <translation>Switch the floating timer off</translation>
+    </message>
+    <message id="floating_timer_hint">
+        <source></source>
+        <translation>A small window keeps the time in view while the main window is not in front.</translation>
+    </message>
+    <message id="floating_timer_move">
+        <source></source>
+        <translation>Move the floating timer with the arrow keys</translation>
+    </message>
+    <message id="floating_timer_switch">
+        <source></source>
+        <translation>Floating timer</translation>
+    </message>
+    <message id="floating_timer_unavailable">
+        <source></source>
+        <translation>This desktop lets no window stay over all others.</translation>
     </message>
     <message id="free_session">
         <source></source>
@@ -1150,6 +1562,14 @@
         <source></source>
         <translation>Install a sound theme, for instance the package sound-theme-freedesktop.</translation>
     </message>
+    <message id="health_no_tray">
+        <source></source>
+        <translation>No bar of this desktop shows a tray, so the item with the time is missing. This is no fault where the desktop has none.</translation>
+    </message>
+    <message id="health_no_tray_remedy">
+        <source></source>
+        <translation>Open the timer panel from the window’s menu. On GNOME, the AppIndicator extension adds a tray.</translation>
+    </message>
     <message id="health_no_window_manager">
         <source></source>
         <translation>The window manager does not say which window is active.</translation>
@@ -1232,6 +1652,10 @@
     <message id="health_title">
         <source></source>
         <translation>Tracking health</translation>
+    </message>
+    <message id="health_tray">
+        <source></source>
+        <translation>Item in the desktop’s tray</translation>
     </message>
     <message id="health_wayland_idle">
         <source></source>
@@ -1337,6 +1761,18 @@
         <source></source>
         <translation>Days of the week</translation>
     </message>
+    <message id="immersion_off">
+        <source></source>
+        <translation>Off</translation>
+    </message>
+    <message id="immersion_reduced_motion">
+        <source></source>
+        <translation>Your desktop asks for less motion: the window only deepens in colour.</translation>
+    </message>
+    <message id="immersion_title">
+        <source></source>
+        <translation>Immersion</translation>
+    </message>
     <message id="import_add_button">
         <source></source>
         <translation>Add to the lists</translation>
@@ -1387,9 +1823,21 @@
         <source></source>
         <translation>Import %1?</translation>
     </message>
+    <message id="inactivity_hint">
+        <source></source>
+        <translation>While keyboard and pointer rest during a work phase, the session says that you are inactive.</translation>
+    </message>
     <message id="inactivity_notice">
         <source></source>
         <translation>Keyboard and pointer have been still for a while. Inactive in this session: %1.</translation>
+    </message>
+    <message id="inactivity_switch">
+        <source></source>
+        <translation>Notice when I am away</translation>
+    </message>
+    <message id="inactivity_threshold_label">
+        <source></source>
+        <translation>Away after</translation>
     </message>
     <message id="kpi_apps">
         <source></source>
@@ -1464,6 +1912,101 @@
     <message id="length_minutes">
         <source></source>
         <translation>%1 min</translation>
+    </message>
+    <message id="licence_all_filter">
+        <source></source>
+        <translation>All files</translation>
+    </message>
+    <message id="licence_bad_signature">
+        <source></source>
+        <translation>This licence has been changed or damaged: its signature does not fit.</translation>
+    </message>
+    <message id="licence_choose_button">
+        <source></source>
+        <translation>Choose a file…</translation>
+    </message>
+    <message id="licence_choose_title">
+        <source></source>
+        <translation>Choose a licence</translation>
+    </message>
+    <message id="licence_closed_explanation">
+        <source></source>
+        <translation>New sessions need a licence. What you have recorded can always be read and exported. A licence is verified on this computer; nobody is asked.</translation>
+    </message>
+    <message id="licence_ended">
+        <source></source>
+        <translation>The licence of %1 ended on %2.</translation>
+    </message>
+    <message id="licence_enter_button">
+        <source></source>
+        <translation>Enter a licence</translation>
+    </message>
+    <message id="licence_file_filter">
+        <source></source>
+        <translation>Licences</translation>
+    </message>
+    <message id="licence_free">
+        <source></source>
+        <translation>This copy of Norvin Focus is free to use and needs no licence.</translation>
+    </message>
+    <message id="licence_install_button">
+        <source></source>
+        <translation>Use this licence</translation>
+    </message>
+    <message id="licence_invalid">
+        <source></source>
+        <translation>The licence on this computer cannot be used.</translation>
+    </message>
+    <message id="licence_licensed">
+        <source></source>
+        <translation>Licensed to %1</translation>
+    </message>
+    <message id="licence_not_written">
+        <source></source>
+        <translation>The licence could not be stored. Is the disk full?</translation>
+    </message>
+    <message id="licence_other_product">
+        <source></source>
+        <translation>This licence is for another product.</translation>
+    </message>
+    <message id="licence_over">
+        <source></source>
+        <translation>This licence is over.</translation>
+    </message>
+    <message id="licence_paste_button">
+        <source></source>
+        <translation>Paste a licence…</translation>
+    </message>
+    <message id="licence_paste_placeholder">
+        <source></source>
+        <translation>Paste the whole licence here, from “product” to the end of the signature.</translation>
+    </message>
+    <message id="licence_trial_days" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Trial: %n day left</numerusform>
+            <numerusform>Trial: %n days left</numerusform>
+        </translation>
+    </message>
+    <message id="licence_trial_explanation">
+        <source></source>
+        <translation>After the trial, new sessions need a licence. What you have recorded can always be read and exported. A licence is verified on this computer; nobody is asked.</translation>
+    </message>
+    <message id="licence_trial_over">
+        <source></source>
+        <translation>The trial is over.</translation>
+    </message>
+    <message id="licence_unreadable">
+        <source></source>
+        <translation>This is not a licence of Norvin Focus.</translation>
+    </message>
+    <message id="licence_until">
+        <source></source>
+        <translation>Valid until %1.</translation>
+    </message>
+    <message id="licence_without_end">
+        <source></source>
+        <translation>Valid without end.</translation>
     </message>
     <message id="list_blocked">
         <source></source>
@@ -1705,6 +2248,18 @@
     <message id="palette_results">
         <source></source>
         <translation>Results</translation>
+    </message>
+    <message id="panel_open_window">
+        <source></source>
+        <translation>Open Norvin Focus</translation>
+    </message>
+    <message id="panel_task_placeholder">
+        <source></source>
+        <translation>Add a task</translation>
+    </message>
+    <message id="panel_title">
+        <source></source>
+        <translation>Timer panel</translation>
     </message>
     <message id="pause_button">
         <source></source>
@@ -2055,6 +2610,66 @@
         <source></source>
         <translation>What to plan</translation>
     </message>
+    <message id="preferences_around_title">
+        <source></source>
+        <translation>During a session</translation>
+    </message>
+    <message id="preferences_data_tab">
+        <source></source>
+        <translation>Data</translation>
+    </message>
+    <message id="preferences_feedback_title">
+        <source></source>
+        <translation>Feedback</translation>
+    </message>
+    <message id="preferences_general_tab">
+        <source></source>
+        <translation>General</translation>
+    </message>
+    <message id="preferences_inactivity_title">
+        <source></source>
+        <translation>Inactivity</translation>
+    </message>
+    <message id="preferences_licence_title">
+        <source></source>
+        <translation>Licence</translation>
+    </message>
+    <message id="preferences_lists_button">
+        <source></source>
+        <translation>Open the lists</translation>
+    </message>
+    <message id="preferences_lists_hint">
+        <source></source>
+        <translation>Applications and sites that are blocked or count as work.</translation>
+    </message>
+    <message id="preferences_lists_label">
+        <source></source>
+        <translation>Block lists</translation>
+    </message>
+    <message id="preferences_phases_text">
+        <source></source>
+        <translation>These lengths are fixed. How long a work phase lasts can be chosen anew for each session.</translation>
+    </message>
+    <message id="preferences_phases_title">
+        <source></source>
+        <translation>Phases</translation>
+    </message>
+    <message id="preferences_program_tab">
+        <source></source>
+        <translation>Program</translation>
+    </message>
+    <message id="preferences_session_tab">
+        <source></source>
+        <translation>Sessions</translation>
+    </message>
+    <message id="preferences_sound_tab">
+        <source></source>
+        <translation>Sounds</translation>
+    </message>
+    <message id="preferences_start_title">
+        <source></source>
+        <translation>Start</translation>
+    </message>
     <message id="preferences_subtitle">
         <source></source>
         <translation>What you change here counts at once.</translation>
@@ -2062,6 +2677,14 @@
     <message id="preferences_title">
         <source></source>
         <translation>Preferences</translation>
+    </message>
+    <message id="preferences_updates_title">
+        <source></source>
+        <translation>Updates</translation>
+    </message>
+    <message id="preferences_you_title">
+        <source></source>
+        <translation>You</translation>
     </message>
     <message id="priority_high">
         <source></source>
@@ -2074,6 +2697,18 @@
     <message id="priority_medium">
         <source></source>
         <translation>Medium</translation>
+    </message>
+    <message id="profile_name_hint">
+        <source></source>
+        <translation>The program greets you by it; it stays on this computer.</translation>
+    </message>
+    <message id="profile_name_label">
+        <source></source>
+        <translation>Your name</translation>
+    </message>
+    <message id="profile_name_placeholder">
+        <source></source>
+        <translation>None</translation>
     </message>
     <message id="project_color_label">
         <source></source>
@@ -2303,6 +2938,10 @@
         <source></source>
         <translation>“%1” is no day. Give it as 2025-03-10, today or tomorrow.</translation>
     </message>
+    <message id="refused_licence_over">
+        <source></source>
+        <translation>The licence is over: a new session needs a new one.</translation>
+    </message>
     <message id="refused_no_projects">
         <source></source>
         <translation>No project is called “%1”; there are none yet.</translation>
@@ -2371,6 +3010,10 @@
         <source></source>
         <translation>No task has an id that begins with “%1”.</translation>
     </message>
+    <message id="refused_trial_over">
+        <source></source>
+        <translation>The trial is over: a new session needs a licence.</translation>
+    </message>
     <message id="resource_missing">
         <source></source>
         <translation>The file is missing</translation>
@@ -2410,6 +3053,22 @@
     <message id="resources_title">
         <source></source>
         <translation>Files</translation>
+    </message>
+    <message id="restore_button">
+        <source></source>
+        <translation>Restore and restart</translation>
+    </message>
+    <message id="restore_message">
+        <source></source>
+        <translation>Everything becomes as it was on %1 (%2). What there is now is backed up first, so that you can come back to it. The program starts again.</translation>
+    </message>
+    <message id="restore_open_button">
+        <source></source>
+        <translation>Restore…</translation>
+    </message>
+    <message id="restore_title">
+        <source></source>
+        <translation>Restore this backup?</translation>
     </message>
     <message id="resume_button">
         <source></source>
@@ -3223,6 +3882,21 @@
         <source></source>
         <translation>Tomorrow</translation>
     </message>
+    <message id="tray_paused">
+        <source></source>
+        <translation>Paused with %1 left</translation>
+    </message>
+    <message id="tray_show_window">
+        <source></source>
+        <translation>Show the window</translation>
+    </message>
+    <message id="tray_time_left" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>%n minute left, until %1</numerusform>
+            <numerusform>%n minutes left, until %1</numerusform>
+        </translation>
+    </message>
     <message id="undo_button">
         <source></source>
         <translation>Undo</translation>
@@ -3277,6 +3951,78 @@
         <source></source>
         <translation>Take off the agenda</translation>
     </message>
+    <message id="update_available">
+        <source></source>
+        <translation>An update of Norvin Focus is available.</translation>
+    </message>
+    <message id="update_available_version">
+        <source></source>
+        <translation>Norvin Focus %1 is available.</translation>
+    </message>
+    <message id="update_checking">
+        <source></source>
+        <translation>Looking for updates…</translation>
+    </message>
+    <message id="update_explanation">
+        <source></source>
+        <translation>The software service of your computer is asked, and only when you ask it. Norvin Focus itself downloads nothing.</translation>
+    </message>
+    <message id="update_failed">
+        <source></source>
+        <translation>The look for updates failed: %1</translation>
+    </message>
+    <message id="update_installed">
+        <source></source>
+        <translation>An update is in place. It is used the next time you start Norvin Focus.</translation>
+    </message>
+    <message id="update_no_packagekit">
+        <source></source>
+        <translation>The software service PackageKit is not there.</translation>
+    </message>
+    <message id="update_no_packagekit_remedy">
+        <source></source>
+        <translation>Install the package packagekit, or update Norvin Focus with the tool that installed it.</translation>
+    </message>
+    <message id="update_none_announced">
+        <source></source>
+        <translation>No update has been announced. If one is while Norvin Focus runs, you will read it here.</translation>
+    </message>
+    <message id="update_not_checked">
+        <source></source>
+        <translation>No look for updates since the start.</translation>
+    </message>
+    <message id="update_open_centre_button">
+        <source></source>
+        <translation>Open software centre</translation>
+    </message>
+    <message id="update_portal_missing">
+        <source></source>
+        <translation>The Flatpak portal of this desktop does not answer.</translation>
+    </message>
+    <message id="update_source_build">
+        <source></source>
+        <translation>This Norvin Focus does not come from a package.</translation>
+    </message>
+    <message id="update_source_build_remedy">
+        <source></source>
+        <translation>Update it where you got it from. Installed from a package or a Flatpak, it looks for updates here.</translation>
+    </message>
+    <message id="update_timed_out">
+        <source></source>
+        <translation>The software service of this computer did not answer in time. Try again in a few minutes.</translation>
+    </message>
+    <message id="update_unknown_package">
+        <source></source>
+        <translation>The software sources of this computer do not know Norvin Focus.</translation>
+    </message>
+    <message id="update_up_to_date">
+        <source></source>
+        <translation>Norvin Focus is up to date.</translation>
+    </message>
+    <message id="update_version">
+        <source></source>
+        <translation>Norvin Focus %1</translation>
+    </message>
     <message id="verdict_blocked">
         <source></source>
         <translation>Matches “%1” on the blocked list. The tab is closed.</translation>
@@ -3324,6 +4070,18 @@
     <message id="verdict_whitelisted">
         <source></source>
         <translation>Matches “%1” on the whitelist.</translation>
+    </message>
+    <message id="welcome_again_button">
+        <source></source>
+        <translation>Show it again</translation>
+    </message>
+    <message id="welcome_again_hint">
+        <source></source>
+        <translation>Language, what is watched, suggested lists, and a first task.</translation>
+    </message>
+    <message id="welcome_again_label">
+        <source></source>
+        <translation>Welcome</translation>
     </message>
     <message id="whitelisted_count" numerus="yes">
         <source></source>

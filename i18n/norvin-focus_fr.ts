@@ -59,6 +59,10 @@
         <source></source>
         <translation>Arrêter la session</translation>
     </message>
+    <message id="action_toggle_floating_timer">
+        <source></source>
+        <translation>Afficher ou masquer le minuteur flottant</translation>
+    </message>
     <message id="active_task_next">
         <source></source>
         <translation>Pour commencer : %1</translation>
@@ -139,6 +143,102 @@
         <source></source>
         <translation>Gardez le cap</translation>
     </message>
+    <message id="ambience_air_tones">
+        <source></source>
+        <translation>Souffles accordés</translation>
+    </message>
+    <message id="ambience_brown_noise">
+        <source></source>
+        <translation>Bruit brun</translation>
+    </message>
+    <message id="ambience_category_focus">
+        <source></source>
+        <translation>Concentration</translation>
+    </message>
+    <message id="ambience_category_label">
+        <source></source>
+        <translation>Type de son</translation>
+    </message>
+    <message id="ambience_category_nature">
+        <source></source>
+        <translation>Nature</translation>
+    </message>
+    <message id="ambience_category_noise">
+        <source></source>
+        <translation>Bruit</translation>
+    </message>
+    <message id="ambience_fan">
+        <source></source>
+        <translation>Ventilateur</translation>
+    </message>
+    <message id="ambience_fire">
+        <source></source>
+        <translation>Feu de bois</translation>
+    </message>
+    <message id="ambience_grey_noise">
+        <source></source>
+        <translation>Bruit gris</translation>
+    </message>
+    <message id="ambience_low_drone">
+        <source></source>
+        <translation>Bourdon grave</translation>
+    </message>
+    <message id="ambience_none">
+        <source></source>
+        <translation>Aucun son</translation>
+    </message>
+    <message id="ambience_pink_noise">
+        <source></source>
+        <translation>Bruit rose</translation>
+    </message>
+    <message id="ambience_play_button">
+        <source></source>
+        <translation>Écouter</translation>
+    </message>
+    <message id="ambience_rain">
+        <source></source>
+        <translation>Pluie</translation>
+    </message>
+    <message id="ambience_singing_bowls">
+        <source></source>
+        <translation>Bols chantants</translation>
+    </message>
+    <message id="ambience_soft_pads">
+        <source></source>
+        <translation>Nappes douces</translation>
+    </message>
+    <message id="ambience_stop_button">
+        <source></source>
+        <translation>Arrêter l’écoute</translation>
+    </message>
+    <message id="ambience_stream">
+        <source></source>
+        <translation>Ruisseau</translation>
+    </message>
+    <message id="ambience_subtitle">
+        <source></source>
+        <translation>Monte avec la phase de travail, se tait pendant les pauses</translation>
+    </message>
+    <message id="ambience_title">
+        <source></source>
+        <translation>Son d’ambiance</translation>
+    </message>
+    <message id="ambience_volume">
+        <source></source>
+        <translation>Volume du son d’ambiance</translation>
+    </message>
+    <message id="ambience_waves">
+        <source></source>
+        <translation>Vagues</translation>
+    </message>
+    <message id="ambience_white_noise">
+        <source></source>
+        <translation>Bruit blanc</translation>
+    </message>
+    <message id="ambience_wind">
+        <source></source>
+        <translation>Vent</translation>
+    </message>
     <message id="another_work_button">
         <source></source>
         <translation>Nouvelle phase</translation>
@@ -198,6 +298,14 @@
         <source></source>
         <translation>Seuls des fichiers de cet ordinateur peuvent être joints.</translation>
     </message>
+    <message id="autostart_hint">
+        <source></source>
+        <translation>Sans fenêtre, prêt pour la première session.</translation>
+    </message>
+    <message id="autostart_label">
+        <source></source>
+        <translation>Démarrer à l’ouverture de session</translation>
+    </message>
     <message id="autostart_no_portal">
         <source></source>
         <translation>Ce bureau ne laisse pas les programmes isolés démarrer à l’ouverture de session.</translation>
@@ -217,6 +325,46 @@
     <message id="autostart_unwritable_remedy">
         <source></source>
         <translation>Vérifiez que vous avez le droit d’écrire dans le dossier « autostart » de vos réglages.</translation>
+    </message>
+    <message id="backup_contents_empty">
+        <source></source>
+        <translation>vide</translation>
+    </message>
+    <message id="backup_date_pattern">
+        <source></source>
+        <translation>d MMMM yyyy</translation>
+    </message>
+    <message id="backup_kind_before_restore">
+        <source></source>
+        <translation>avant une restauration</translation>
+    </message>
+    <message id="backup_kind_daily">
+        <source></source>
+        <translation>quotidienne</translation>
+    </message>
+    <message id="backup_kind_manual">
+        <source></source>
+        <translation>faite par vous</translation>
+    </message>
+    <message id="backup_now_button">
+        <source></source>
+        <translation>Sauvegarder</translation>
+    </message>
+    <message id="backup_unreadable">
+        <source></source>
+        <translation>Ce fichier est endommagé et ne peut pas être restauré.</translation>
+    </message>
+    <message id="backup_when">
+        <source></source>
+        <translation>%1, %2</translation>
+    </message>
+    <message id="backups_text">
+        <source></source>
+        <translation>Tant que le programme tourne, il fait une copie par jour et la garde 14 jours. Les copies que vous faites vous-même restent jusqu’à ce que vous les supprimiez.</translation>
+    </message>
+    <message id="backups_title">
+        <source></source>
+        <translation>Sauvegardes</translation>
     </message>
     <message id="balance_label">
         <source></source>
@@ -711,6 +859,94 @@
         <source></source>
         <translation>Objectifs du jour</translation>
     </message>
+    <message id="data_backing_up">
+        <source></source>
+        <translation>Copie et vérification de la sauvegarde…</translation>
+    </message>
+    <message id="data_backup_failed">
+        <source></source>
+        <translation>La sauvegarde n’a pas pu être faite, et rien n’a changé. %1</translation>
+    </message>
+    <message id="data_backup_made">
+        <source></source>
+        <translation>La sauvegarde est faite et vérifiée : %1</translation>
+    </message>
+    <message id="data_busy">
+        <source></source>
+        <translation>Une autre copie est en cours. Réessayez dans un moment.</translation>
+    </message>
+    <message id="data_daily_failed">
+        <source></source>
+        <translation>La sauvegarde du jour n’a pas pu être faite ; nouvel essai dans une heure. %1</translation>
+    </message>
+    <message id="data_erase_failed">
+        <source></source>
+        <translation>Rien n’a été effacé. %1</translation>
+    </message>
+    <message id="data_erased">
+        <source></source>
+        <translation>Tout a été effacé.</translation>
+    </message>
+    <message id="data_last_backup">
+        <source></source>
+        <translation>Dernière sauvegarde : %1</translation>
+    </message>
+    <message id="data_lost">
+        <source></source>
+        <translation>Vos données n’ont pas pu être ouvertes, et le programme a commencé avec une base vide. (%1)</translation>
+    </message>
+    <message id="data_lost_with_backup">
+        <source></source>
+        <translation>Vos données n’ont pas pu être ouvertes, et le programme a commencé avec une base vide. (%1) Il y a une sauvegarde du %2.</translation>
+    </message>
+    <message id="data_no_backup">
+        <source></source>
+        <translation>Il n’y a pas encore de sauvegarde.</translation>
+    </message>
+    <message id="data_no_records">
+        <source></source>
+        <translation>Aucune session n’est encore enregistrée.</translation>
+    </message>
+    <message id="data_not_replaced">
+        <source></source>
+        <translation>Vos données restent comme elles étaient : le changement n’a pas pu être fait. (%1)</translation>
+    </message>
+    <message id="data_open_folder_button">
+        <source></source>
+        <translation>Ouvrir le dossier</translation>
+    </message>
+    <message id="data_place_text">
+        <source></source>
+        <translation>Tout est dans un seul fichier sur cet ordinateur, et nulle part ailleurs.</translation>
+    </message>
+    <message id="data_place_title">
+        <source></source>
+        <translation>Où sont vos données</translation>
+    </message>
+    <message id="data_records_since">
+        <source></source>
+        <translation>Enregistrement depuis le %1 : %2, %3.</translation>
+    </message>
+    <message id="data_refused_session">
+        <source></source>
+        <translation>Pas pendant une phase : terminez-la d’abord.</translation>
+    </message>
+    <message id="data_restore_button">
+        <source></source>
+        <translation>Restaurer la sauvegarde</translation>
+    </message>
+    <message id="data_restore_failed">
+        <source></source>
+        <translation>La sauvegarde n’a pas été restaurée, et rien n’a changé. %1</translation>
+    </message>
+    <message id="data_restored">
+        <source></source>
+        <translation>La sauvegarde est en place. Ce qu’il y avait avant est parmi les sauvegardes.</translation>
+    </message>
+    <message id="data_restoring">
+        <source></source>
+        <translation>Vérification et préparation de la sauvegarde…</translation>
+    </message>
     <message id="date_at_time">
         <source></source>
         <translation>%1 à %2</translation>
@@ -817,6 +1053,54 @@
     <message id="enumeration_and">
         <source></source>
         <translation>%1 et %2</translation>
+    </message>
+    <message id="erase_backup_offer">
+        <source></source>
+        <translation>Une sauvegarde avant peut être utile.</translation>
+    </message>
+    <message id="erase_backups_hint">
+        <source></source>
+        <translation>Sans elles, aucun retour n’est possible.</translation>
+    </message>
+    <message id="erase_backups_label">
+        <source></source>
+        <translation>Aussi les sauvegardes</translation>
+    </message>
+    <message id="erase_button">
+        <source></source>
+        <translation>Effacer et redémarrer</translation>
+    </message>
+    <message id="erase_message">
+        <source></source>
+        <translation>Tous les projets, les tâches, les liens vers leurs fichiers, les sessions et les relevés d’usage sont supprimés de cet ordinateur. Vos réglages, vos listes et vos sauvegardes restent, sauf si vous le demandez ici. Le programme redémarre ensuite.</translation>
+    </message>
+    <message id="erase_open_button">
+        <source></source>
+        <translation>Tout effacer…</translation>
+    </message>
+    <message id="erase_settings_hint">
+        <source></source>
+        <translation>Langue, sons, votre nom, et les quatre listes de blocage.</translation>
+    </message>
+    <message id="erase_settings_label">
+        <source></source>
+        <translation>Aussi les réglages et les listes</translation>
+    </message>
+    <message id="erase_text">
+        <source></source>
+        <translation>Supprime définitivement tous les projets, tâches, sessions et relevés d’usage.</translation>
+    </message>
+    <message id="erase_title">
+        <source></source>
+        <translation>Tout effacer</translation>
+    </message>
+    <message id="erase_word">
+        <source></source>
+        <translation>effacer</translation>
+    </message>
+    <message id="erase_word_label">
+        <source></source>
+        <translation>Tapez « %1 » pour confirmer</translation>
     </message>
     <message id="explain_application_rule">
         <source></source>
@@ -970,6 +1254,110 @@
         <source></source>
         <translation>L’extension est en place. Fermez le navigateur, puis rouvrez-le.</translation>
     </message>
+    <message id="feedback_broken">
+        <source></source>
+        <translation>La connexion s’est rompue avant la réponse. Vous pouvez renvoyer : le même message n’est pas compté deux fois.</translation>
+    </message>
+    <message id="feedback_close_button">
+        <source></source>
+        <translation>Fermer</translation>
+    </message>
+    <message id="feedback_email_label">
+        <source></source>
+        <translation>Adresse e-mail pour une réponse (facultative)</translation>
+    </message>
+    <message id="feedback_email_placeholder">
+        <source></source>
+        <translation>nom@example.org</translation>
+    </message>
+    <message id="feedback_email_wrong">
+        <source></source>
+        <translation>Ce n’est pas une adresse e-mail.</translation>
+    </message>
+    <message id="feedback_kept">
+        <source></source>
+        <translation>Votre texte est gardé.</translation>
+    </message>
+    <message id="feedback_keys_hint">
+        <source></source>
+        <translation>Ctrl+Entrée envoie. Ce que vous écrivez est gardé jusqu’à son arrivée.</translation>
+    </message>
+    <message id="feedback_kind_idea">
+        <source></source>
+        <translation>Idée</translation>
+    </message>
+    <message id="feedback_kind_label">
+        <source></source>
+        <translation>Nature de l’avis</translation>
+    </message>
+    <message id="feedback_kind_praise">
+        <source></source>
+        <translation>Compliment</translation>
+    </message>
+    <message id="feedback_kind_problem">
+        <source></source>
+        <translation>Problème</translation>
+    </message>
+    <message id="feedback_not_understood">
+        <source></source>
+        <translation>La réponse ne vient pas d’un service d’avis, mais peut-être de la page de connexion d’un réseau.</translation>
+    </message>
+    <message id="feedback_offline">
+        <source></source>
+        <translation>Le serveur n’a pas pu être joint. Êtes-vous en ligne ?</translation>
+    </message>
+    <message id="feedback_preview_destination">
+        <source></source>
+        <translation>à %1</translation>
+    </message>
+    <message id="feedback_preview_label">
+        <source></source>
+        <translation>Voici exactement ce qui est envoyé</translation>
+    </message>
+    <message id="feedback_redirected">
+        <source></source>
+        <translation>Le serveur renvoie ailleurs. Norvin Focus ne suit pas.</translation>
+    </message>
+    <message id="feedback_refused">
+        <source></source>
+        <translation>Le serveur a refusé le message (statut %1).</translation>
+    </message>
+    <message id="feedback_retry_button">
+        <source></source>
+        <translation>Réessayer</translation>
+    </message>
+    <message id="feedback_section_text">
+        <source></source>
+        <translation>Dites-nous ce qui manque ou ne marche pas. Vous voyez chaque mot avant l’envoi.</translation>
+    </message>
+    <message id="feedback_send_button">
+        <source></source>
+        <translation>Envoyer</translation>
+    </message>
+    <message id="feedback_sending">
+        <source></source>
+        <translation>Envoi…</translation>
+    </message>
+    <message id="feedback_text_placeholder">
+        <source></source>
+        <translation>Que souhaitez-vous nous dire ?</translation>
+    </message>
+    <message id="feedback_thanks">
+        <source></source>
+        <translation>Merci ! Votre message est arrivé.</translation>
+    </message>
+    <message id="feedback_timed_out">
+        <source></source>
+        <translation>Le serveur n’a pas répondu à temps.</translation>
+    </message>
+    <message id="feedback_title">
+        <source></source>
+        <translation>Envoyer un avis</translation>
+    </message>
+    <message id="feedback_untrusted">
+        <source></source>
+        <translation>Le serveur n’a pas pu prouver son identité : rien n’a été envoyé.</translation>
+    </message>
     <message id="file_open_button">
         <source></source>
         <translation>Ouvrir</translation>
@@ -977,6 +1365,30 @@
     <message id="file_save_button">
         <source></source>
         <translation>Enregistrer</translation>
+    </message>
+    <message id="floating_timer">
+        <source></source>
+        <translation>Minuteur flottant</translation>
+    </message>
+    <message id="floating_timer_close">
+        <source></source>
+        <translation>Désactiver le minuteur flottant</translation>
+    </message>
+    <message id="floating_timer_hint">
+        <source></source>
+        <translation>Une petite fenêtre garde le temps en vue quand la fenêtre principale n’est pas devant.</translation>
+    </message>
+    <message id="floating_timer_move">
+        <source></source>
+        <translation>Déplacer le minuteur flottant avec les flèches</translation>
+    </message>
+    <message id="floating_timer_switch">
+        <source></source>
+        <translation>Minuteur flottant</translation>
+    </message>
+    <message id="floating_timer_unavailable">
+        <source></source>
+        <translation>Ce bureau ne laisse aucune fenêtre rester devant les autres.</translation>
     </message>
     <message id="free_session">
         <source></source>
@@ -1150,6 +1562,14 @@
         <source></source>
         <translation>Installez un thème de sons, par exemple le paquet sound-theme-freedesktop.</translation>
     </message>
+    <message id="health_no_tray">
+        <source></source>
+        <translation>Aucune barre de ce bureau n’a de zone de notification : l’icône avec le temps n’apparaît donc pas. Ce n’est pas un défaut si le bureau n’en propose pas.</translation>
+    </message>
+    <message id="health_no_tray_remedy">
+        <source></source>
+        <translation>Ouvrez le panneau du minuteur depuis le menu de la fenêtre. Sous GNOME, l’extension AppIndicator ajoute cette zone.</translation>
+    </message>
     <message id="health_no_window_manager">
         <source></source>
         <translation>Le gestionnaire de fenêtres n’indique pas quelle fenêtre est active.</translation>
@@ -1232,6 +1652,10 @@
     <message id="health_title">
         <source></source>
         <translation>État du suivi</translation>
+    </message>
+    <message id="health_tray">
+        <source></source>
+        <translation>Icône dans la zone de notification</translation>
     </message>
     <message id="health_wayland_idle">
         <source></source>
@@ -1337,6 +1761,18 @@
         <source></source>
         <translation>Jours de la semaine</translation>
     </message>
+    <message id="immersion_off">
+        <source></source>
+        <translation>Non</translation>
+    </message>
+    <message id="immersion_reduced_motion">
+        <source></source>
+        <translation>Votre bureau demande moins de mouvement : seule la teinte s’approfondit.</translation>
+    </message>
+    <message id="immersion_title">
+        <source></source>
+        <translation>Immersion</translation>
+    </message>
     <message id="import_add_button">
         <source></source>
         <translation>Ajouter aux listes</translation>
@@ -1387,9 +1823,21 @@
         <source></source>
         <translation>Importer %1 ?</translation>
     </message>
+    <message id="inactivity_hint">
+        <source></source>
+        <translation>Quand le clavier et le pointeur se reposent pendant une phase de travail, la session vous dit inactif.</translation>
+    </message>
     <message id="inactivity_notice">
         <source></source>
         <translation>Clavier et pointeur sont immobiles depuis un moment. Inactivité dans cette session : %1.</translation>
+    </message>
+    <message id="inactivity_switch">
+        <source></source>
+        <translation>Remarquer mes absences</translation>
+    </message>
+    <message id="inactivity_threshold_label">
+        <source></source>
+        <translation>Absent après</translation>
     </message>
     <message id="kpi_apps">
         <source></source>
@@ -1464,6 +1912,101 @@
     <message id="length_minutes">
         <source></source>
         <translation>%1 min</translation>
+    </message>
+    <message id="licence_all_filter">
+        <source></source>
+        <translation>Tous les fichiers</translation>
+    </message>
+    <message id="licence_bad_signature">
+        <source></source>
+        <translation>Cette licence a été modifiée ou abîmée : sa signature ne correspond pas.</translation>
+    </message>
+    <message id="licence_choose_button">
+        <source></source>
+        <translation>Choisir un fichier…</translation>
+    </message>
+    <message id="licence_choose_title">
+        <source></source>
+        <translation>Choisir une licence</translation>
+    </message>
+    <message id="licence_closed_explanation">
+        <source></source>
+        <translation>Une licence est nécessaire pour de nouvelles sessions. Vos données restent toujours lisibles et exportables. La licence est vérifiée sur cet ordinateur ; personne n’est interrogé.</translation>
+    </message>
+    <message id="licence_ended">
+        <source></source>
+        <translation>La licence de %1 a pris fin le %2.</translation>
+    </message>
+    <message id="licence_enter_button">
+        <source></source>
+        <translation>Saisir une licence</translation>
+    </message>
+    <message id="licence_file_filter">
+        <source></source>
+        <translation>Licences</translation>
+    </message>
+    <message id="licence_free">
+        <source></source>
+        <translation>Cet exemplaire de Norvin Focus est libre d’utilisation et n’a besoin d’aucune licence.</translation>
+    </message>
+    <message id="licence_install_button">
+        <source></source>
+        <translation>Utiliser cette licence</translation>
+    </message>
+    <message id="licence_invalid">
+        <source></source>
+        <translation>La licence de cet ordinateur n’est pas utilisable.</translation>
+    </message>
+    <message id="licence_licensed">
+        <source></source>
+        <translation>Licence accordée à %1</translation>
+    </message>
+    <message id="licence_not_written">
+        <source></source>
+        <translation>La licence n’a pas pu être enregistrée. Le disque est-il plein ?</translation>
+    </message>
+    <message id="licence_other_product">
+        <source></source>
+        <translation>Cette licence est celle d’un autre produit.</translation>
+    </message>
+    <message id="licence_over">
+        <source></source>
+        <translation>Cette licence n’est plus valable.</translation>
+    </message>
+    <message id="licence_paste_button">
+        <source></source>
+        <translation>Coller une licence…</translation>
+    </message>
+    <message id="licence_paste_placeholder">
+        <source></source>
+        <translation>Collez ici toute la licence, de « product » jusqu’à la fin de la signature.</translation>
+    </message>
+    <message id="licence_trial_days" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Essai : encore %n jour</numerusform>
+            <numerusform>Essai : encore %n jours</numerusform>
+        </translation>
+    </message>
+    <message id="licence_trial_explanation">
+        <source></source>
+        <translation>Après l’essai, une licence est nécessaire pour de nouvelles sessions. Vos données restent toujours lisibles et exportables. La licence est vérifiée sur cet ordinateur ; personne n’est interrogé.</translation>
+    </message>
+    <message id="licence_trial_over">
+        <source></source>
+        <translation>L’essai est terminé.</translation>
+    </message>
+    <message id="licence_unreadable">
+        <source></source>
+        <translation>Ce n’est pas une licence de Norvin Focus.</translation>
+    </message>
+    <message id="licence_until">
+        <source></source>
+        <translation>Valable jusqu’au %1.</translation>
+    </message>
+    <message id="licence_without_end">
+        <source></source>
+        <translation>Valable sans limite de durée.</translation>
     </message>
     <message id="list_blocked">
         <source></source>
@@ -1705,6 +2248,18 @@
     <message id="palette_results">
         <source></source>
         <translation>Résultats</translation>
+    </message>
+    <message id="panel_open_window">
+        <source></source>
+        <translation>Ouvrir Norvin Focus</translation>
+    </message>
+    <message id="panel_task_placeholder">
+        <source></source>
+        <translation>Ajouter une tâche</translation>
+    </message>
+    <message id="panel_title">
+        <source></source>
+        <translation>Panneau du minuteur</translation>
     </message>
     <message id="pause_button">
         <source></source>
@@ -2055,6 +2610,66 @@
         <source></source>
         <translation>Que planifier</translation>
     </message>
+    <message id="preferences_around_title">
+        <source></source>
+        <translation>Pendant une session</translation>
+    </message>
+    <message id="preferences_data_tab">
+        <source></source>
+        <translation>Données</translation>
+    </message>
+    <message id="preferences_feedback_title">
+        <source></source>
+        <translation>Vos idées</translation>
+    </message>
+    <message id="preferences_general_tab">
+        <source></source>
+        <translation>Général</translation>
+    </message>
+    <message id="preferences_inactivity_title">
+        <source></source>
+        <translation>Inactivité</translation>
+    </message>
+    <message id="preferences_licence_title">
+        <source></source>
+        <translation>Licence</translation>
+    </message>
+    <message id="preferences_lists_button">
+        <source></source>
+        <translation>Ouvrir les listes</translation>
+    </message>
+    <message id="preferences_lists_hint">
+        <source></source>
+        <translation>Applications et sites bloqués, ou comptés comme travail.</translation>
+    </message>
+    <message id="preferences_lists_label">
+        <source></source>
+        <translation>Listes de blocage</translation>
+    </message>
+    <message id="preferences_phases_text">
+        <source></source>
+        <translation>Ces durées sont fixes. Celle d’une phase de travail peut être choisie à chaque session.</translation>
+    </message>
+    <message id="preferences_phases_title">
+        <source></source>
+        <translation>Phases</translation>
+    </message>
+    <message id="preferences_program_tab">
+        <source></source>
+        <translation>Programme</translation>
+    </message>
+    <message id="preferences_session_tab">
+        <source></source>
+        <translation>Sessions</translation>
+    </message>
+    <message id="preferences_sound_tab">
+        <source></source>
+        <translation>Sons</translation>
+    </message>
+    <message id="preferences_start_title">
+        <source></source>
+        <translation>Démarrage</translation>
+    </message>
     <message id="preferences_subtitle">
         <source></source>
         <translation>Ce que vous changez ici compte aussitôt.</translation>
@@ -2062,6 +2677,14 @@
     <message id="preferences_title">
         <source></source>
         <translation>Préférences</translation>
+    </message>
+    <message id="preferences_updates_title">
+        <source></source>
+        <translation>Mises à jour</translation>
+    </message>
+    <message id="preferences_you_title">
+        <source></source>
+        <translation>Vous</translation>
     </message>
     <message id="priority_high">
         <source></source>
@@ -2074,6 +2697,18 @@
     <message id="priority_medium">
         <source></source>
         <translation>Moyenne</translation>
+    </message>
+    <message id="profile_name_hint">
+        <source></source>
+        <translation>Le programme vous salue par ce nom ; il reste sur cet ordinateur.</translation>
+    </message>
+    <message id="profile_name_label">
+        <source></source>
+        <translation>Votre nom</translation>
+    </message>
+    <message id="profile_name_placeholder">
+        <source></source>
+        <translation>Aucun</translation>
     </message>
     <message id="project_color_label">
         <source></source>
@@ -2303,6 +2938,10 @@
         <source></source>
         <translation>« %1 » n’est pas un jour. Indiquez-le comme 2025-03-10, today ou tomorrow.</translation>
     </message>
+    <message id="refused_licence_over">
+        <source></source>
+        <translation>La licence n’est plus valable : une nouvelle session en demande une autre.</translation>
+    </message>
     <message id="refused_no_projects">
         <source></source>
         <translation>Aucun projet ne s’appelle « %1 » ; il n’y en a pas encore.</translation>
@@ -2371,6 +3010,10 @@
         <source></source>
         <translation>Aucune tâche n’a d’identifiant commençant par « %1 ».</translation>
     </message>
+    <message id="refused_trial_over">
+        <source></source>
+        <translation>L’essai est terminé : une nouvelle session demande une licence.</translation>
+    </message>
     <message id="resource_missing">
         <source></source>
         <translation>Le fichier est introuvable</translation>
@@ -2410,6 +3053,22 @@
     <message id="resources_title">
         <source></source>
         <translation>Fichiers</translation>
+    </message>
+    <message id="restore_button">
+        <source></source>
+        <translation>Restaurer et redémarrer</translation>
+    </message>
+    <message id="restore_message">
+        <source></source>
+        <translation>Tout redevient comme le %1 (%2). Ce qu’il y a maintenant est d’abord sauvegardé, pour que vous puissiez y revenir. Le programme redémarre.</translation>
+    </message>
+    <message id="restore_open_button">
+        <source></source>
+        <translation>Restaurer…</translation>
+    </message>
+    <message id="restore_title">
+        <source></source>
+        <translation>Restaurer cette sauvegarde ?</translation>
     </message>
     <message id="resume_button">
         <source></source>
@@ -3223,6 +3882,21 @@
         <source></source>
         <translation>Demain</translation>
     </message>
+    <message id="tray_paused">
+        <source></source>
+        <translation>En pause, reste %1</translation>
+    </message>
+    <message id="tray_show_window">
+        <source></source>
+        <translation>Afficher la fenêtre</translation>
+    </message>
+    <message id="tray_time_left" numerus="yes">
+        <source></source>
+        <translation>
+            <numerusform>Encore %n minute, jusqu’à %1</numerusform>
+            <numerusform>Encore %n minutes, jusqu’à %1</numerusform>
+        </translation>
+    </message>
     <message id="undo_button">
         <source></source>
         <translation>Annuler</translation>
@@ -3277,6 +3951,78 @@
         <source></source>
         <translation>Retirer de l’agenda</translation>
     </message>
+    <message id="update_available">
+        <source></source>
+        <translation>Une mise à jour de Norvin Focus est disponible.</translation>
+    </message>
+    <message id="update_available_version">
+        <source></source>
+        <translation>Norvin Focus %1 est disponible.</translation>
+    </message>
+    <message id="update_checking">
+        <source></source>
+        <translation>Recherche de mises à jour…</translation>
+    </message>
+    <message id="update_explanation">
+        <source></source>
+        <translation>Le service logiciel de votre ordinateur est interrogé, et seulement quand vous le demandez. Norvin Focus lui-même ne télécharge rien.</translation>
+    </message>
+    <message id="update_failed">
+        <source></source>
+        <translation>La recherche de mises à jour a échoué : %1</translation>
+    </message>
+    <message id="update_installed">
+        <source></source>
+        <translation>Une mise à jour est en place. Elle servira au prochain démarrage de Norvin Focus.</translation>
+    </message>
+    <message id="update_no_packagekit">
+        <source></source>
+        <translation>Le service logiciel PackageKit n’est pas là.</translation>
+    </message>
+    <message id="update_no_packagekit_remedy">
+        <source></source>
+        <translation>Installez le paquet packagekit, ou mettez Norvin Focus à jour avec l’outil qui l’a installé.</translation>
+    </message>
+    <message id="update_none_announced">
+        <source></source>
+        <translation>Aucune mise à jour n’a été annoncée. Si cela change pendant que Norvin Focus est ouvert, vous le lirez ici.</translation>
+    </message>
+    <message id="update_not_checked">
+        <source></source>
+        <translation>Aucune recherche de mise à jour depuis le démarrage.</translation>
+    </message>
+    <message id="update_open_centre_button">
+        <source></source>
+        <translation>Ouvrir la logithèque</translation>
+    </message>
+    <message id="update_portal_missing">
+        <source></source>
+        <translation>Le portail Flatpak de ce bureau ne répond pas.</translation>
+    </message>
+    <message id="update_source_build">
+        <source></source>
+        <translation>Ce Norvin Focus ne vient pas d’un paquet.</translation>
+    </message>
+    <message id="update_source_build_remedy">
+        <source></source>
+        <translation>Mettez-le à jour là où vous l’avez obtenu. Installé par un paquet ou un Flatpak, il cherche ses mises à jour ici.</translation>
+    </message>
+    <message id="update_timed_out">
+        <source></source>
+        <translation>Le service logiciel de cet ordinateur n’a pas répondu à temps. Réessayez dans quelques minutes.</translation>
+    </message>
+    <message id="update_unknown_package">
+        <source></source>
+        <translation>Les sources logicielles de cet ordinateur ne connaissent pas Norvin Focus.</translation>
+    </message>
+    <message id="update_up_to_date">
+        <source></source>
+        <translation>Norvin Focus est à jour.</translation>
+    </message>
+    <message id="update_version">
+        <source></source>
+        <translation>Norvin Focus %1</translation>
+    </message>
     <message id="verdict_blocked">
         <source></source>
         <translation>Correspond à « %1 » sur la liste des sites bloqués. L’onglet est fermé.</translation>
@@ -3324,6 +4070,18 @@
     <message id="verdict_whitelisted">
         <source></source>
         <translation>Correspond à « %1 » sur la liste blanche.</translation>
+    </message>
+    <message id="welcome_again_button">
+        <source></source>
+        <translation>Le revoir</translation>
+    </message>
+    <message id="welcome_again_hint">
+        <source></source>
+        <translation>La langue, ce qui est observé, les listes proposées et une première tâche.</translation>
+    </message>
+    <message id="welcome_again_label">
+        <source></source>
+        <translation>Accueil</translation>
     </message>
     <message id="whitelisted_count" numerus="yes">
         <source></source>

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "settings/BackupListModel.h"
+#include "settings/DataSettings.h"
 #include "settings/PreferencesScreen.h"
 
 #include <QQmlEngine>
@@ -13,6 +15,20 @@ struct PreferencesScreenType {
     QML_FOREIGN(norvin::PreferencesScreen)
     QML_NAMED_ELEMENT(PreferencesScreen)
     QML_UNCREATABLE("Handed to the window")
+};
+
+struct DataSettingsType {
+    Q_GADGET
+    QML_FOREIGN(norvin::DataSettings)
+    QML_NAMED_ELEMENT(DataSettings)
+    QML_UNCREATABLE("Belongs to the preferences")
+};
+
+struct BackupListModelType {
+    Q_GADGET
+    QML_FOREIGN(norvin::BackupListModel)
+    QML_NAMED_ELEMENT(BackupListModel)
+    QML_UNCREATABLE("Belongs to the preferences")
 };
 
 } // namespace norvin::qml
