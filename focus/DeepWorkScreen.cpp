@@ -1,11 +1,13 @@
 #include "focus/DeepWorkScreen.h"
 
 #include "focus/MotionService.h"
+#include "focus/PhaseSymbol.h"
 #include "model/ModelContext.h"
 
 #include <QUuid>
 
 #include <algorithm>
+#include <utility>
 
 namespace norvin {
 
@@ -47,6 +49,8 @@ DeepWorkScreen::DeepWorkScreen(PomodoroTimerService& timer, AppUsageService& usa
         Q_EMIT activeTaskChanged();
     });
     connect(&m_timer, &Timer::phaseChanged, this, &DeepWorkScreen::phaseChanged);
+    connect(&m_timer, &Timer::stateChanged, this, &DeepWorkScreen::phaseSymbolChanged);
+    connect(&m_timer, &Timer::phaseChanged, this, &DeepWorkScreen::phaseSymbolChanged);
     connect(&m_timer, &Timer::timeRemainingChanged, this, &DeepWorkScreen::countSecond);
     connect(&m_timer, &Timer::initialDurationChanged, this, &DeepWorkScreen::timeChanged);
     connect(&m_timer, &Timer::selectedDurationChanged, this, [this] {
@@ -76,6 +80,10 @@ QString DeepWorkScreen::state() const {
 
 QString DeepWorkScreen::phase() const {
     return rawValue(m_timer.phase());
+}
+
+QString DeepWorkScreen::phaseSymbol() const {
+    return norvin::phaseSymbol(m_timer.state(), m_timer.phase());
 }
 
 QString DeepWorkScreen::timeText() const {
@@ -178,17 +186,38 @@ bool DeepWorkScreen::completedRecorded() const {
            m_timer.initialDuration() - m_timer.timeRemaining() >= 10;
 }
 
-DeepWorkScreen::Refusal DeepWorkScreen::startPhase(PomodoroPhase phase, std::optional<int> minutes) {
+void DeepWorkScreen::setStartGate(std::function<Refusal()> gate) {
+    m_startGate = std::move(gate);
+    refreshStartGate();
+}
+
+void DeepWorkScreen::refreshStartGate() {
+    Refusal closed = m_startGate ? m_startGate() : std::nullopt;
+    if (closed == m_closedGate)
+        return;
+    m_closedGate = std::move(closed);
+    Q_EMIT closedGateChanged();
+}
+
+DeepWorkScreen::Refusal DeepWorkScreen::startRefusal() {
     if (isUnderWay(m_timer.state()))
         return QStringLiteral("refused_start_already_running");
+    refreshStartGate();
+    return m_closedGate;
+}
+
+DeepWorkScreen::Refusal DeepWorkScreen::startPhase(PomodoroPhase phase, std::optional<int> minutes) {
+    if (Refusal refusal = startRefusal())
+        return refusal;
     m_timer.startSession(taskToStartWith(), phase, minutes);
     return std::nullopt;
 }
 
 DeepWorkScreen::Refusal DeepWorkScreen::startPhaseWith(const QString& taskTitle, PomodoroPhase phase,
                                                        std::optional<int> minutes) {
-    if (isUnderWay(m_timer.state()))
-        return QStringLiteral("refused_start_already_running");
+    // Before a task is made that nobody would see worked on.
+    if (Refusal refusal = startRefusal())
+        return refusal;
     const QString title = taskTitle.simplified();
     if (!title.isEmpty()) {
         TaskItem* task = openTaskTitled(title);

@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QString>
 
+#include <functional>
 #include <optional>
 
 namespace norvin {
@@ -19,6 +20,8 @@ class DeepWorkScreen final : public QObject {
     Q_PROPERTY(QString state READ state NOTIFY stateChanged)
     /// "work", "break_time", "rearming".
     Q_PROPERTY(QString phase READ phase NOTIFY phaseChanged)
+    /// Name of the symbol that stands for both.
+    Q_PROPERTY(QString phaseSymbol READ phaseSymbol NOTIFY phaseSymbolChanged)
     /// What the ring shows: the remaining time, or while idle the length that start() would begin with.
     Q_PROPERTY(QString timeText READ timeText NOTIFY timeChanged)
     Q_PROPERTY(int timeRemaining READ timeRemaining NOTIFY timeChanged)
@@ -75,6 +78,8 @@ class DeepWorkScreen final : public QObject {
     Q_PROPERTY(int completedMinutes READ completedMinutes NOTIFY stateChanged)
     /// While completed: whether a record was stored (work phases of at least ten seconds).
     Q_PROPERTY(bool completedRecorded READ completedRecorded NOTIFY stateChanged)
+    /// Localisation key of why no phase may begin at all, empty while one may; see setStartGate().
+    Q_PROPERTY(QString closedGateKey READ closedGateKey NOTIFY closedGateChanged)
 public:
     /// Why an action was refused, as the localisation key of a sentence ("refused_pause_not_running").
     using Refusal = std::optional<QString>;
@@ -85,6 +90,7 @@ public:
 
     [[nodiscard]] QString state() const;
     [[nodiscard]] QString phase() const;
+    [[nodiscard]] QString phaseSymbol() const;
     [[nodiscard]] QString timeText() const;
     [[nodiscard]] int timeRemaining() const;
     [[nodiscard]] int initialDuration() const;
@@ -121,7 +127,13 @@ public:
     [[nodiscard]] TaskPickerModel* picker() { return &m_picker; }
     [[nodiscard]] int completedMinutes() const;
     [[nodiscard]] bool completedRecorded() const;
+    [[nodiscard]] QString closedGateKey() const { return m_closedGate.value_or(QString()); }
     [[nodiscard]] PomodoroTimerService& timer() { return m_timer; }
+
+    /// Has `gate` asked before any phase begins; it answers why none may. What runs already goes on.
+    void setStartGate(std::function<Refusal()> gate);
+    /// Asks the gate again, so that closedGateKey tells what it says now.
+    void refreshStartGate();
 
     /// Starts a phase with the task chosen, or the first of the queue that is not done. Refused while a phase
     /// runs or is paused. @param minutes 1 to 1440; none for the usual length
@@ -160,6 +172,7 @@ public:
 Q_SIGNALS:
     void stateChanged();
     void phaseChanged();
+    void phaseSymbolChanged();
     void timeChanged();
     void selectedDurationChanged();
     void activityChanged();
@@ -169,8 +182,12 @@ Q_SIGNALS:
     void countersChanged();
     void inactivityChanged();
     void activeTaskChanged();
+    void closedGateChanged();
+    /// The user wants to open the gate.
+    void gateHelpWanted();
 
 private:
+    [[nodiscard]] Refusal startRefusal();
     [[nodiscard]] TaskItem* taskToStartWith() const;
     [[nodiscard]] TaskItem* openTaskTitled(const QString& title) const;
     TaskItem* makeTask(const QString& title);
@@ -186,6 +203,8 @@ private:
     TaskPickerModel m_picker;
     FocusScoreTerms m_terms;
     FocusMetrics m_metrics;
+    std::function<Refusal()> m_startGate;
+    Refusal m_closedGate;
 };
 
 } // namespace norvin

@@ -55,6 +55,14 @@ QDate LicenseService::expiry() const {
     return m_license ? m_license->expires.value_or(QDate()) : QDate();
 }
 
+QUrl LicenseService::fileFolder() {
+    return QUrl::fromLocalFile(QStandardPaths::writableLocation(QStandardPaths::DownloadLocation));
+}
+
+QString LicenseService::expiryText(const QLocale& locale) const {
+    return expiry().isValid() ? locale.toString(expiry(), QStringLiteral("d MMMM yyyy")) : QString();
+}
+
 QString LicenseService::problemKey() const {
     return m_offeredProblem.isEmpty() ? m_installedProblem : m_offeredProblem;
 }

@@ -6,6 +6,7 @@
 #include <QByteArray>
 #include <QDate>
 #include <QDateTime>
+#include <QLocale>
 #include <QObject>
 #include <QString>
 #include <QUrl>
@@ -41,6 +42,8 @@ class LicenseService final : public QObject {
     Q_PROPERTY(QDate expiry READ expiry NOTIFY changed)
     /// Localisation key of why what is installed, or was offered last, is no licence; empty for neither.
     Q_PROPERTY(QString problemKey READ problemKey NOTIFY changed)
+    /// Where a licence that was received most likely lies.
+    Q_PROPERTY(QUrl fileFolder READ fileFolder CONSTANT)
 public:
     static constexpr int trialDays = 14;
     static constexpr auto firstLaunchKey = "trial_first_launch";
@@ -74,6 +77,9 @@ public:
     [[nodiscard]] QString email() const { return m_license ? m_license->email : QString(); }
     [[nodiscard]] QDate expiry() const;
     [[nodiscard]] QString problemKey() const;
+    [[nodiscard]] static QUrl fileFolder();
+    /// The day of expiry in words of that locale; empty where it is invalid.
+    Q_INVOKABLE [[nodiscard]] QString expiryText(const QLocale& locale) const;
 
     /// Why no session may begin now, as the localisation key of a sentence; none while one may.
     [[nodiscard]] std::optional<QString> refusal();

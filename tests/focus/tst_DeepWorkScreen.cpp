@@ -12,6 +12,7 @@ class tst_DeepWorkScreen final : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void actionsAreRefusedWhereTheyMakeNoSense();
+    void aClosedGateLetsNothingBeginAndNothingEnd();
     void startTakesTheFirstOpenTask();
     void startByTitleFindsOrMakesTheTask();
     void tickingTheActiveTaskOffMovesOn();
@@ -67,6 +68,30 @@ void tst_DeepWorkScreen::actionsAreRefusedWhereTheyMakeNoSense() {
     QVERIFY(!screen.resumeSession());
     QVERIFY(!screen.stopSession());
     QVERIFY(rig.context().tasks().empty());
+}
+
+void tst_DeepWorkScreen::aClosedGateLetsNothingBeginAndNothingEnd() {
+    ScreenRig rig;
+    DeepWorkScreen& screen = rig.screen;
+    DeepWorkScreen::Refusal closed;
+    screen.setStartGate([&closed] { return closed; });
+    QSignalSpy changed(&screen, &DeepWorkScreen::closedGateChanged);
+    QVERIFY(!screen.startPhase(PomodoroPhase::work));
+    closed = QStringLiteral("refused_trial_over");
+    QVERIFY(!screen.pauseSession());
+    QVERIFY(!screen.resumeSession());
+    QVERIFY(!screen.stopSession());
+
+    QCOMPARE(screen.startPhaseWith(QStringLiteral("Never made"), PomodoroPhase::work, 5), closed);
+    screen.startBreak();
+    QCOMPARE(screen.state(), QStringLiteral("idle"));
+    QCOMPARE(screen.closedGateKey(), QStringLiteral("refused_trial_over"));
+    QVERIFY(rig.context().fetchTasks([](const TaskItem&) { return true; }).empty());
+    closed.reset();
+    screen.refreshStartGate();
+    QVERIFY(screen.closedGateKey().isEmpty());
+    QCOMPARE(changed.size(), 2);
+    QVERIFY(!screen.startPhase(PomodoroPhase::work));
 }
 
 void tst_DeepWorkScreen::startTakesTheFirstOpenTask() {

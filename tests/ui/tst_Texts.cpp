@@ -66,10 +66,10 @@ TextsTest::Texts TextsTest::texts(const QString& language) {
 QSet<QString> TextsTest::usedKeys() {
     static const QRegularExpression call(QStringLiteral(R"re(q[st]TrId\(\s*"([a-z0-9_]+)")re"));
     static const QRegularExpression written(QStringLiteral(
-        R"re("((?:accessibility|attach|autostart|browser_restart|count|extension|health|planning_file|refused|window_closed)_[a-z0-9_]+)")re"));
+        R"re("((?:accessibility|ambience|attach|autostart|browser_restart|count|extension|feedback|health|licence|planning_file|refused|update|window_closed)_[a-z0-9_]+)")re"));
     QSet<QString> keys;
-    for (const char* folder :
-         {"app", "distraction", "focus", "model", "planning", "platform", "settings", "sound", "stats", "ui"}) {
+    for (const char* folder : {"app", "distraction", "focus", "model", "planning", "platform", "services",
+                               "settings", "sound", "stats", "ui"}) {
         QDirIterator files(root + QLatin1Char('/') + QLatin1String(folder),
                            {QStringLiteral("*.cpp"), QStringLiteral("*.qml")}, QDir::Files,
                            QDirIterator::Subdirectories);

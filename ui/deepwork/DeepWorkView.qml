@@ -56,16 +56,6 @@ FocusScope {
         return root.screen.phase === "break_time" ? qsTrId("phase_break") : qsTrId("phase_rearming");
     }
 
-    function phaseSymbol(): string {
-        if (root.isIdle)
-            return "brain";
-        if (root.screen.state === "paused")
-            return "pause.circle.fill";
-        if (root.screen.phase === "work")
-            return "brain.head.profile";
-        return root.screen.phase === "break_time" ? "cup.and.saucer.fill" : "arrow.clockwise";
-    }
-
     function taskLine(): string {
         if (root.screen.activeTaskTitle.length === 0)
             return root.isIdle ? qsTrId("active_task_none_idle") : "";
@@ -183,7 +173,7 @@ FocusScope {
                     timeText: session.timeText
                     progress: session.progress
                     color: root.screen.state === "paused" ? Theme.amber : root.isIdle ? Theme.accentBright : Theme.phaseColor(root.screen.phase)
-                    symbol: root.phaseSymbol()
+                    symbol: root.screen.phaseSymbol
                     caption: root.isIdle ? qsTrId("ring_idle") : root.screen.state === "paused" ? qsTrId("ring_paused") : qsTrId("ring_running")
                 }
 
@@ -279,6 +269,23 @@ FocusScope {
                 anchors.fill: parent
                 onLoaded: root.focusStart()
             }
+        }
+    }
+
+    // Why nothing can be started; made where there is such a reason.
+    Deferred {
+        active: root.screen.closedGateKey.length > 0 && root.isIdle
+        x: page.margin
+        y: Theme.gap4
+        width: page.width - 2 * page.margin
+
+        Banner {
+            objectName: "closedGate"
+            width: parent.width
+            height: implicitHeight
+            text: root.screen.closedGateKey.length > 0 ? qsTrId(root.screen.closedGateKey) : ""
+            actionText: qsTrId("licence_enter_button")
+            onActionChosen: root.screen.gateHelpWanted()
         }
     }
 
