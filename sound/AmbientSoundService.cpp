@@ -69,6 +69,18 @@ QString AmbientSoundService::soundName(const QString& sound) const {
     return known ? displayName(*known) : qtTrId("ambience_none");
 }
 
+QVariantList AmbientSoundService::choices() const {
+    const auto choice = [this](const QString& sound) {
+        return QVariantMap{{QStringLiteral("id"), sound},
+                           {QStringLiteral("name"), soundName(sound)},
+                           {QStringLiteral("color"), QString()}};
+    };
+    QVariantList all{choice({})};
+    for (const AmbientSound sound : allAmbientSounds())
+        all.append(choice(rawValue(sound)));
+    return all;
+}
+
 QString AmbientSoundService::categoryName(const QString& category) const {
     for (const AmbientSoundCategory known : allAmbientSoundCategories) {
         if (rawValue(known) == category)

@@ -6,6 +6,7 @@
 #include <QList>
 #include <QObject>
 #include <QString>
+#include <QVariant>
 
 #include <memory>
 #include <optional>
@@ -57,6 +58,8 @@ public:
     Q_INVOKABLE [[nodiscard]] QList<QString> soundsOf(const QString& category) const;
     /// What a sound is called in the language of the window; of an empty text, what having none is called.
     Q_INVOKABLE [[nodiscard]] QString soundName(const QString& sound) const;
+    /// None and all sounds, as maps with "id" and "name", and a "color" that is empty.
+    Q_INVOKABLE [[nodiscard]] QVariantList choices() const;
     Q_INVOKABLE [[nodiscard]] QString categoryName(const QString& category) const;
 
     [[nodiscard]] QString selectedSound() const;

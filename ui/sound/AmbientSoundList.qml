@@ -1,0 +1,107 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Templates as T
+import NorvinFocus.Ui
+
+/// The sounds of a category below each other, and none. The arrow keys choose, Space lets the choice be heard; Tab
+/// goes past the whole of it.
+FocusScope {
+    id: root
+
+    required property AmbientSoundService service
+    required property string category
+    readonly property list<string> sounds: [""].concat(root.service.soundsOf(root.category))
+    readonly property int index: root.sounds.indexOf(root.service.selectedSound)
+
+    function choose(position: int): void {
+        root.service.selectedSound = root.sounds[Math.max(0, Math.min(position, root.sounds.length - 1))];
+    }
+
+    implicitHeight: column.implicitHeight
+    activeFocusOnTab: true
+    Accessible.role: Accessible.RadioButton
+    Accessible.name: qsTrId("ambience_title") + ", " + root.service.soundName(root.service.selectedSound)
+    Accessible.focusable: true
+
+    // From a sound of another category to the first of this one.
+    Keys.onUpPressed: root.choose(root.index < 0 ? 1 : root.index - 1)
+    Keys.onDownPressed: root.choose(root.index < 0 ? 1 : root.index + 1)
+    Keys.onSpacePressed: root.service.toggle()
+
+    Rectangle {
+        anchors.fill: parent
+        radius: Theme.radius
+        color: Theme.surfaceRaised
+
+        FocusRing {
+            shown: root.activeFocus
+            innerRadius: Theme.radius
+            distance: 2
+        }
+    }
+
+    ColumnLayout {
+        id: column
+
+        anchors.left: parent.left
+        anchors.right: parent.right
+        spacing: 0
+
+        Repeater {
+            model: root.sounds
+
+            T.AbstractButton {
+                id: row
+
+                required property string modelData
+
+                objectName: "ambientSound-" + row.modelData
+                Layout.fillWidth: true
+                implicitHeight: Theme.controlHeight
+                text: root.service.soundName(row.modelData)
+                checked: row.modelData === root.service.selectedSound
+                hoverEnabled: true
+                focusPolicy: Qt.NoFocus
+                Accessible.role: Accessible.RadioButton
+                Accessible.name: row.text
+                Accessible.checkable: true
+                Accessible.checked: row.checked
+
+                onClicked: {
+                    root.forceActiveFocus(Qt.MouseFocusReason);
+                    root.service.selectedSound = row.modelData;
+                }
+
+                contentItem: RowLayout {
+                    spacing: Theme.gap3
+
+                    Rectangle {
+                        Layout.leftMargin: Theme.gap4
+                        implicitWidth: 20
+                        implicitHeight: 20
+                        radius: 10
+                        color: "transparent"
+                        border.width: row.checked ? 6 : 2
+                        border.color: row.checked ? Theme.accentText : row.hovered ? Theme.textMuted : Theme.textFaint
+                    }
+
+                    ThemedText {
+                        Layout.fillWidth: true
+                        text: row.text
+                        color: row.modelData.length > 0 || row.checked ? Theme.text : Theme.textMuted
+                        font.weight: row.checked ? Font.DemiBold : Font.Normal
+                        elide: Text.ElideRight
+                        Accessible.ignored: true
+                    }
+                }
+
+                background: Rectangle {
+                    radius: Theme.radius
+                    color: row.checked ? Theme.accentSurface : row.hovered ? Theme.surfaceHover : "transparent"
+                }
+            }
+        }
+    }
+}
