@@ -1,5 +1,6 @@
 #include "app/NorvinFocusApp.h"
 #include "app/StatusReport.h"
+#include "focus/PhaseSymbol.h"
 #include "tests/support/FocusRig.h"
 
 #include <QTest>
@@ -98,12 +99,12 @@ void tst_StatusReport::readsWellInATerminal() {
 void tst_StatusReport::menuBarIcons() {
     using State = TimerState;
     using Phase = PomodoroPhase;
-    QCOMPARE(menuBarIconName(State::idle, Phase::rearming), QStringLiteral("brain"));
-    QCOMPARE(menuBarIconName(State::running, Phase::work), QStringLiteral("brain.head.profile"));
-    QCOMPARE(menuBarIconName(State::running, Phase::breakTime), QStringLiteral("cup.and.saucer.fill"));
-    QCOMPARE(menuBarIconName(State::running, Phase::rearming), QStringLiteral("arrow.clockwise"));
-    QCOMPARE(menuBarIconName(State::paused, Phase::work), QStringLiteral("pause.circle.fill"));
-    QCOMPARE(menuBarIconName(State::completed, Phase::work), QStringLiteral("checkmark.circle.fill"));
+    QCOMPARE(phaseSymbol(State::idle, Phase::rearming), QStringLiteral("brain"));
+    QCOMPARE(phaseSymbol(State::running, Phase::work), QStringLiteral("brain.head.profile"));
+    QCOMPARE(phaseSymbol(State::running, Phase::breakTime), QStringLiteral("cup.and.saucer.fill"));
+    QCOMPARE(phaseSymbol(State::running, Phase::rearming), QStringLiteral("arrow.clockwise"));
+    QCOMPARE(phaseSymbol(State::paused, Phase::work), QStringLiteral("pause.circle.fill"));
+    QCOMPARE(phaseSymbol(State::completed, Phase::work), QStringLiteral("checkmark.circle.fill"));
 }
 
 QTEST_GUILESS_MAIN(tst_StatusReport)
