@@ -6,6 +6,7 @@
 #include "distraction/AppUsageService.h"
 #include "distraction/BrowserAlertService.h"
 #include "focus/MotionService.h"
+#include "focus/PhaseSymbol.h"
 #include "platform/linux/LinuxPlatform.h"
 #include "platform/linux/SessionBus.h"
 #include "ui/InterfaceEngine.h"
@@ -29,28 +30,6 @@ PomodoroCollaborators timerCollaborators(LinuxPlatform& platform, SoundService& 
 }
 
 } // namespace
-
-QString menuBarIconName(TimerState state, PomodoroPhase phase) {
-    switch (state) {
-    case TimerState::idle:
-        return QStringLiteral("brain");
-    case TimerState::paused:
-        return QStringLiteral("pause.circle.fill");
-    case TimerState::completed:
-        return QStringLiteral("checkmark.circle.fill");
-    case TimerState::running:
-        break;
-    }
-    switch (phase) {
-    case PomodoroPhase::work:
-        return QStringLiteral("brain.head.profile");
-    case PomodoroPhase::breakTime:
-        return QStringLiteral("cup.and.saucer.fill");
-    case PomodoroPhase::rearming:
-        return QStringLiteral("arrow.clockwise");
-    }
-    return {};
-}
 
 QList<TrackingHealthModel::Check> platformHealthChecks(LinuxPlatform& platform, BrowserHealth& browsers) {
     return {
@@ -131,8 +110,17 @@ NorvinFocusApp::NorvinFocusApp(LinuxPlatform& platform, std::unique_ptr<ModelCon
                                              [this] { return m_busAvailability; }}
                << TrackingHealthModel::Check{QStringLiteral("health_store"),
                                              [this] { return m_storeAvailability; }})
-    , m_userInterface(std::move(engine), m_deepWorkScreen, m_planning, m_stats, m_tickSoundSettings,
-                      m_blockLists, m_health, m_localization)
+    , m_palette(m_actions, m_planning, m_sharedModelContainer->mainContext())
+    , m_userInterface(std::move(engine),
+                      {.deepWork = m_deepWorkScreen,
+                       .planning = m_planning,
+                       .stats = m_stats,
+                       .tickSounds = m_tickSoundSettings,
+                       .blockLists = m_blockLists,
+                       .health = m_health,
+                       .actions = m_actions,
+                       .palette = m_palette},
+                      m_localization)
     , m_busService(sessionBus(), m_deepWorkScreen, AppBlockerService::shared(), m_health) {
     // More interfaces of the same object on the bus, which owns them.
     new PlanningBusService(sessionBus(), m_planningCommands, &m_busService);
@@ -153,6 +141,7 @@ bool NorvinFocusApp::launch() {
     m_userInterface.engine().setApplications(m_platform.applications());
     if (!m_userInterface.load())
         return false;
+    m_userInterface.rememberGeometry(m_platform.preferences(), m_platform.clock());
     m_alertWindows.setContent(&m_userInterface.engine(), &BrowserAlertService::shared().model());
     m_coachBubble =
         std::make_unique<CoachBubble>(CoachBubble::Collaborators{.coach = m_coachService,
@@ -245,7 +234,7 @@ void NorvinFocusApp::showWindow() {
 }
 
 QString NorvinFocusApp::menuBarIconName() const {
-    return norvin::menuBarIconName(m_timerService.state(), m_timerService.phase());
+    return phaseSymbol(m_timerService.state(), m_timerService.phase());
 }
 
 void NorvinFocusApp::quit() {

@@ -21,6 +21,8 @@
 #include "ui/UserInterface.h"
 #include "ui/alert/AlertWindows.h"
 #include "ui/coach/CoachBubble.h"
+#include "ui/shell/CommandPalette.h"
+#include "ui/shell/WindowActions.h"
 
 #include <QObject>
 #include <QString>
@@ -93,14 +95,13 @@ private:
     Availability m_extensionAvailability;
     BrowserHealth m_browserHealth;
     TrackingHealthModel m_health;
+    WindowActions m_actions{nullptr};
+    CommandPalette m_palette;
     UserInterface m_userInterface;
     std::unique_ptr<CoachBubble> m_coachBubble;
     FocusBusService m_busService;
     std::unique_ptr<ClockTimer> m_healthRefresh;
 };
-
-/// Name of the symbol for a state and phase of the timer.
-[[nodiscard]] QString menuBarIconName(TimerState state, PomodoroPhase phase);
 
 /// The checks of the tracking-health panel that need nothing but the platform and its browsers, which must
 /// outlive them. The checks of the browsers that run belong at browserHealthRow.

@@ -27,9 +27,18 @@ AllProjectsView::AllProjectsView(ModelContext& context, PlanningEdits& edits, Pr
     , m_context(context)
     , m_edits(edits)
     , m_sheet(sheet)
-    , m_projects(context) {}
+    , m_projects(context) {
+    connect(&context, &ModelContext::projectInserted, this, &AllProjectsView::projectCountChanged);
+    // It is still counted when this is said.
+    connect(&context, &ModelContext::projectAboutToBeRemoved, this, &AllProjectsView::projectCountChanged,
+            Qt::QueuedConnection);
+}
 
 AllProjectsView::~AllProjectsView() = default;
+
+int AllProjectsView::projectCount() const {
+    return static_cast<int>(m_context.projects().size());
+}
 
 void AllProjectsView::setSearchText(const QString& text) {
     if (text == m_searchText)

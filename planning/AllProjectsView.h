@@ -18,6 +18,8 @@ class ProjectSheet;
 class AllProjectsView final : public QObject {
     Q_OBJECT
     Q_PROPERTY(norvin::ProjectListModel* projects READ projects CONSTANT)
+    /// Projects there are, known before the list is loaded.
+    Q_PROPERTY(int projectCount READ projectCount NOTIFY projectCountChanged)
     /// Only projects with this in their name or description are shown, case and accents aside.
     Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY searchTextChanged)
     /// "name", "created" (the newest first) or "progress" (the furthest first); others are ignored.
@@ -29,6 +31,7 @@ public:
     ~AllProjectsView() override;
 
     [[nodiscard]] ProjectListModel* projects() { return &m_projects; }
+    [[nodiscard]] int projectCount() const;
     [[nodiscard]] const QString& searchText() const { return m_searchText; }
     void setSearchText(const QString& text);
     [[nodiscard]] QString sortBy() const;
@@ -49,6 +52,7 @@ public:
     void setLocale(const QLocale& locale);
 
 Q_SIGNALS:
+    void projectCountChanged();
     void searchTextChanged();
     void sortByChanged();
     /// The project's board is to be shown.

@@ -189,6 +189,8 @@ void DailyAgendaView::queueToday() {
         if (!before.contains(task->id()))
             m_with.timer.addTaskToQueue(task);
     }
+    if (m_onAgendaToday.size() != before.size())
+        Q_EMIT todayCountChanged();
 }
 
 void DailyAgendaView::countOverdue() {

@@ -41,6 +41,8 @@ class DailyAgendaView final : public QObject {
     Q_PROPERTY(norvin::LateTaskList* lateTasks READ lateTasks NOTIFY showLateTasksChanged)
     /// Unfinished tasks, subtasks included, that are due or planned for a day that is over.
     Q_PROPERTY(int overdueCount READ overdueCount NOTIFY overdueCountChanged)
+    /// Tasks on today's agenda, which are all open.
+    Q_PROPERTY(int todayCount READ todayCount NOTIFY todayCountChanged)
     /// The task whose detail sheet is open; null for none.
     Q_PROPERTY(
         norvin::TaskItem* selectedTask READ selectedTask WRITE setSelectedTask NOTIFY selectedTaskChanged)
@@ -71,6 +73,8 @@ public:
     [[nodiscard]] LateTaskList* lateTasks() const { return m_lateTasks.get(); }
     /// Counted again at the end of each event-loop turn in which a task changed.
     [[nodiscard]] int overdueCount() const { return m_overdueCount; }
+    /// Counted at the same time.
+    [[nodiscard]] int todayCount() const { return static_cast<int>(m_onAgendaToday.size()); }
 
     [[nodiscard]] TaskItem* selectedTask() const { return m_selectedTask; }
     void setSelectedTask(TaskItem* task);
@@ -99,6 +103,7 @@ Q_SIGNALS:
     void selectedDateChanged();
     void listChanged();
     void overdueCountChanged();
+    void todayCountChanged();
     void selectedTaskChanged();
     void showPlanningSheetChanged();
     void showCalendarChanged();

@@ -16,6 +16,8 @@
 #include "ui/Localization.h"
 #include "ui/MotionPreference.h"
 #include "ui/TextFormats.h"
+#include "ui/shell/CommandPalette.h"
+#include "ui/shell/WindowActions.h"
 
 #include <QJSEngine>
 #include <QQmlEngine>
@@ -100,6 +102,20 @@ struct TrackingHealthModelType {
     Q_GADGET
     QML_FOREIGN(norvin::TrackingHealthModel)
     QML_NAMED_ELEMENT(TrackingHealthModel)
+    QML_UNCREATABLE("Handed to the window")
+};
+
+struct WindowActionsType {
+    Q_GADGET
+    QML_FOREIGN(norvin::WindowActions)
+    QML_NAMED_ELEMENT(WindowActions)
+    QML_UNCREATABLE("Handed to the window")
+};
+
+struct CommandPaletteType {
+    Q_GADGET
+    QML_FOREIGN(norvin::CommandPalette)
+    QML_NAMED_ELEMENT(CommandPalette)
     QML_UNCREATABLE("Handed to the window")
 };
 

@@ -10,6 +10,9 @@
 #include "ui/InterfaceEngine.h"
 #include "ui/Localization.h"
 #include "ui/MotionPreference.h"
+#include "ui/shell/CommandPalette.h"
+#include "ui/shell/WindowActions.h"
+#include "ui/shell/WindowGeometry.h"
 
 #include <QCoreApplication>
 #include <QCursor>
@@ -31,30 +34,24 @@ constexpr int bodyPixelSize = 14;
 
 } // namespace
 
-UserInterface::UserInterface(std::unique_ptr<InterfaceEngine> engine, DeepWorkScreen& deepWork,
-                             PlanningScreens& planning, StatsScreen& stats, TickSoundSettings& tickSounds,
-                             BlockListsScreen& blockLists, TrackingHealthModel& health,
+UserInterface::UserInterface(std::unique_ptr<InterfaceEngine> engine, const Screens& screens,
                              Localization& localization, QObject* parent)
     : QObject(parent)
-    , m_deepWork(deepWork)
-    , m_planning(planning)
-    , m_stats(stats)
-    , m_tickSounds(tickSounds)
-    , m_blockLists(blockLists)
-    , m_health(health)
+    , m_screens(screens)
     , m_localization(localization)
     , m_motion(std::make_unique<MotionPreference>())
     , m_engine(std::move(engine)) {
-    m_planning.retranslate(localization.locale());
-    m_stats.retranslate(localization.locale());
+    m_screens.planning.retranslate(localization.locale());
+    m_screens.stats.retranslate(localization.locale());
     m_engine->setSingletons(localization, *m_motion);
     connect(&localization, &Localization::languageChanged, this, [this] {
-        m_health.retranslate();
-        m_planning.retranslate(m_localization.locale());
-        m_stats.retranslate(m_localization.locale());
-        m_blockLists.retranslate();
+        m_screens.health.retranslate();
+        m_screens.planning.retranslate(m_localization.locale());
+        m_screens.stats.retranslate(m_localization.locale());
+        m_screens.blockLists.retranslate();
         m_engine->retranslate();
     });
+    addActions();
 }
 
 UserInterface::~UserInterface() = default;
@@ -67,12 +64,14 @@ bool UserInterface::load() {
     font.setPixelSize(bodyPixelSize);
     QGuiApplication::setFont(font);
     std::unique_ptr<QObject> root = m_engine->createWindow({
-        {QStringLiteral("deepWork"), QVariant::fromValue(&m_deepWork)},
-        {QStringLiteral("planning"), QVariant::fromValue(&m_planning)},
-        {QStringLiteral("stats"), QVariant::fromValue(&m_stats)},
-        {QStringLiteral("tickSounds"), QVariant::fromValue(&m_tickSounds)},
-        {QStringLiteral("blockLists"), QVariant::fromValue(&m_blockLists)},
-        {QStringLiteral("health"), QVariant::fromValue(&m_health)},
+        {QStringLiteral("deepWork"), QVariant::fromValue(&m_screens.deepWork)},
+        {QStringLiteral("planning"), QVariant::fromValue(&m_screens.planning)},
+        {QStringLiteral("stats"), QVariant::fromValue(&m_screens.stats)},
+        {QStringLiteral("tickSounds"), QVariant::fromValue(&m_screens.tickSounds)},
+        {QStringLiteral("blockLists"), QVariant::fromValue(&m_screens.blockLists)},
+        {QStringLiteral("health"), QVariant::fromValue(&m_screens.health)},
+        {QStringLiteral("actions"), QVariant::fromValue(&m_screens.actions)},
+        {QStringLiteral("palette"), QVariant::fromValue(&m_screens.palette)},
         {QStringLiteral("coach"), QVariant::fromValue(m_coach)},
         {QStringLiteral("storeProblem"), m_storeProblem},
     });
@@ -94,6 +93,81 @@ bool UserInterface::load() {
         },
         static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
     return true;
+}
+
+void UserInterface::rememberGeometry(Preferences& preferences, Clock& clock) {
+    m_geometry = std::make_unique<WindowGeometry>(*m_window, preferences, clock);
+}
+
+void UserInterface::addActions() {
+    WindowActions& actions = m_screens.actions;
+    DeepWorkScreen& deepWork = m_screens.deepWork;
+    // In the order of Main.PageNumber.
+    struct PageAction {
+        const char* id;
+        const char* titleKey;
+        const char* symbol;
+    };
+    int number = 0;
+    for (const auto& page : {PageAction{"show_deep_work", "sidebar_deep_work", "timer"},
+                             PageAction{"show_agenda", "sidebar_agenda", "calendar"},
+                             PageAction{"show_projects", "sidebar_projects", "folder"},
+                             PageAction{"show_statistics", "sidebar_statistics", "chart.bar"},
+                             PageAction{"show_block_lists", "sidebar_block_lists", "hand.raised"},
+                             PageAction{"show_health", "sidebar_health", "waveform.path.ecg"}}) {
+        actions.add({.id = QLatin1String(page.id),
+                     .titleKey = QLatin1String(page.titleKey),
+                     .symbol = QLatin1String(page.symbol),
+                     .keys = QStringLiteral("Ctrl+%1").arg(number + 1),
+                     .run = [&actions, number] { Q_EMIT actions.pageWanted(number); }});
+        ++number;
+    }
+
+    const auto isState = [&deepWork](const char* state) {
+        return [&deepWork, state] { return deepWork.state() == QLatin1String(state); };
+    };
+    const auto canStart = [this] { return !isPhaseUnderWay(); };
+    actions.add({.id = QStringLiteral("start_work"),
+                 .titleKey = QStringLiteral("action_start_work"),
+                 .symbol = QStringLiteral("play"),
+                 .isOffered = canStart,
+                 .run = [&deepWork] { deepWork.start(); }});
+    actions.add({.id = QStringLiteral("start_break"),
+                 .titleKey = QStringLiteral("action_start_break"),
+                 .symbol = QStringLiteral("cup.and.saucer.fill"),
+                 .isOffered = canStart,
+                 .run = [&deepWork] { deepWork.startBreak(); }});
+    actions.add({.id = QStringLiteral("start_rearming"),
+                 .titleKey = QStringLiteral("action_start_rearming"),
+                 .symbol = QStringLiteral("arrow.clockwise"),
+                 .isOffered = canStart,
+                 .run = [&deepWork] { deepWork.startRearming(); }});
+    actions.add({.id = QStringLiteral("pause"),
+                 .titleKey = QStringLiteral("action_pause"),
+                 .symbol = QStringLiteral("pause"),
+                 .isOffered = isState("running"),
+                 .run = [&deepWork] { deepWork.pause(); }});
+    actions.add({.id = QStringLiteral("resume"),
+                 .titleKey = QStringLiteral("action_resume"),
+                 .symbol = QStringLiteral("play"),
+                 .isOffered = isState("paused"),
+                 .run = [&deepWork] { deepWork.resume(); }});
+    actions.add({.id = QStringLiteral("stop"),
+                 .titleKey = QStringLiteral("action_stop"),
+                 .symbol = QStringLiteral("stop"),
+                 .isOffered = [this] { return isPhaseUnderWay(); },
+                 .run = [&deepWork] { deepWork.stop(); }});
+    connect(&deepWork, &DeepWorkScreen::stateChanged, &actions, &WindowActions::notifyChanged);
+
+    PlanningScreens& planning = m_screens.planning;
+    actions.add({.id = QStringLiteral("new_task"),
+                 .titleKey = QStringLiteral("action_new_task"),
+                 .symbol = QStringLiteral("plus"),
+                 .run = [&planning] { planning.agenda()->plan(QStringLiteral("quickAdd")); }});
+    actions.add({.id = QStringLiteral("new_project"),
+                 .titleKey = QStringLiteral("action_new_project"),
+                 .symbol = QStringLiteral("plus"),
+                 .run = [&planning] { planning.projects()->createProject(); }});
 }
 
 void UserInterface::showWindow() {
@@ -123,7 +197,8 @@ void UserInterface::setStoreProblem(const QString& text) {
 }
 
 bool UserInterface::isPhaseUnderWay() const {
-    return m_deepWork.state() == QLatin1String("running") || m_deepWork.state() == QLatin1String("paused");
+    return m_screens.deepWork.state() == QLatin1String("running") ||
+           m_screens.deepWork.state() == QLatin1String("paused");
 }
 
 void UserInterface::quit() {

@@ -11,14 +11,19 @@ namespace norvin {
 
 class AICoachService;
 class BlockListsScreen;
+class Clock;
+class CommandPalette;
 class DeepWorkScreen;
 class InterfaceEngine;
 class Localization;
 class MotionPreference;
 class PlanningScreens;
+class Preferences;
 class StatsScreen;
 class TickSoundSettings;
 class TrackingHealthModel;
+class WindowActions;
+class WindowGeometry;
 
 /// The main window and what is behind it. Needs a QGuiApplication that does not quit by itself when its last
 /// window closes. Main thread only.
@@ -30,10 +35,20 @@ class UserInterface final : public QObject {
     /// What is wrong with the store, shown as a banner for as long as it is not empty.
     Q_PROPERTY(QString storeProblem READ storeProblem WRITE setStoreProblem NOTIFY storeProblemChanged)
 public:
+    /// What the window shows.
+    struct Screens {
+        DeepWorkScreen& deepWork;
+        PlanningScreens& planning;
+        StatsScreen& stats;
+        TickSoundSettings& tickSounds;
+        BlockListsScreen& blockLists;
+        TrackingHealthModel& health;
+        /// The window adds those of its own.
+        WindowActions& actions;
+        CommandPalette& palette;
+    };
     /// Everything given by reference must outlive this.
-    UserInterface(std::unique_ptr<InterfaceEngine> engine, DeepWorkScreen& deepWork,
-                  PlanningScreens& planning, StatsScreen& stats, TickSoundSettings& tickSounds,
-                  BlockListsScreen& blockLists, TrackingHealthModel& health, Localization& localization,
+    UserInterface(std::unique_ptr<InterfaceEngine> engine, const Screens& screens, Localization& localization,
                   QObject* parent = nullptr);
     ~UserInterface() override;
 
@@ -44,6 +59,9 @@ public:
 
     /// Builds the window, hidden. @return whether it is there; a failure is logged
     [[nodiscard]] bool load();
+    /// Puts the window where it was when the program ran last, and remembers where it goes. To be called
+    /// once, between load() and showWindow(). Both must outlive this
+    void rememberGeometry(Preferences& preferences, Clock& clock);
     /// Brings the window to the front, from wherever it is.
     void showWindow();
     /// Null before load() and after it failed.
@@ -69,18 +87,15 @@ private Q_SLOTS:
 
 private:
     [[nodiscard]] bool isPhaseUnderWay() const;
+    void addActions();
 
-    DeepWorkScreen& m_deepWork;
-    PlanningScreens& m_planning;
-    StatsScreen& m_stats;
-    TickSoundSettings& m_tickSounds;
-    BlockListsScreen& m_blockLists;
-    TrackingHealthModel& m_health;
+    Screens m_screens;
     Localization& m_localization;
     AICoachService* m_coach = nullptr;
     std::unique_ptr<MotionPreference> m_motion;
     std::unique_ptr<InterfaceEngine> m_engine;
     std::unique_ptr<QQuickWindow> m_window;
+    std::unique_ptr<WindowGeometry> m_geometry;
     QString m_storeProblem;
     bool m_isQuitting = false;
 };

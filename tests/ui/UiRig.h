@@ -13,6 +13,8 @@
 #include "ui/InterfaceEngine.h"
 #include "ui/Localization.h"
 #include "ui/UserInterface.h"
+#include "ui/shell/CommandPalette.h"
+#include "ui/shell/WindowActions.h"
 
 #include <QAccessible>
 #include <QQuickItem>
@@ -30,8 +32,16 @@ struct UiRig {
             install(QString::fromLatin1(name));
         health.refresh();
         userInterface =
-            std::make_unique<UserInterface>(std::make_unique<InterfaceEngine>(), deepWork, planning, stats,
-                                            tickSoundSettings, blockLists, health, *localization);
+            std::make_unique<UserInterface>(std::make_unique<InterfaceEngine>(),
+                                            UserInterface::Screens{.deepWork = deepWork,
+                                                                   .planning = planning,
+                                                                   .stats = stats,
+                                                                   .tickSounds = tickSoundSettings,
+                                                                   .blockLists = blockLists,
+                                                                   .health = health,
+                                                                   .actions = actions,
+                                                                   .palette = palette},
+                                            *localization);
         userInterface->setCoach(coach);
         userInterface->engine().setApplications(focus.catalog);
         loaded = userInterface->load();
@@ -156,6 +166,8 @@ struct UiRig {
         {{QStringLiteral("health_frontmost_application"), [] { return Availability::available(); }},
          {QStringLiteral("health_idle_time"), [this] { return idleTime; }},
          {QStringLiteral("health_browser_pages"), [this] { return pages; }}}};
+    WindowActions actions{nullptr};
+    CommandPalette palette{actions, planning, focus.context()};
     std::unique_ptr<UserInterface> userInterface;
     bool loaded = false;
 };

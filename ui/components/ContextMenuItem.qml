@@ -18,6 +18,7 @@ T.MenuItem {
     implicitWidth: 272
     implicitHeight: visible ? Theme.controlHeightSmall + 4 : 0
     hoverEnabled: true
+    opacity: root.enabled ? 1 : 0.45
     Accessible.name: root.text
 
     onTriggered: (root.menu as ContextMenu).choice = root.choice

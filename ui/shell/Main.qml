@@ -23,6 +23,8 @@ Window {
     required property TickSoundSettings tickSounds
     required property BlockListsScreen blockLists
     required property TrackingHealthModel health
+    required property WindowActions actions
+    required property CommandPalette palette
     property AICoachService coach: null
     property string storeProblem: ""
     /// What is there: 0 the bare window, 1 what the first picture shows, 2 everything.
@@ -66,9 +68,23 @@ Window {
     }
 
     Shortcut {
+        sequences: ["Ctrl+K"]
+        enabled: root.stage > 1
+        onActivated: root.palette.present()
+    }
+
+    Shortcut {
         sequences: ["Ctrl+Q"]
         context: Qt.ApplicationShortcut
         onActivated: root.askToQuit()
+    }
+
+    Connections {
+        target: root.actions
+
+        function onPageWanted(number: int): void {
+            root.showPage(number);
+        }
     }
 
     Deferred {
@@ -87,17 +103,21 @@ Window {
             blockLists: root.blockLists
             health: root.health
             coach: root.coach
+            actions: root.actions
+            palette: root.palette
             storeProblem: root.storeProblem
             page: root.page
             live: root.live
             furnished: root.stage > 1
             onPageChosen: number => root.showPage(number)
+            onQuitAsked: root.askToQuit()
         }
     }
 
     Sheets {
         planning: root.planning
         stats: root.stats
+        palette: root.palette
     }
 
     Deferred {

@@ -9,6 +9,7 @@ Item {
 
     required property PlanningScreens planning
     required property StatsScreen stats
+    required property CommandPalette palette
 
     LazySheet {
         wanted: root.planning.agenda.showPlanningSheet
@@ -32,6 +33,12 @@ Item {
         wanted: root.stats.explanation.isPresented
         file: "../stats/StatsExplanationSheet.qml"
         model: root.stats.explanation
+    }
+
+    LazySheet {
+        wanted: root.palette.isPresented
+        file: "CommandPaletteSheet.qml"
+        model: root.palette
     }
 
     LazySheet {

@@ -15,6 +15,8 @@ FocusScope {
     required property BlockListsScreen blockLists
     required property TrackingHealthModel health
     required property AICoachService coach
+    required property WindowActions actions
+    required property CommandPalette palette
     /// Empty while the store is well.
     required property string storeProblem
     required property int page
@@ -24,6 +26,7 @@ FocusScope {
     required property bool furnished
 
     signal pageChosen(int number)
+    signal quitAsked
 
     function focusStart(): void {
         deepWorkView.focusStart();
@@ -46,6 +49,12 @@ FocusScope {
             page: root.page
             problemCount: root.health.problemCount
             lateCount: root.planning.agenda.overdueCount
+            todayCount: root.planning.agenda.todayCount
+            queueCount: root.deepWork.queue.taskCount
+            projectCount: root.planning.projects.projectCount
+            actions: root.actions
+            palette: root.palette
+            onQuitAsked: root.quitAsked()
             furnished: root.furnished
             onPageChosen: number => root.pageChosen(number)
         }

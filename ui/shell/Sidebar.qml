@@ -4,18 +4,25 @@ import QtQuick
 import QtQuick.Layouts
 import NorvinFocus.Ui
 
-/// The way between the pages, and the language.
+/// The way between the pages, with what waits on them, and the menu.
 Rectangle {
     id: root
 
     required property int page
+    required property WindowActions actions
+    required property CommandPalette palette
     required property int problemCount
     /// Tasks whose day is over.
     required property int lateCount
+    /// Open tasks of today, tasks in the queue, and projects.
+    required property int todayCount
+    required property int queueCount
+    required property int projectCount
     /// Whether what the first picture does without is wanted.
     required property bool furnished
 
     signal pageChosen(int number)
+    signal quitAsked
 
     color: Theme.sidebar
     Accessible.role: Accessible.PageTabList
@@ -29,7 +36,7 @@ Rectangle {
 
         RowLayout {
             Layout.leftMargin: Theme.gap2
-            Layout.bottomMargin: Theme.gap5
+            Layout.bottomMargin: Theme.gap4
             spacing: Theme.gap3
 
             Symbol {
@@ -39,9 +46,22 @@ Rectangle {
             }
 
             ThemedText {
+                Layout.fillWidth: true
                 text: "Norvin Focus"
                 font.pixelSize: Theme.bodyLarge
                 font.weight: Font.DemiBold
+            }
+
+            Deferred {
+                Layout.preferredWidth: Theme.controlHeightSmall
+                active: root.furnished
+
+                WindowMenu {
+                    objectName: "windowMenuButton"
+                    actions: root.actions
+                    palette: root.palette
+                    onQuitAsked: root.quitAsked()
+                }
             }
         }
 
@@ -49,6 +69,8 @@ Rectangle {
             symbol: "timer"
             text: qsTrId("sidebar_deep_work")
             keys: "Ctrl+1"
+            amount: root.furnished ? root.queueCount : 0
+            amountName: root.queueCount > 0 ? qsTrId("queued_tasks", root.queueCount) : ""
             isCurrent: root.page === Main.PageNumber.DeepWork
             onClicked: root.pageChosen(Main.PageNumber.DeepWork)
         }
@@ -60,6 +82,8 @@ Rectangle {
             isCurrent: root.page === Main.PageNumber.Agenda
             badge: root.furnished ? root.lateCount : 0
             badgeName: root.lateCount > 0 ? qsTrId("late_tasks", root.lateCount) : ""
+            amount: root.furnished ? root.todayCount : 0
+            amountName: root.todayCount > 0 ? qsTrId("tasks_today", root.todayCount) : ""
             onClicked: root.pageChosen(Main.PageNumber.Agenda)
         }
 
@@ -67,6 +91,8 @@ Rectangle {
             symbol: "folder"
             text: qsTrId("sidebar_projects")
             keys: "Ctrl+3"
+            amount: root.furnished ? root.projectCount : 0
+            amountName: root.projectCount > 0 ? qsTrId("project_count", root.projectCount) : ""
             isCurrent: root.page === Main.PageNumber.Projects
             onClicked: root.pageChosen(Main.PageNumber.Projects)
         }

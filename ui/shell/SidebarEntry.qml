@@ -16,6 +16,10 @@ T.Button {
     /// How many things want attention there; 0 shows nothing.
     property int badge: 0
     property string badgeName: ""
+    /// How many things there are; 0 shows nothing. Not shown beside what wants attention.
+    property int amount: 0
+    property string amountName: ""
+    readonly property string words: root.badgeName.length > 0 ? root.badgeName : root.amountName
     readonly property color foreground: root.isCurrent ? Theme.text : root.hovered ? Theme.text : Theme.textMuted
 
     Layout.fillWidth: true
@@ -23,7 +27,7 @@ T.Button {
     hoverEnabled: true
     focusPolicy: Qt.TabFocus
     Accessible.role: Accessible.PageTab
-    Accessible.name: root.badgeName.length > 0 ? root.text + ", " + root.badgeName : root.text
+    Accessible.name: root.words.length > 0 ? root.text + ", " + root.words : root.text
     Accessible.selected: root.isCurrent
 
     Keys.onReturnPressed: root.clicked()
@@ -49,6 +53,14 @@ T.Button {
                 text: root.text
                 color: root.foreground
                 wrapMode: Text.WordWrap
+                Accessible.ignored: true
+            }
+
+            ThemedText {
+                Layout.rightMargin: Theme.gap2
+                visible: root.amount > 0 && root.badge === 0
+                text: root.amount
+                color: Theme.textFaint
                 Accessible.ignored: true
             }
 
