@@ -29,7 +29,7 @@ public:
         std::variant<StoreFacts, StoreError> facts;
     };
 
-    explicit BackupListModel(QObject* parent = nullptr);
+    explicit BackupListModel(QObject* parent);
     ~BackupListModel() override;
 
     [[nodiscard]] int count() const { return static_cast<int>(m_rows.size()); }

@@ -128,7 +128,7 @@ private:
     /// What to offer in the place of what was lost.
     std::optional<BackupFile> m_offered;
     std::optional<StoreFacts> m_facts;
-    BackupListModel m_backups;
+    BackupListModel m_backups{nullptr};
     QLocale m_locale;
     QString m_notice;
     bool m_isNoticeProblem = false;
