@@ -18,6 +18,7 @@ namespace norvin {
 namespace {
 
 constexpr std::chrono::milliseconds healthRefreshDelay{300};
+constexpr std::chrono::milliseconds trayDelay{400};
 
 PomodoroCollaborators timerCollaborators(LinuxPlatform& platform, SoundService& sounds) {
     return {.clock = platform.clock(),
@@ -44,6 +45,9 @@ QList<TrackingHealthModel::Check> platformHealthChecks(LinuxPlatform& platform, 
          [&platform] { return platform.notifications().availability(); }},
         {QStringLiteral("health_sounds"), [&platform] { return platform.sounds().availability(); }},
         {QStringLiteral("health_ticks"), [&platform] { return platform.audioOutput().availability(); }},
+        {.capabilityKey = QStringLiteral("health_tray"),
+         .ask = [&platform] { return platform.statusItem().availability(); },
+         .isOptional = true},
         {QStringLiteral("health_preferences"), [&platform] { return platform.preferences().availability(); }},
     };
 }
@@ -110,6 +114,10 @@ NorvinFocusApp::NorvinFocusApp(LinuxPlatform& platform, std::unique_ptr<ModelCon
                                              [this] { return m_busAvailability; }}
                << TrackingHealthModel::Check{QStringLiteral("health_store"),
                                              [this] { return m_storeAvailability; }})
+    , m_backupService(platform.clock(), m_sharedModelContainer->storeFile())
+    , m_dataSettings(m_backupService, m_sharedModelContainer->opening(), m_timerService,
+                     platform.preferences())
+    , m_preferencesScreen(platform.preferences(), m_tickSoundSettings)
     , m_palette(m_actions, m_planning, m_sharedModelContainer->mainContext())
     , m_userInterface(std::move(engine),
                       {.deepWork = m_deepWorkScreen,
@@ -118,6 +126,7 @@ NorvinFocusApp::NorvinFocusApp(LinuxPlatform& platform, std::unique_ptr<ModelCon
                        .tickSounds = m_tickSoundSettings,
                        .blockLists = m_blockLists,
                        .health = m_health,
+                       .preferences = m_preferencesScreen,
                        .actions = m_actions,
                        .palette = m_palette},
                       m_localization)
@@ -128,6 +137,7 @@ NorvinFocusApp::NorvinFocusApp(LinuxPlatform& platform, std::unique_ptr<ModelCon
     m_blockLists.setBrowserHealth(&m_browserHealth);
     followStore();
     followPlatform();
+    followPreferences();
 }
 
 NorvinFocusApp::~NorvinFocusApp() {
@@ -150,6 +160,7 @@ bool NorvinFocusApp::launch() {
                                                                  .clock = m_platform.clock(),
                                                                  .engine = m_userInterface.engine(),
                                                                  .mainWindow = *m_userInterface.window()});
+    makeMenuBarExtra();
     wireServices();
     m_busService.setShowWindow([this] { showWindow(); });
     m_busAvailability = m_busService.publish();
@@ -161,6 +172,24 @@ bool NorvinFocusApp::launch() {
     connect(qApp, &QCoreApplication::aboutToQuit, &AppUsageService::shared(),
             &AppUsageService::applicationWillTerminate);
     return true;
+}
+
+void NorvinFocusApp::makeMenuBarExtra() {
+    m_menuBarExtra =
+        std::make_unique<MenuBarExtra>(MenuBarExtra::Collaborators{.item = m_platform.statusItem(),
+                                                                   .timer = m_timerService,
+                                                                   .deepWork = m_deepWorkScreen,
+                                                                   .preferences = m_platform.preferences(),
+                                                                   .support = m_platform.overlays(),
+                                                                   .clock = m_platform.clock(),
+                                                                   .engine = m_userInterface.engine(),
+                                                                   .localization = m_localization,
+                                                                   .actions = m_actions,
+                                                                   .mainWindow = *m_userInterface.window()});
+    connect(m_menuBarExtra.get(), &MenuBarExtra::windowWanted, this, &NorvinFocusApp::showWindow);
+    connect(m_menuBarExtra.get(), &MenuBarExtra::quitWanted, this, &NorvinFocusApp::askToQuit);
+    // The window comes first.
+    m_trayDelay = m_platform.clock().after(trayDelay, [this] { m_menuBarExtra->show(); });
 }
 
 void NorvinFocusApp::wireServices() {
@@ -196,6 +225,7 @@ void NorvinFocusApp::followPlatform() {
     connect(&m_platform.sleepMonitor(), &SleepMonitor::didWake, &m_planning, &PlanningScreens::refresh);
     connect(&m_platform.sleepMonitor(), &SleepMonitor::didWake, &m_stats, &StatsScreen::refreshDay);
     connect(&m_platform.notifications(), &UserNotifications::availabilityChanged, this, refresh);
+    connect(&m_platform.statusItem(), &StatusItem::availabilityChanged, this, refresh);
     connect(&m_platform.sounds(), &SystemSounds::availabilityChanged, this, refresh);
     connect(&m_platform.audioOutput(), &AudioOutput::availabilityChanged, this, refresh);
     connect(&m_platform.preferences(), &Preferences::availabilityChanged, this, refresh);
@@ -206,6 +236,16 @@ void NorvinFocusApp::followPlatform() {
         m_platform.notifications().post(qtTrId("window_closed_running_title"),
                                         qtTrId("window_closed_running_body"));
     });
+}
+
+void NorvinFocusApp::followPreferences() {
+    m_preferencesScreen.setCompanions({.autostart = &m_platform.autostart(), .data = &m_dataSettings});
+    connect(&m_platform.sleepMonitor(), &SleepMonitor::didWake, &m_backupService, &BackupService::handleWake);
+    connect(&m_dataSettings, &DataSettings::restartWanted, this, [this] {
+        m_isRestartWanted = true;
+        quit();
+    });
+    m_backupService.start();
 }
 
 // What browsers say comes in bursts, and in the midst of asking them.
@@ -235,6 +275,12 @@ void NorvinFocusApp::showWindow() {
 
 QString NorvinFocusApp::menuBarIconName() const {
     return phaseSymbol(m_timerService.state(), m_timerService.phase());
+}
+
+void NorvinFocusApp::askToQuit() {
+    if (m_timerService.state() == TimerState::running || m_timerService.state() == TimerState::paused)
+        showWindow();
+    QMetaObject::invokeMethod(m_userInterface.window(), "askToQuit");
 }
 
 void NorvinFocusApp::quit() {

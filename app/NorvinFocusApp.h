@@ -13,6 +13,9 @@
 #include "focus/TimerInterruptions.h"
 #include "model/ModelContainer.h"
 #include "planning/PlanningScreens.h"
+#include "settings/BackupService.h"
+#include "settings/DataSettings.h"
+#include "settings/PreferencesScreen.h"
 #include "sound/SoundService.h"
 #include "sound/TickSoundService.h"
 #include "sound/TickSoundSettings.h"
@@ -21,6 +24,7 @@
 #include "ui/UserInterface.h"
 #include "ui/alert/AlertWindows.h"
 #include "ui/coach/CoachBubble.h"
+#include "ui/panel/MenuBarExtra.h"
 #include "ui/shell/CommandPalette.h"
 #include "ui/shell/WindowActions.h"
 
@@ -50,6 +54,8 @@ public:
     [[nodiscard]] bool launch();
     void showWindow();
     [[nodiscard]] UserInterface& userInterface() { return m_userInterface; }
+    /// Whether the program is to be started again when it has ended.
+    [[nodiscard]] bool isRestartWanted() const { return m_isRestartWanted; }
 
     /// Name of the symbol that stands for the timer's state and phase.
     [[nodiscard]] QString menuBarIconName() const;
@@ -67,8 +73,11 @@ private:
     void wireServices();
     void followStore();
     void followPlatform();
+    void followPreferences();
+    void makeMenuBarExtra();
     void refreshHealthSoon();
     [[nodiscard]] QList<TrackingHealthModel::Check> passingHealthChecks();
+    void askToQuit();
     void quit();
 
     LinuxPlatform& m_platform;
@@ -95,12 +104,18 @@ private:
     Availability m_extensionAvailability;
     BrowserHealth m_browserHealth;
     TrackingHealthModel m_health;
+    BackupService m_backupService;
+    DataSettings m_dataSettings;
+    PreferencesScreen m_preferencesScreen;
     WindowActions m_actions{nullptr};
     CommandPalette m_palette;
     UserInterface m_userInterface;
     std::unique_ptr<CoachBubble> m_coachBubble;
+    std::unique_ptr<MenuBarExtra> m_menuBarExtra;
     FocusBusService m_busService;
     std::unique_ptr<ClockTimer> m_healthRefresh;
+    bool m_isRestartWanted = false;
+    std::unique_ptr<ClockTimer> m_trayDelay;
 };
 
 /// The checks of the tracking-health panel that need nothing but the platform and its browsers, which must

@@ -16,8 +16,12 @@
 #include <QTimer>
 #include <QTranslator>
 
+#include <unistd.h>
+
+#include <array>
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <future>
 
 using namespace norvin;
@@ -105,7 +109,15 @@ int runDoctor(int& argc, char** argv) {
     return remote.isInstanceRunning() ? toInt(remote.run(command::Doctor{})) : runOwnDoctor();
 }
 
-int runWindow(const command::OpenWindow& options, int& argc, char** argv) {
+// Begins anew in the place of this process, with a window whatever this one was started with.
+[[noreturn]] void restart(char* name) {
+    std::array<char*, 2> arguments{name, nullptr};
+    ::execv("/proc/self/exe", arguments.data());
+    print(stderr, QStringLiteral("norvin-focus: the program cannot be started again; start it by hand\n"));
+    std::exit(toInt(ExitCode::unreachable));
+}
+
+int runWindow(const command::OpenWindow& options, int& argc, char** argv, bool& isRestartWanted) {
     const QString storeFile = ModelContainer::defaultStoreFile();
     InstanceLock lock(storeFile);
     const InstanceLock::Outcome locked = lock.tryAcquire();
@@ -153,7 +165,9 @@ int runWindow(const command::OpenWindow& options, int& argc, char** argv) {
     }
     if (!options.hidden)
         app.showWindow();
-    return QCoreApplication::exec();
+    const int code = QCoreApplication::exec();
+    isRestartWanted = app.isRestartWanted();
+    return code;
 }
 
 } // namespace
@@ -179,8 +193,14 @@ int main(int argc, char* argv[]) {
         print(stdout, QStringLiteral("norvin-focus %1\n").arg(QCoreApplication::applicationVersion()));
         return toInt(ExitCode::done);
     }
-    if (const auto* open = std::get_if<command::OpenWindow>(&command))
-        return runWindow(*open, argc, argv);
+    if (const auto* open = std::get_if<command::OpenWindow>(&command)) {
+        bool isRestartWanted = false;
+        const int code = runWindow(*open, argc, argv, isRestartWanted);
+        // Only here has the store been closed and its lock been given back.
+        if (isRestartWanted)
+            restart(argv[0]);
+        return code;
+    }
     if (std::holds_alternative<command::Doctor>(command))
         return runDoctor(argc, argv);
     return runRemote(command, argc, argv);
