@@ -15,6 +15,7 @@ FocusScope {
     required property BlockListsScreen blockLists
     required property TrackingHealthModel health
     required property AICoachService coach
+    required property PreferencesScreen preferences
     required property WindowActions actions
     required property CommandPalette palette
     /// Empty while the store is well.
@@ -71,6 +72,18 @@ FocusScope {
                 text: qsTrId("store_problem_banner").arg(root.storeProblem)
             }
 
+            Deferred {
+                Layout.fillWidth: true
+                Layout.margins: Theme.gap4
+                Layout.bottomMargin: 0
+                visible: active
+                active: root.furnished && root.preferences.data !== null && root.preferences.data.startNotice.length > 0
+
+                StartNotice {
+                    settings: root.preferences.data
+                }
+            }
+
             StackLayout {
                 currentIndex: root.page
 
@@ -113,6 +126,12 @@ FocusScope {
                     wanted: root.page === Main.PageNumber.Health
                     file: "../health/HealthView.qml"
                     model: root.health
+                }
+
+                LazyPage {
+                    wanted: root.page === Main.PageNumber.Preferences
+                    file: "../settings/PreferencesPage.qml"
+                    model: root.preferences
                 }
             }
         }
