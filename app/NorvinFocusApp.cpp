@@ -9,6 +9,7 @@
 #include "focus/PhaseSymbol.h"
 #include "platform/linux/LinuxPlatform.h"
 #include "platform/linux/SessionBus.h"
+#include "sound/ImmersionService.h"
 #include "ui/InterfaceEngine.h"
 
 #include <QCoreApplication>
@@ -44,7 +45,11 @@ QList<TrackingHealthModel::Check> platformHealthChecks(LinuxPlatform& platform, 
         {QStringLiteral("health_notifications"),
          [&platform] { return platform.notifications().availability(); }},
         {QStringLiteral("health_sounds"), [&platform] { return platform.sounds().availability(); }},
-        {QStringLiteral("health_ticks"), [&platform] { return platform.audioOutput().availability(); }},
+        {QStringLiteral("health_ticks"),
+         [&platform] {
+             const Availability ticks = platform.audioOutput().availability();
+             return ticks.isAvailable() ? platform.soundStream().availability() : ticks;
+         }},
         {.capabilityKey = QStringLiteral("health_tray"),
          .ask = [&platform] { return platform.statusItem().availability(); },
          .isOptional = true},
@@ -52,7 +57,18 @@ QList<TrackingHealthModel::Check> platformHealthChecks(LinuxPlatform& platform, 
     };
 }
 
-NorvinFocusApp::SharedServices::SharedServices(LinuxPlatform& platform, AlertOverlay& alert) {
+// The oldest of all: to be asked for no more often than it must be.
+static std::optional<QDateTime> oldestSession(const ModelContext& context) {
+    std::optional<QDateTime> oldest;
+    for (const Session& session : context.fetchSessions()) {
+        if (!oldest || session.startTime < *oldest)
+            oldest = session.startTime;
+    }
+    return oldest;
+}
+
+NorvinFocusApp::SharedServices::SharedServices(LinuxPlatform& platform, AlertOverlay& alert,
+                                               ModelContext& context) {
     SharedInstance<AppBlockerService>::setFactory([&platform] {
         return std::make_unique<AppBlockerService>(platform.preferences(), platform.workspace(),
                                                    platform.sounds());
@@ -69,9 +85,24 @@ NorvinFocusApp::SharedServices::SharedServices(LinuxPlatform& platform, AlertOve
     SharedInstance<MotionService>::setFactory([&platform] {
         return std::make_unique<MotionService>(platform.clock(), platform.idleTime(), platform.preferences());
     });
+    SharedInstance<ImmersionService>::setFactory(
+        [&platform] { return std::make_unique<ImmersionService>(platform.preferences()); });
+    SharedInstance<UpdaterService>::setFactory(
+        [&platform] { return std::make_unique<UpdaterService>(platform.updates()); });
+    SharedInstance<LicenseService>::setFactory([&platform, &context] {
+        return std::make_unique<LicenseService>(
+            LicenseService::builtInKey(),
+            LicenseService::Collaborators{.preferences = platform.preferences(),
+                                          .clock = platform.clock(),
+                                          .file = LicenseService::defaultFile(),
+                                          .oldestRecord = [&context] { return oldestSession(context); }});
+    });
 }
 
 NorvinFocusApp::SharedServices::~SharedServices() {
+    SharedInstance<LicenseService>::reset();
+    SharedInstance<UpdaterService>::reset();
+    SharedInstance<ImmersionService>::reset();
     SharedInstance<MotionService>::reset();
     SharedInstance<AppUsageService>::reset();
     SharedInstance<BrowserAlertService>::reset();
@@ -85,12 +116,14 @@ NorvinFocusApp::NorvinFocusApp(LinuxPlatform& platform, std::unique_ptr<ModelCon
     , m_sharedModelContainer(std::move(container))
     , m_localization(platform.preferences())
     , m_alertWindows(platform.overlays(), platform.clock())
-    , m_sharedServices(platform, m_alertWindows)
+    , m_sharedServices(platform, m_alertWindows, m_sharedModelContainer->mainContext())
     , m_soundService(platform.sounds())
+    , m_ambientService(platform.soundStream(), platform.preferences(), platform.clock())
     , m_tickSoundService(platform.audioOutput(), platform.preferences())
     , m_tickSoundSettings(m_tickSoundService, platform.audioOutput())
     , m_timerService(timerCollaborators(platform, m_soundService))
     , m_interruptions(m_timerService)
+    , m_sessionAmbience(m_timerService, m_ambientService, ImmersionService::shared())
     , m_coachService(platform.clock(), AppBlockerService::shared())
     , m_deepWorkScreen(m_timerService, AppUsageService::shared(), MotionService::shared(),
                        m_sharedModelContainer->mainContext())
@@ -117,6 +150,9 @@ NorvinFocusApp::NorvinFocusApp(LinuxPlatform& platform, std::unique_ptr<ModelCon
     , m_backupService(platform.clock(), m_sharedModelContainer->storeFile())
     , m_dataSettings(m_backupService, m_sharedModelContainer->opening(), m_timerService,
                      platform.preferences())
+    , m_updater(UpdaterService::shared())
+    , m_feedbackForm(FeedbackForm::builtInBaseUrl(), platform.preferences(), platform.clock())
+    , m_outsideServices(m_updater, m_feedbackForm, LicenseService::shared())
     , m_preferencesScreen(platform.preferences(), m_tickSoundSettings)
     , m_palette(m_actions, m_planning, m_sharedModelContainer->mainContext())
     , m_userInterface(std::move(engine),
@@ -138,6 +174,7 @@ NorvinFocusApp::NorvinFocusApp(LinuxPlatform& platform, std::unique_ptr<ModelCon
     followStore();
     followPlatform();
     followPreferences();
+    followOutsideServices();
 }
 
 NorvinFocusApp::~NorvinFocusApp() {
@@ -228,6 +265,7 @@ void NorvinFocusApp::followPlatform() {
     connect(&m_platform.statusItem(), &StatusItem::availabilityChanged, this, refresh);
     connect(&m_platform.sounds(), &SystemSounds::availabilityChanged, this, refresh);
     connect(&m_platform.audioOutput(), &AudioOutput::availabilityChanged, this, refresh);
+    connect(&m_platform.soundStream(), &SoundStream::availabilityChanged, this, refresh);
     connect(&m_platform.preferences(), &Preferences::availabilityChanged, this, refresh);
     connect(&m_browserHealth, &BrowserHealth::changed, this, &NorvinFocusApp::refreshHealthSoon);
     connect(&m_browserHealth, &BrowserHealth::noticed, &m_health, &TrackingHealthModel::setNotice);
@@ -239,13 +277,38 @@ void NorvinFocusApp::followPlatform() {
 }
 
 void NorvinFocusApp::followPreferences() {
-    m_preferencesScreen.setCompanions({.autostart = &m_platform.autostart(), .data = &m_dataSettings});
+    m_preferencesScreen.setCompanions({.autostart = &m_platform.autostart(),
+                                       .ambientSounds = &m_ambientService,
+                                       .immersion = &ImmersionService::shared(),
+                                       .outside = &m_outsideServices,
+                                       .data = &m_dataSettings});
     connect(&m_platform.sleepMonitor(), &SleepMonitor::didWake, &m_backupService, &BackupService::handleWake);
     connect(&m_dataSettings, &DataSettings::restartWanted, this, [this] {
         m_isRestartWanted = true;
         quit();
     });
     m_backupService.start();
+}
+
+void NorvinFocusApp::followOutsideServices() {
+    m_actions.add({.id = QStringLiteral("check_for_updates"),
+                   .titleKey = QStringLiteral("check_for_updates"),
+                   .symbol = QStringLiteral("arrow.down.circle"),
+                   .isEnabled = [this] { return m_updater.canCheckForUpdates(); },
+                   .run = [this] { m_updater.checkForUpdates(); }});
+    connect(&m_updater, &UpdaterService::canCheckForUpdatesChanged, &m_actions,
+            &WindowActions::notifyChanged);
+    m_actions.add({.id = QStringLiteral("send_feedback"),
+                   .titleKey = QStringLiteral("action_send_feedback"),
+                   .symbol = QStringLiteral("envelope"),
+                   .isOffered = [this] { return m_feedbackForm.isAvailable(); },
+                   .run = [this] { m_feedbackForm.present(); }});
+    connect(&m_feedbackForm, &FeedbackForm::isAvailableChanged, &m_actions, &WindowActions::notifyChanged);
+
+    LicenseService& license = LicenseService::shared();
+    m_deepWorkScreen.setStartGate([&license] { return license.refusal(); });
+    connect(&license, &LicenseService::changed, &m_deepWorkScreen, &DeepWorkScreen::refreshStartGate);
+    connect(&m_deepWorkScreen, &DeepWorkScreen::gateHelpWanted, &license, &LicenseService::present);
 }
 
 // What browsers say comes in bursts, and in the midst of asking them.
@@ -268,6 +331,7 @@ QList<TrackingHealthModel::Check> NorvinFocusApp::passingHealthChecks() {
 }
 
 void NorvinFocusApp::showWindow() {
+    LicenseService::shared().refresh();
     m_planning.refresh();
     m_stats.refreshDay();
     m_userInterface.showWindow();

@@ -10,12 +10,17 @@
 #include "distraction/TrackingHealthModel.h"
 #include "focus/DeepWorkScreen.h"
 #include "focus/PomodoroTimerService.h"
+#include "focus/SessionAmbience.h"
 #include "focus/TimerInterruptions.h"
 #include "model/ModelContainer.h"
 #include "planning/PlanningScreens.h"
+#include "services/FeedbackForm.h"
+#include "services/OutsideServices.h"
+#include "services/UpdaterService.h"
 #include "settings/BackupService.h"
 #include "settings/DataSettings.h"
 #include "settings/PreferencesScreen.h"
+#include "sound/AmbientSoundService.h"
 #include "sound/SoundService.h"
 #include "sound/TickSoundService.h"
 #include "sound/TickSoundSettings.h"
@@ -64,7 +69,7 @@ private:
     /// Says how the process-wide services are made, and ends them after everything that uses them.
     class SharedServices final {
     public:
-        SharedServices(LinuxPlatform& platform, AlertOverlay& alert);
+        SharedServices(LinuxPlatform& platform, AlertOverlay& alert, ModelContext& context);
         SharedServices(const SharedServices&) = delete;
         SharedServices& operator=(const SharedServices&) = delete;
         ~SharedServices();
@@ -74,6 +79,7 @@ private:
     void followStore();
     void followPlatform();
     void followPreferences();
+    void followOutsideServices();
     void makeMenuBarExtra();
     void refreshHealthSoon();
     [[nodiscard]] QList<TrackingHealthModel::Check> passingHealthChecks();
@@ -88,10 +94,12 @@ private:
     AlertWindows m_alertWindows;
     SharedServices m_sharedServices;
     SoundService m_soundService;
+    AmbientSoundService m_ambientService;
     TickSoundService m_tickSoundService;
     TickSoundSettings m_tickSoundSettings;
     PomodoroTimerService m_timerService;
     TimerInterruptions m_interruptions;
+    SessionAmbience m_sessionAmbience;
     AICoachService m_coachService;
     DeepWorkScreen m_deepWorkScreen;
     PlanningScreens m_planning;
@@ -106,6 +114,9 @@ private:
     TrackingHealthModel m_health;
     BackupService m_backupService;
     DataSettings m_dataSettings;
+    UpdaterService& m_updater;
+    FeedbackForm m_feedbackForm;
+    OutsideServices m_outsideServices;
     PreferencesScreen m_preferencesScreen;
     WindowActions m_actions{nullptr};
     CommandPalette m_palette;

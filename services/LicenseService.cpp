@@ -31,7 +31,7 @@ LicenseService::LicenseService(const QByteArray& publicKey, Collaborators collab
     if (m_key.isEmpty())
         return;
     readInstalled();
-    countTrial();
+    refresh();
 }
 
 LicenseService::~LicenseService() = default;
@@ -79,7 +79,8 @@ void LicenseService::refresh() {
         return;
     const auto before = std::pair(kind(), m_trialDaysLeft);
     m_isLicenseOver = m_license && isLicenseOver(*m_license);
-    countTrial();
+    if (!m_license || m_isLicenseOver)
+        countTrial();
     if (before != std::pair(kind(), m_trialDaysLeft))
         Q_EMIT changed();
 }
@@ -116,10 +117,12 @@ void LicenseService::countTrial() {
     const QDate storedFirst = storedDay(firstLaunchKey);
     const QDate storedLatest = storedDay(latestDayKey);
     QDate first = storedFirst.isValid() ? std::min(storedFirst, today) : today;
-    // What is recorded tells of a launch that the preferences have forgotten.
-    if (const auto oldest =
-            m_collaborators.oldestRecord ? m_collaborators.oldestRecord() : std::optional<QDateTime>())
-        first = std::min(first, oldest->date());
+    // What is recorded tells of a launch that the preferences have forgotten. Asked once: it may take a
+    // while.
+    if (const auto ask = std::exchange(m_collaborators.oldestRecord, {}))
+        m_oldestRecord = ask();
+    if (m_oldestRecord)
+        first = std::min(first, m_oldestRecord->date());
     const QDate latest = storedLatest.isValid() ? std::max(storedLatest, today) : today;
     m_trialDaysLeft = static_cast<int>(std::clamp<qint64>(trialDays - first.daysTo(latest), 0, trialDays));
     for (const auto& [key, stored, day] :
@@ -166,6 +169,19 @@ bool LicenseService::refuse(const QString& reasonKey) {
     m_offeredProblem = reasonKey;
     Q_EMIT changed();
     return false;
+}
+
+void LicenseService::present() {
+    if (std::exchange(m_isPresented, true))
+        return;
+    Q_EMIT isPresentedChanged();
+}
+
+void LicenseService::dismiss() {
+    if (!std::exchange(m_isPresented, false))
+        return;
+    forgetProblem();
+    Q_EMIT isPresentedChanged();
 }
 
 void LicenseService::forgetProblem() {

@@ -42,6 +42,8 @@ class LicenseService final : public QObject {
     Q_PROPERTY(QDate expiry READ expiry NOTIFY changed)
     /// Localisation key of why what is installed, or was offered last, is no licence; empty for neither.
     Q_PROPERTY(QString problemKey READ problemKey NOTIFY changed)
+    /// Whether the way to a licence is shown over the page.
+    Q_PROPERTY(bool isPresented READ isPresented NOTIFY isPresentedChanged)
     /// Where a licence that was received most likely lies.
     Q_PROPERTY(QUrl fileFolder READ fileFolder CONSTANT)
 public:
@@ -54,7 +56,8 @@ public:
         Clock& clock;
         /// Where the licence is kept; its directory is made when there is one to keep.
         QString file;
-        /// When the oldest session of the store began; none for an empty store. May be empty.
+        /// When the oldest session of the store began; none for an empty store. Called once at most, where
+        /// there is no licence; may be empty.
         std::function<std::optional<QDateTime>()> oldestRecord;
     };
 
@@ -77,6 +80,7 @@ public:
     [[nodiscard]] QString email() const { return m_license ? m_license->email : QString(); }
     [[nodiscard]] QDate expiry() const;
     [[nodiscard]] QString problemKey() const;
+    [[nodiscard]] bool isPresented() const { return m_isPresented; }
     [[nodiscard]] static QUrl fileFolder();
     /// The day of expiry in words of that locale; empty where it is invalid.
     Q_INVOKABLE [[nodiscard]] QString expiryText(const QLocale& locale) const;
@@ -91,11 +95,14 @@ public:
     /// but problemKey. @return whether it was taken
     Q_INVOKABLE bool installText(const QString& text);
     Q_INVOKABLE bool installFile(const QUrl& file);
+    Q_INVOKABLE void present();
+    Q_INVOKABLE void dismiss();
     /// Forgets what was wrong with the licence that was offered last.
     Q_INVOKABLE void forgetProblem();
 
 Q_SIGNALS:
     void changed();
+    void isPresentedChanged();
 
 private:
     bool install(const QByteArray& text);
@@ -108,9 +115,11 @@ private:
     QByteArray m_key;
     Collaborators m_collaborators;
     std::optional<License> m_license;
+    std::optional<QDateTime> m_oldestRecord;
     QString m_installedProblem;
     QString m_offeredProblem;
     bool m_isLicenseOver = false;
+    bool m_isPresented = false;
     int m_trialDaysLeft = 0;
 };
 

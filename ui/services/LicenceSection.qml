@@ -13,6 +13,13 @@ ColumnLayout {
     /// Whether the user is about to paste a licence.
     property bool isPasting: false
 
+    /// A licence was taken over.
+    signal installed
+
+    function focusStart(): void {
+        pasteButton.forceActiveFocus(Qt.TabFocusReason);
+    }
+
     function endText(): string {
         return root.license.expiryText(Localization.locale);
     }
@@ -48,6 +55,7 @@ ColumnLayout {
             return;
         pasted.clear();
         root.isPasting = false;
+        root.installed();
     }
 
     objectName: "licenceSection"
@@ -102,6 +110,8 @@ ColumnLayout {
         }
 
         PushButton {
+            id: pasteButton
+
             objectName: "licencePaste"
             visible: !root.isPasting
             symbol: "doc.on.doc"
@@ -126,7 +136,10 @@ ColumnLayout {
         FileChooser {
             filters: [qsTrId("licence_file_filter") + " (*.txt)", qsTrId("licence_all_filter") + " (*)"]
             rejectText: qsTrId("cancel_button")
-            onChosen: root.license.installFile(files[0])
+            onChosen: {
+                if (root.license.installFile(files[0]))
+                    root.installed();
+            }
         }
     }
 }

@@ -14,7 +14,8 @@ Window {
         Projects,
         Statistics,
         BlockLists,
-        Health
+        Health,
+        Preferences
     }
 
     required property DeepWorkScreen deepWork
@@ -23,6 +24,7 @@ Window {
     required property TickSoundSettings tickSounds
     required property BlockListsScreen blockLists
     required property TrackingHealthModel health
+    required property PreferencesScreen preferences
     required property WindowActions actions
     required property CommandPalette palette
     property AICoachService coach: null
@@ -57,7 +59,7 @@ Window {
     color: Theme.background
 
     Instantiator {
-        model: 6
+        model: 7
 
         Shortcut {
             required property int index
@@ -102,6 +104,7 @@ Window {
             tickSounds: root.tickSounds
             blockLists: root.blockLists
             health: root.health
+            preferences: root.preferences
             coach: root.coach
             actions: root.actions
             palette: root.palette
@@ -118,6 +121,7 @@ Window {
         planning: root.planning
         stats: root.stats
         palette: root.palette
+        outside: root.preferences.outside
     }
 
     Deferred {

@@ -10,6 +10,8 @@ Item {
     required property PlanningScreens planning
     required property StatsScreen stats
     required property CommandPalette palette
+    /// May be null.
+    required property OutsideServices outside
 
     LazySheet {
         wanted: root.planning.agenda.showPlanningSheet
@@ -39,6 +41,18 @@ Item {
         wanted: root.palette.isPresented
         file: "CommandPaletteSheet.qml"
         model: root.palette
+    }
+
+    LazySheet {
+        wanted: root.outside !== null && root.outside.feedback.isPresented
+        file: "../services/FeedbackSheet.qml"
+        model: root.outside?.feedback ?? null
+    }
+
+    LazySheet {
+        wanted: root.outside !== null && root.outside.license.isPresented
+        file: "../services/LicenceSheet.qml"
+        model: root.outside?.license ?? null
     }
 
     LazySheet {

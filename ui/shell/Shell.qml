@@ -40,6 +40,12 @@ FocusScope {
     }
     Component.onCompleted: root.focusStart()
 
+    Loader {
+        id: backdrop
+
+        anchors.fill: parent
+    }
+
     RowLayout {
         anchors.fill: parent
         spacing: 0
@@ -84,6 +90,18 @@ FocusScope {
                 }
             }
 
+            Deferred {
+                Layout.fillWidth: true
+                Layout.margins: Theme.gap4
+                Layout.bottomMargin: 0
+                visible: active
+                active: root.furnished && root.preferences.outside !== null && root.preferences.outside.updater.isNoticeShown
+
+                UpdateNotice {
+                    model: root.preferences.outside.updater
+                }
+            }
+
             StackLayout {
                 currentIndex: root.page
 
@@ -94,6 +112,8 @@ FocusScope {
                     screen: root.deepWork
                     coach: root.coach
                     tickSounds: root.tickSounds
+                    ambientSounds: root.preferences.ambientSounds
+                    immersion: root.preferences.immersion
                     live: root.live && root.page === Main.PageNumber.DeepWork
                     furnished: root.furnished
                 }
@@ -134,6 +154,25 @@ FocusScope {
                     model: root.preferences
                 }
             }
+        }
+    }
+
+    // Over the pages; loaded with the first session that is immersed.
+    Loader {
+        id: immersion
+
+        readonly property bool wanted: root.preferences.immersion !== null && root.preferences.immersion.effectiveDepth > 0
+
+        anchors.fill: parent
+        onWantedChanged: {
+            if (immersion.item)
+                return;
+            backdrop.setSource("../immersion/ImmersionBackdrop.qml", {
+                service: root.preferences.immersion
+            });
+            immersion.setSource("../immersion/ImmersionOverlayView.qml", {
+                service: root.preferences.immersion
+            });
         }
     }
 }
