@@ -7,6 +7,7 @@
 
 #include <QFontDatabase>
 #include <QQmlComponent>
+#include <QQuickWindow>
 #include <QThreadPool>
 #include <QUrl>
 
@@ -68,18 +69,26 @@ std::unique_ptr<QObject> InterfaceEngine::createWindow(const QVariantMap& proper
     return object;
 }
 
-std::unique_ptr<OverlayWindow> InterfaceEngine::createOverlay(const char* file,
-                                                              const QVariantMap& properties) {
+std::unique_ptr<QQuickWindow> InterfaceEngine::createWindow(const char* file, const QVariantMap& properties) {
     QQmlComponent component(&m_engine, addressOf(file));
     std::unique_ptr<QObject> object(component.createWithInitialProperties(properties));
-    std::unique_ptr<OverlayWindow> overlay(qobject_cast<OverlayWindow*>(object.get()));
-    if (!overlay) {
-        logLine(
-            QStringLiteral("InterfaceEngine: The overlay cannot be built: %1").arg(component.errorString()));
+    std::unique_ptr<QQuickWindow> window(qobject_cast<QQuickWindow*>(object.get()));
+    if (!window) {
+        logLine(QStringLiteral("InterfaceEngine: %1 cannot be built: %2")
+                    .arg(QLatin1String(file), component.errorString()));
         return nullptr;
     }
-    static_cast<void>(object.release()); // the same object as overlay
-    return overlay;
+    static_cast<void>(object.release()); // the same object as window
+    return window;
+}
+
+std::unique_ptr<OverlayWindow> InterfaceEngine::createOverlay(const char* file,
+                                                              const QVariantMap& properties) {
+    std::unique_ptr<QQuickWindow> window = createWindow(file, properties);
+    auto* overlay = qobject_cast<OverlayWindow*>(window.get());
+    if (overlay)
+        static_cast<void>(window.release()); // the same object as overlay
+    return std::unique_ptr<OverlayWindow>(overlay);
 }
 
 } // namespace norvin

@@ -5,6 +5,7 @@
 #include <memory>
 
 class QQmlComponent;
+class QQuickWindow;
 
 namespace norvin {
 
@@ -33,6 +34,9 @@ public:
     /// Makes the main window with these properties, hidden.
     /// @return null where it cannot be made; the reason is logged
     [[nodiscard]] std::unique_ptr<QObject> createWindow(const QVariantMap& properties);
+    /// Makes another window from its file, with these properties, hidden.
+    /// @return null where it cannot be made; the reason is logged
+    [[nodiscard]] std::unique_ptr<QQuickWindow> createWindow(const char* file, const QVariantMap& properties);
     /// Makes an overlay from its file, with these properties, hidden.
     /// @return null where it cannot be made; the reason is logged
     [[nodiscard]] std::unique_ptr<OverlayWindow> createOverlay(const char* file,
