@@ -190,7 +190,7 @@ ExitCode RemoteControl::doctor() {
     const QJsonArray health = parsed(reply).array();
     print(stdout, healthText(health, &textForKey));
     for (const QJsonValue& check : health) {
-        if (!check[QStringLiteral("available")].toBool())
+        if (!check[QStringLiteral("available")].toBool() && !check[QStringLiteral("optional")].toBool())
             return ExitCode::refused;
     }
     return ExitCode::done;

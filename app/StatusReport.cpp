@@ -99,6 +99,7 @@ QJsonArray healthReport(const TrackingHealthModel& health) {
             {QStringLiteral("capability"), health.capabilityKey(row)},
             {QStringLiteral("subject"), textOrNull(health.subject(row))},
             {QStringLiteral("available"), !reason.has_value()},
+            {QStringLiteral("optional"), health.isOptional(row)},
             {QStringLiteral("reason"), reason ? QJsonValue(reason->reasonKey) : QJsonValue()},
             {QStringLiteral("detail"), reason ? textOrNull(reason->detail) : QJsonValue()},
         });
@@ -187,7 +188,10 @@ QString healthText(const QJsonArray& health, QString (*translated)(const QString
             return translated(key).replace(QLatin1String("%1"), subject);
         };
         const bool available = check[QStringLiteral("available")].toBool();
-        text += (available ? QStringLiteral("ok       ") : QStringLiteral("missing  ")) +
+        const bool isOptional = check[QStringLiteral("optional")].toBool();
+        text += (available    ? QStringLiteral("ok       ")
+                 : isOptional ? QStringLiteral("absent   ")
+                              : QStringLiteral("missing  ")) +
                 sentence(check[QStringLiteral("capability")].toString()) + u'\n';
         if (available)
             continue;

@@ -72,6 +72,8 @@ QVariant TrackingHealthModel::data(const QModelIndex& index, int role) const {
         return reason ? reason->detail : QString();
     case ActionsRole:
         return labels(row.actions, row.check.subject);
+    case IsOptionalRole:
+        return row.check.isOptional;
     default:
         return {};
     }
@@ -79,7 +81,8 @@ QVariant TrackingHealthModel::data(const QModelIndex& index, int role) const {
 
 QHash<int, QByteArray> TrackingHealthModel::roleNames() const {
     return {{CapabilityRole, "capability"}, {IsAvailableRole, "isAvailable"}, {ReasonRole, "reason"},
-            {RemedyRole, "remedy"},         {DetailRole, "detail"},           {ActionsRole, "actions"}};
+            {RemedyRole, "remedy"},         {DetailRole, "detail"},           {ActionsRole, "actions"},
+            {IsOptionalRole, "isOptional"}};
 }
 
 QString TrackingHealthModel::notice() const {
@@ -121,8 +124,9 @@ void TrackingHealthModel::refresh() {
         const QModelIndex changed = index(static_cast<int>(i));
         Q_EMIT dataChanged(changed, changed);
     }
-    const auto problems = static_cast<int>(std::count_if(
-        m_rows.cbegin(), m_rows.cend(), [](const Row& row) { return !row.answer.isAvailable(); }));
+    const auto problems = static_cast<int>(std::count_if(m_rows.cbegin(), m_rows.cend(), [](const Row& row) {
+        return !row.answer.isAvailable() && !row.check.isOptional;
+    }));
     if (problems != m_problemCount) {
         m_problemCount = problems;
         Q_EMIT problemCountChanged();

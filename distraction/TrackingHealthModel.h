@@ -16,7 +16,7 @@ namespace norvin {
 /// thread only.
 class TrackingHealthModel final : public QAbstractListModel {
     Q_OBJECT
-    /// How many checks fail.
+    /// How many checks fail that the program is not whole without.
     Q_PROPERTY(int problemCount READ problemCount NOTIFY problemCountChanged)
     /// What came of the last action, in the user's language; empty for nothing worth saying.
     Q_PROPERTY(QString notice READ notice NOTIFY noticeChanged)
@@ -32,6 +32,7 @@ public:
         RemedyRole,                        ///< what to do, in the user's language; empty while available
         DetailRole,                        ///< technical detail, may be empty
         ActionsRole,                       ///< labels of what act() does, in the user's language
+        IsOptionalRole, ///< boolean: not every desktop has it, so no fault where it is missing
     };
     /// A sentence about what an action came to.
     struct Notice {
@@ -58,6 +59,8 @@ public:
         QString subject = {};
         /// What can be done, as things are now; may be empty.
         std::function<QList<Action>()> actions = {};
+        /// Whether not every desktop has it, so that it is no fault where it is missing.
+        bool isOptional = false;
     };
 
     explicit TrackingHealthModel(QList<Check> checks, QObject* parent = nullptr);
@@ -81,6 +84,7 @@ public:
     /// What the check is about; empty for nothing in particular.
     [[nodiscard]] const QString& subject(int row) const { return m_rows.at(row).check.subject; }
     [[nodiscard]] const Availability& availability(int row) const { return m_rows.at(row).answer; }
+    [[nodiscard]] bool isOptional(int row) const { return m_rows.at(row).check.isOptional; }
 
     /// Asks every check again.
     Q_INVOKABLE void refresh();

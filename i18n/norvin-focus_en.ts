@@ -151,6 +151,10 @@
         <source></source>
         <translation>Brown noise</translation>
     </message>
+    <message id="ambience_button">
+        <source></source>
+        <translation>Ambient sound: %1 (Ctrl+M)</translation>
+    </message>
     <message id="ambience_category_focus">
         <source></source>
         <translation>Focus</translation>
@@ -1398,6 +1402,10 @@
         <source></source>
         <translation>Go to today</translation>
     </message>
+    <message id="health_absent">
+        <source></source>
+        <translation>Not on this desktop</translation>
+    </message>
     <message id="health_accessibility_missing">
         <source></source>
         <translation>This desktop has no accessibility service, so the pages of a browser cannot be told apart.</translation>
@@ -1647,7 +1655,7 @@
     </message>
     <message id="health_ticks">
         <source></source>
-        <translation>Tick sounds</translation>
+        <translation>Ticks and ambient sound</translation>
     </message>
     <message id="health_title">
         <source></source>
@@ -1768,6 +1776,10 @@
     <message id="immersion_reduced_motion">
         <source></source>
         <translation>Your desktop asks for less motion: the window only deepens in colour.</translation>
+    </message>
+    <message id="immersion_subtitle">
+        <source></source>
+        <translation>The window sinks into deep water over the first minutes of a work phase</translation>
     </message>
     <message id="immersion_title">
         <source></source>

@@ -151,6 +151,10 @@
         <source></source>
         <translation>Bruit brun</translation>
     </message>
+    <message id="ambience_button">
+        <source></source>
+        <translation>Son d’ambiance : %1 (Ctrl+M)</translation>
+    </message>
     <message id="ambience_category_focus">
         <source></source>
         <translation>Concentration</translation>
@@ -1398,6 +1402,10 @@
         <source></source>
         <translation>Revenir à aujourd’hui</translation>
     </message>
+    <message id="health_absent">
+        <source></source>
+        <translation>Absent de ce bureau</translation>
+    </message>
     <message id="health_accessibility_missing">
         <source></source>
         <translation>Ce bureau n’a pas de service d’accessibilité : les pages d’un navigateur ne peuvent pas être distinguées.</translation>
@@ -1647,7 +1655,7 @@
     </message>
     <message id="health_ticks">
         <source></source>
-        <translation>Tic-tac</translation>
+        <translation>Tic-tac et son d’ambiance</translation>
     </message>
     <message id="health_title">
         <source></source>
@@ -1768,6 +1776,10 @@
     <message id="immersion_reduced_motion">
         <source></source>
         <translation>Votre bureau demande moins de mouvement : seule la teinte s’approfondit.</translation>
+    </message>
+    <message id="immersion_subtitle">
+        <source></source>
+        <translation>La fenêtre plonge en eau profonde au fil des premières minutes de travail</translation>
     </message>
     <message id="immersion_title">
         <source></source>

@@ -14,14 +14,28 @@ Card {
     required property string remedy
     required property string detail
     required property list<string> actions
+    /// Not every desktop has it, so it is no fault where it is missing.
+    required property bool isOptional
     required property bool hasKeyboard
 
     signal actionChosen(action: int)
 
+    function outcome(): string {
+        if (root.isAvailable)
+            return qsTrId("health_works");
+        return root.isOptional ? qsTrId("health_absent") : qsTrId("health_fails");
+    }
+
+    function outcomeColor(): color {
+        if (root.isAvailable)
+            return Theme.legitimate;
+        return root.isOptional ? Theme.textMuted : Theme.amber;
+    }
+
     implicitHeight: Math.max(row.implicitHeight + 2 * Theme.gap3, 52)
     radius: Theme.radius
     Accessible.role: Accessible.ListItem
-    Accessible.name: root.capability + ", " + (root.isAvailable ? qsTrId("health_works") : qsTrId("health_fails"))
+    Accessible.name: root.capability + ", " + root.outcome()
     Accessible.description: root.isAvailable ? "" : root.reason + " " + root.remedy
 
     RowLayout {
@@ -36,8 +50,8 @@ Card {
 
         Symbol {
             Layout.alignment: root.isAvailable ? Qt.AlignVCenter : Qt.AlignTop
-            name: root.isAvailable ? "checkmark.circle.fill" : "exclamationmark.triangle"
-            color: root.isAvailable ? Theme.legitimate : Theme.amber
+            name: root.isAvailable ? "checkmark.circle.fill" : root.isOptional ? "circle" : "exclamationmark.triangle"
+            color: root.outcomeColor()
             size: 20
         }
 
@@ -99,8 +113,8 @@ Card {
 
         ThemedText {
             Layout.alignment: root.isAvailable ? Qt.AlignVCenter : Qt.AlignTop
-            text: root.isAvailable ? qsTrId("health_works") : qsTrId("health_fails")
-            color: root.isAvailable ? Theme.legitimate : Theme.amber
+            text: root.outcome()
+            color: root.outcomeColor()
         }
     }
 
