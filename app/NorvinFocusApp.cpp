@@ -13,6 +13,7 @@
 #include "ui/InterfaceEngine.h"
 
 #include <QCoreApplication>
+#include <QQuickWindow>
 
 namespace norvin {
 

@@ -5,6 +5,7 @@
 #include "distraction/TrackingHealthModel.h"
 #include "focus/DeepWorkScreen.h"
 #include "planning/PlanningScreens.h"
+#include "settings/PreferencesScreen.h"
 #include "sound/TickSoundSettings.h"
 #include "stats/StatsScreen.h"
 #include "ui/InterfaceEngine.h"
@@ -43,11 +44,13 @@ UserInterface::UserInterface(std::unique_ptr<InterfaceEngine> engine, const Scre
     , m_engine(std::move(engine)) {
     m_screens.planning.retranslate(localization.locale());
     m_screens.stats.retranslate(localization.locale());
+    m_screens.preferences.retranslate(localization.locale());
     m_engine->setSingletons(localization, *m_motion);
     connect(&localization, &Localization::languageChanged, this, [this] {
         m_screens.health.retranslate();
         m_screens.planning.retranslate(m_localization.locale());
         m_screens.stats.retranslate(m_localization.locale());
+        m_screens.preferences.retranslate(m_localization.locale());
         m_screens.blockLists.retranslate();
         m_engine->retranslate();
     });
@@ -70,6 +73,7 @@ bool UserInterface::load() {
         {QStringLiteral("tickSounds"), QVariant::fromValue(&m_screens.tickSounds)},
         {QStringLiteral("blockLists"), QVariant::fromValue(&m_screens.blockLists)},
         {QStringLiteral("health"), QVariant::fromValue(&m_screens.health)},
+        {QStringLiteral("preferences"), QVariant::fromValue(&m_screens.preferences)},
         {QStringLiteral("actions"), QVariant::fromValue(&m_screens.actions)},
         {QStringLiteral("palette"), QVariant::fromValue(&m_screens.palette)},
         {QStringLiteral("coach"), QVariant::fromValue(m_coach)},
@@ -114,7 +118,8 @@ void UserInterface::addActions() {
                              PageAction{"show_projects", "sidebar_projects", "folder"},
                              PageAction{"show_statistics", "sidebar_statistics", "chart.bar"},
                              PageAction{"show_block_lists", "sidebar_block_lists", "hand.raised"},
-                             PageAction{"show_health", "sidebar_health", "waveform.path.ecg"}}) {
+                             PageAction{"show_health", "sidebar_health", "waveform.path.ecg"},
+                             PageAction{"show_preferences", "preferences_title", "gearshape"}}) {
         actions.add({.id = QLatin1String(page.id),
                      .titleKey = QLatin1String(page.titleKey),
                      .symbol = QLatin1String(page.symbol),
@@ -122,6 +127,9 @@ void UserInterface::addActions() {
                      .run = [&actions, number] { Q_EMIT actions.pageWanted(number); }});
         ++number;
     }
+
+    connect(&m_screens.preferences, &PreferencesScreen::blockListsWanted, &actions,
+            [&actions] { actions.run(QStringLiteral("show_block_lists")); });
 
     const auto isState = [&deepWork](const char* state) {
         return [&deepWork, state] { return deepWork.state() == QLatin1String(state); };

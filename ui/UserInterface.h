@@ -19,6 +19,7 @@ class Localization;
 class MotionPreference;
 class PlanningScreens;
 class Preferences;
+class PreferencesScreen;
 class StatsScreen;
 class TickSoundSettings;
 class TrackingHealthModel;
@@ -43,6 +44,7 @@ public:
         TickSoundSettings& tickSounds;
         BlockListsScreen& blockLists;
         TrackingHealthModel& health;
+        PreferencesScreen& preferences;
         /// The window adds those of its own.
         WindowActions& actions;
         CommandPalette& palette;

@@ -4,8 +4,15 @@
 #include "distraction/BlockListsScreen.h"
 #include "distraction/TrackingHealthModel.h"
 #include "focus/DeepWorkScreen.h"
+#include "focus/SessionAmbience.h"
 #include "planning/PlanningScreens.h"
 #include "platform/fake/FakeAudioOutput.h"
+#include "platform/fake/FakeSoundStream.h"
+#include "platform/fake/FakeUpdateSource.h"
+#include "services/OutsideServices.h"
+#include "settings/PreferencesScreen.h"
+#include "sound/AmbientSoundService.h"
+#include "sound/ImmersionService.h"
 #include "sound/TickSoundService.h"
 #include "sound/TickSoundSettings.h"
 #include "stats/StatsScreen.h"
@@ -19,18 +26,23 @@
 #include <QAccessible>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QTemporaryDir>
 #include <QtTest>
 
 namespace norvin {
 
 /// The real window over a focus engine on fakes.
 struct UiRig {
-    explicit UiRig(const QString& language = QStringLiteral("en")) {
+    /// @param key that licences are verified with; empty for a program that needs none
+    explicit UiRig(const QString& language = QStringLiteral("en"), const QByteArray& key = {})
+        : licenseKey(key) {
         focus.preferences.setValue(QLatin1String(Localization::preferencesKey), language);
         localization = std::make_unique<Localization>(focus.preferences);
         for (const char* name : {"Archive Manager", "Calculator", "Editor", "Game", "Terminal"})
             install(QString::fromLatin1(name));
         health.refresh();
+        preferences.setCompanions(
+            {.ambientSounds = &ambientSounds, .immersion = &immersion, .outside = &outside});
         userInterface =
             std::make_unique<UserInterface>(std::make_unique<InterfaceEngine>(),
                                             UserInterface::Screens{.deepWork = deepWork,
@@ -39,6 +51,7 @@ struct UiRig {
                                                                    .tickSounds = tickSoundSettings,
                                                                    .blockLists = blockLists,
                                                                    .health = health,
+                                                                   .preferences = preferences,
                                                                    .actions = actions,
                                                                    .palette = palette},
                                             *localization);
@@ -70,7 +83,7 @@ struct UiRig {
             QTest::keyClick(window(), character.toLatin1());
     }
     /// In the order of the sidebar.
-    enum class Page { deepWork, agenda, projects, statistics, blockLists, health };
+    enum class Page { deepWork, agenda, projects, statistics, blockLists, health, preferences };
     void showPage(Page page) const { press(Qt::Key_1 + static_cast<int>(page), Qt::ControlModifier); }
 
     /// The first item of that name that is shown; null for none.
@@ -154,6 +167,10 @@ struct UiRig {
     FakeAudioOutput audioOutput{focus.clock};
     TickSoundService tickSounds{audioOutput, focus.preferences};
     TickSoundSettings tickSoundSettings{tickSounds, audioOutput};
+    FakeSoundStream soundStream;
+    AmbientSoundService ambientSounds{soundStream, focus.preferences, focus.clock};
+    ImmersionService immersion{focus.preferences};
+    SessionAmbience ambience{focus.timer, ambientSounds, immersion};
     AICoachService coach{focus.clock, focus.blocker};
     DeepWorkScreen deepWork{focus.timer, focus.usage, focus.motion, focus.context()};
     PlanningScreens planning{focus.context(), focus.timer, focus.soundService, focus.clock};
@@ -166,6 +183,18 @@ struct UiRig {
         {{QStringLiteral("health_frontmost_application"), [] { return Availability::available(); }},
          {QStringLiteral("health_idle_time"), [this] { return idleTime; }},
          {QStringLiteral("health_browser_pages"), [this] { return pages; }}}};
+    QByteArray licenseKey;
+    QTemporaryDir licenses;
+    FakeUpdateSource updates;
+    UpdaterService updater{updates};
+    FeedbackForm feedback{QString(), focus.preferences, focus.clock};
+    LicenseService license{
+        licenseKey, LicenseService::Collaborators{.preferences = focus.preferences,
+                                                  .clock = focus.clock,
+                                                  .file = licenses.filePath(QStringLiteral("licence.txt")),
+                                                  .oldestRecord = {}}};
+    OutsideServices outside{updater, feedback, license};
+    PreferencesScreen preferences{focus.preferences, tickSoundSettings};
     WindowActions actions{nullptr};
     CommandPalette palette{actions, planning, focus.context()};
     std::unique_ptr<UserInterface> userInterface;

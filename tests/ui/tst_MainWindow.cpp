@@ -302,7 +302,10 @@ void MainWindowTest::aNumberThatGrowsStaysInItsPlace() {
 
 void MainWindowTest::theLanguageChangesEverything() {
     QVERIFY(shows(QStringLiteral("Start")));
-    QMetaObject::invokeMethod(rig->item("languageChoice"), "chosen", Q_ARG(QString, QStringLiteral("fr")));
+    rig->showPage(UiRig::Page::preferences);
+    QTRY_VERIFY(rig->visible("preferencesLanguage"));
+    QMetaObject::invokeMethod(rig->visible("preferencesLanguage"), "chosen", Q_ARG(QString, QStringLiteral("fr")));
+    rig->showPage(UiRig::Page::deepWork);
     QVERIFY(shows(QStringLiteral("Démarrer")));
     QCOMPARE(rig->focus.preferences.value(QStringLiteral("app_language")).value().toString(),
              QStringLiteral("fr"));

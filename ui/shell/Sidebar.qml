@@ -127,25 +127,12 @@ Rectangle {
             Layout.fillHeight: true
         }
 
-        Deferred {
-            Layout.fillWidth: true
-            Layout.leftMargin: Theme.gap1
-            active: root.furnished
-
-            Item {
-                implicitHeight: language.implicitHeight
-
-                SegmentedChoice {
-                    id: language
-
-                    objectName: "languageChoice"
-                    name: qsTrId("language_label")
-                    values: Localization.languages
-                    labels: Localization.languageNames
-                    value: Localization.language
-                    onChosen: value => Localization.language = value
-                }
-            }
+        SidebarEntry {
+            symbol: "gearshape"
+            text: qsTrId("preferences_title")
+            keys: "Ctrl+7"
+            isCurrent: root.page === Main.PageNumber.Preferences
+            onClicked: root.pageChosen(Main.PageNumber.Preferences)
         }
     }
 }
