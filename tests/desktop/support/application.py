@@ -13,6 +13,8 @@ from support.processes import wait_until
 
 PROGRAM = os.environ.get("PROGRAM_UNDER_TEST", "build/dev/bin/norvin-focus")
 
+FLOATING_TIMER_TITLES = ("Floating timer", "Minuteur flottant")
+
 
 class Application:
     """The program on one desktop."""
@@ -96,9 +98,19 @@ class Application:
                 if not self.desktop.is_overlay(window)]
 
     def overlays(self):
-        """The windows of the program that lie over all others."""
+        """The windows of the program that lie over all others, but for the floating timer."""
+        return [window for window in self._overlays() if not self._is_floating_timer(window)]
+
+    def floating_timer(self):
+        """The window of the floating timer; none while it is not shown."""
+        return next((window for window in self._overlays() if self._is_floating_timer(window)), None)
+
+    def _overlays(self):
         return [window for window in self.desktop.visible_windows("--pid", str(self.process.pid))
                 if self.desktop.is_overlay(window)]
+
+    def _is_floating_timer(self, window):
+        return self.desktop.run("xdotool", "getwindowname", str(window)).strip() in FLOATING_TIMER_TITLES
 
     def close_windows(self):
         """Closes each window as its user does."""
