@@ -25,6 +25,8 @@ public:
     SoundSource& operator=(const SoundSource&) = delete;
     virtual ~SoundSource() = default;
 
+    /// Whether anything is to be heard from now on.
+    [[nodiscard]] virtual bool hasSound() const = 0;
     /// A stream begins or has ended: frames are counted from zero, and nothing made before is asked for
     /// again.
     virtual void reset() = 0;

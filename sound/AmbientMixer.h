@@ -31,6 +31,7 @@ public:
     /// @param amplitude 0.0 to 1.0, what everything is multiplied by
     void setVolume(double amplitude) { m_wantedVolume = static_cast<float>(amplitude); }
 
+    [[nodiscard]] bool hasSound() const override { return m_wanted.has_value(); }
     void reset() override;
     bool fill(std::int64_t first, std::span<SoundFrame> frames) override;
 

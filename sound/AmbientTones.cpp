@@ -158,7 +158,7 @@ public:
     explicit SingingBowls(std::uint64_t seed)
         : m_random(seed)
         , m_ground(seed) {
-        strike(0);
+        strike();
     }
 
     void render(Block block) override {
@@ -167,7 +167,7 @@ public:
             frame = {0.3F * frame.left, 0.3F * frame.right};
         m_pause -= blockSeconds;
         if (m_pause <= 0)
-            strike(0);
+            strike();
         m_bowls.addTo(block);
     }
 
@@ -181,7 +181,8 @@ private:
     static constexpr std::array modes{Mode{1, 7, 0.5F}, Mode{2.74F, 4.5F, 0.2F}, Mode{5.13F, 2.2F, 0.07F}};
     static constexpr std::array bowls{131.0F, 174.6F, 196.0F, 233.1F, 261.6F};
 
-    void strike(int offset) {
+    void strike() {
+        const auto offset = static_cast<int>(m_random.below(blockFrames));
         m_pause = m_random.between(4, 9);
         const float bowl = bowls[m_random.below(bowls.size())];
         const float force = m_random.between(0.6F, 1);

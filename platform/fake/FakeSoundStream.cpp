@@ -21,11 +21,13 @@ void FakeSoundStream::setSource(SoundSource* source) {
 void FakeSoundStream::refresh() {
     if (m_source == nullptr)
         return;
-    m_isWanted = true;
+    m_isWanted = m_source->hasSound();
     if (!m_availability.isAvailable())
         return;
     if (!m_isPlaying) {
-        begin();
+        m_isWanted = m_source->hasSound();
+        if (m_isWanted)
+            begin();
         return;
     }
     const std::int64_t first = m_heard + framesIn(margin);

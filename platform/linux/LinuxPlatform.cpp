@@ -21,6 +21,7 @@
 #include "platform/linux/identity/ApplicationIdentity.h"
 #include "platform/linux/login1/Login1SleepMonitor.h"
 #include "platform/linux/pulse/PulseAudioOutput.h"
+#include "platform/linux/pulse/PulseSoundStream.h"
 #include "platform/linux/settings/IniPreferences.h"
 #include "platform/linux/updates/UpdateSources.h"
 #include "platform/linux/statusnotifier/StatusNotifierItem.h"
@@ -85,6 +86,7 @@ struct LinuxPlatform::Parts {
     StatusNotifierItem statusItem{sessionBus()};
     CanberraSounds sounds;
     PulseAudioOutput audioOutput{clock, audioSampleRate};
+    PulseSoundStream soundStream{clock, audioSampleRate};
     AtspiTrust accessibilityTrust{sessionBus()};
     AtspiBrowsers accessibleBrowsers{sessionBus(), clock};
     ExtensionServer extensions{clock};
@@ -208,6 +210,10 @@ SystemSounds& LinuxPlatform::sounds() const {
 
 AudioOutput& LinuxPlatform::audioOutput() const {
     return m_parts->audioOutput;
+}
+
+SoundStream& LinuxPlatform::soundStream() const {
+    return m_parts->soundStream;
 }
 
 Autostart& LinuxPlatform::autostart() const {

@@ -12,6 +12,7 @@
 #include "platform/OverlaySupport.h"
 #include "platform/Preferences.h"
 #include "platform/SleepMonitor.h"
+#include "platform/SoundStream.h"
 #include "platform/StatusItem.h"
 #include "platform/SystemSounds.h"
 #include "platform/UpdateSource.h"
@@ -58,6 +59,8 @@ public:
     [[nodiscard]] SystemSounds& sounds() const;
     /// Generated sound, at 44,100 frames a second.
     [[nodiscard]] AudioOutput& audioOutput() const;
+    /// Continuous sound, at the same rate.
+    [[nodiscard]] SoundStream& soundStream() const;
     /// Made when it is first asked for.
     [[nodiscard]] Autostart& autostart() const;
     /// Made when it is first asked for.

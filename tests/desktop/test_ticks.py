@@ -66,20 +66,20 @@ class Ticks(DesktopTestCase):
         app, recording = self.start(self.desktop, server)
         app.do("start")
         wait_until(lambda: len(recording.sounds()) >= 2, "the session ticks")
-        self.assertNotIn("missing  Tick sounds", app.command("doctor")[1])
+        self.assertNotIn("missing  Ticks and ambient sound", app.command("doctor")[1])
 
         server.kill()
-        wait_until(lambda: "missing  Tick sounds" in app.command("doctor")[1], "the doctor misses the server")
+        wait_until(lambda: "missing  Ticks and ambient sound" in app.command("doctor")[1], "the doctor misses the server")
         server.start()
         recording = Recording(self.desktop, "recording after the restart")
         wait_until(lambda: len(recording.sounds()) >= 2, "the session ticks again")
-        self.assertNotIn("missing  Tick sounds", app.command("doctor")[1])
+        self.assertNotIn("missing  Ticks and ambient sound", app.command("doctor")[1])
 
         server.freeze()
         # The program that waited for the server would not answer before the command gives up.
         before = app.status()["timeRemaining"]
         app.wait_for(lambda s: s["timeRemaining"] <= before - 4, "the session goes on without the server")
-        self.assertIn("missing  Tick sounds", app.command("doctor")[1])
+        self.assertIn("missing  Ticks and ambient sound", app.command("doctor")[1])
         heard = len(recording.sounds())
         server.thaw()
         sounds = wait_until(lambda: (found := recording.sounds())[heard + 2:] and found, "ticks after the pause")

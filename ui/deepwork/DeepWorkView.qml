@@ -12,6 +12,9 @@ FocusScope {
     required property DeepWorkScreen screen
     required property AICoachService coach
     required property TickSoundSettings tickSounds
+    /// Each may be null: then there is no button for them.
+    required property AmbientSoundService ambientSounds
+    required property ImmersionService immersion
     /// Whether anybody can see the screen.
     required property bool live
     /// Whether the tasks are wanted already: they are left out of the first picture, which is there sooner so.
@@ -39,13 +42,20 @@ FocusScope {
     }
 
     function openTickSounds(): void {
-        if (tickSoundSheet.item)
-            return;
-        tickSoundSheet.keyboardBefore = root.Window.activeFocusItem;
-        tickSoundSheet.setSource("../sound/TickSoundSettingsSheet.qml", {
-            settings: root.tickSounds,
-            host: tickSoundSheet
-        });
+        if (sheets.begin())
+            sheets.setSource("../sound/TickSoundSettingsSheet.qml", {
+                settings: root.tickSounds,
+                host: sheets
+            });
+    }
+
+    function openAmbience(): void {
+        if (root.ambientSounds && sheets.begin())
+            sheets.setSource("../sound/AmbienceSheet.qml", {
+                sounds: root.ambientSounds,
+                immersion: root.immersion,
+                host: sheets
+            });
     }
 
     function phaseName(): string {
@@ -70,6 +80,12 @@ FocusScope {
         sequences: ["Ctrl+T"]
         enabled: root.visible
         onActivated: root.openTickSounds()
+    }
+
+    Shortcut {
+        sequences: ["Ctrl+M"]
+        enabled: root.visible
+        onActivated: root.openAmbience()
     }
 
     Keys.onSpacePressed: {
@@ -111,16 +127,8 @@ FocusScope {
         }
     }
 
-    // Loaded when it is wanted, and gone when it is closed.
-    Loader {
-        id: tickSoundSheet
-
-        property Item keyboardBefore: null
-
-        onItemChanged: {
-            if (!tickSoundSheet.item && tickSoundSheet.keyboardBefore)
-                tickSoundSheet.keyboardBefore.forceActiveFocus(Qt.PopupFocusReason);
-        }
+    SheetLoader {
+        id: sheets
     }
 
     RowLayout {
@@ -211,6 +219,8 @@ FocusScope {
                         screen: root.screen
                         ticksAreOn: root.tickSounds.isEnabled
                         onTickSoundsWanted: root.openTickSounds()
+                        ambientSounds: root.ambientSounds
+                        onAmbienceWanted: root.openAmbience()
                     }
 
                     ThemedText {

@@ -10,9 +10,12 @@ RowLayout {
 
     required property DeepWorkScreen screen
     required property bool ticksAreOn
+    /// Null for none.
+    required property AmbientSoundService ambientSounds
     readonly property string timerState: root.screen.state
 
     signal tickSoundsWanted
+    signal ambienceWanted
 
     function toggle(): void {
         if (root.screen.state === "running")
@@ -31,7 +34,7 @@ RowLayout {
 
     // Keeps the other buttons in the middle.
     Item {
-        implicitWidth: Theme.controlHeightLarge
+        implicitWidth: root.ambientSounds ? 2 * Theme.controlHeightLarge + root.spacing : Theme.controlHeightLarge
     }
 
     PushButton {
@@ -62,5 +65,17 @@ RowLayout {
         symbolSize: 24
         text: root.ticksAreOn ? qsTrId("tick_sounds_button_on") : qsTrId("tick_sounds_button_off")
         onClicked: root.tickSoundsWanted()
+    }
+
+    IconButton {
+        objectName: "ambienceButton"
+        implicitWidth: Theme.controlHeightLarge
+        implicitHeight: Theme.controlHeightLarge
+        visible: root.ambientSounds !== null
+        symbol: "headphones"
+        symbolColor: hovered || visualFocus ? Theme.text : root.ambientSounds?.isPlaying ? Theme.accentText : Theme.textMuted
+        symbolSize: 24
+        text: qsTrId("ambience_button").arg(root.ambientSounds?.soundName(root.ambientSounds.selectedSound) ?? "")
+        onClicked: root.ambienceWanted()
     }
 }

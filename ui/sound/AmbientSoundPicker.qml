@@ -19,6 +19,13 @@ ColumnLayout {
             root.category = root.service.selectedCategory;
     }
 
+    function takeKeyboard(): void {
+        if (root.compact)
+            choice.forceActiveFocus(Qt.TabFocusReason);
+        else
+            list.forceActiveFocus(Qt.TabFocusReason);
+    }
+
     spacing: root.compact ? Theme.gap2 : Theme.gap4
 
     Component.onDestruction: root.service.endPreview()
@@ -51,6 +58,8 @@ ColumnLayout {
         }
 
         ChoiceBox {
+            id: choice
+
             objectName: "ambientChoice"
             Layout.fillWidth: true
             name: qsTrId("ambience_title")
@@ -83,6 +92,8 @@ ColumnLayout {
     }
 
     AmbientSoundList {
+        id: list
+
         objectName: "ambientSounds"
         Layout.fillWidth: true
         visible: !root.compact

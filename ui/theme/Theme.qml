@@ -82,5 +82,13 @@ QtObject {
         return phase === "rearming" ? root.amber : root.accentBright;
     }
 
+    /// What lies at the bottom of the window at a depth of 0 to 1.
+    function depthColor(depth: real): color {
+        return Qt.tint(root.background, Qt.rgba(root.deepWater.r, root.deepWater.g, root.deepWater.b, depth));
+    }
+
     readonly property color accentBright: "#8b5cf6"
+    readonly property color deepWater: "#120c40"
+    // Faint enough for every text below it to be read.
+    readonly property color bubble: "#1e8f7dff"
 }

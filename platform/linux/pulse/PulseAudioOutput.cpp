@@ -1,14 +1,10 @@
 #include "platform/linux/pulse/PulseAudioOutput.h"
 
-#include "platform/ApplicationCatalog.h"
 #include "platform/Clock.h"
 #include "platform/Log.h"
 
 #include <algorithm>
-#include <pulse/context.h>
 #include <pulse/error.h>
-#include <pulse/operation.h>
-#include <pulse/proplist.h>
 #include <pulse/stream.h>
 #include <utility>
 
@@ -40,37 +36,13 @@ PulseAudioOutput& self(void* userdata) {
     return *static_cast<PulseAudioOutput*>(userdata);
 }
 
-Availability availabilityOf(int error) {
-    const QString detail = QString::fromUtf8(pa_strerror(error));
-    switch (error) {
-    case PA_ERR_TIMEOUT:
-        return Availability::unavailable(QStringLiteral("health_sound_server_silent"), detail);
-    case PA_ERR_NOENTITY:
-        return Availability::unavailable(QStringLiteral("health_no_sound_device"), detail);
-    default:
-        return Availability::unavailable(QStringLiteral("health_no_sound_server"), detail);
-    }
-}
-
 } // namespace
-
-void PulseAudioOutput::Disconnect::operator()(pa_context* context) const {
-    pa_context_set_state_callback(context, nullptr, nullptr);
-    pa_context_disconnect(context);
-    pa_context_unref(context);
-}
-
-void PulseAudioOutput::Disconnect::operator()(pa_stream* stream) const {
-    pa_stream_set_state_callback(stream, nullptr, nullptr);
-    pa_stream_disconnect(stream);
-    pa_stream_unref(stream);
-}
 
 PulseAudioOutput::PulseAudioOutput(Clock& clock, int sampleRate, QObject* parent)
     : AudioOutput(parent)
     , m_clock(clock)
     , m_sampleRate(sampleRate)
-    , m_loop(clock) {}
+    , m_connection(clock, *this) {}
 
 PulseAudioOutput::~PulseAudioOutput() = default;
 
@@ -92,58 +64,25 @@ void PulseAudioOutput::probe() {
 }
 
 void PulseAudioOutput::connectToServer() {
-    pa_proplist* properties = pa_proplist_new();
-    pa_proplist_sets(properties, PA_PROP_APPLICATION_ID, ownBundleIdentifier);
-    pa_proplist_sets(properties, PA_PROP_APPLICATION_ICON_NAME, ownBundleIdentifier);
-    m_connection.context.reset(pa_context_new_with_proplist(m_loop.api(), "Norvin Focus", properties));
-    pa_proplist_free(properties);
     m_state = State::connecting;
     m_answerDue = m_clock.monotonic();
-    if (!m_connection.context) {
-        fail(PA_ERR_INTERNAL);
-        return;
-    }
-    pa_context_set_state_callback(
-        m_connection.context.get(), [](pa_context*, void* userdata) { self(userdata).contextChanged(); },
-        this);
-    if (pa_context_connect(m_connection.context.get(), nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) < 0 &&
-        m_connection.context)
-        fail(pa_context_errno(m_connection.context.get()));
+    m_connection.open();
 }
 
-void PulseAudioOutput::contextChanged() {
-    switch (pa_context_get_state(m_connection.context.get())) {
-    case PA_CONTEXT_READY:
-        if (m_isProbing && m_waiting.empty()) {
-            m_isProbing = false;
-            disconnectLater();
-            m_backOff = 0ms;
-            m_retryAt = 0ms;
-            setAvailability(Availability::available());
-            return;
-        }
-        m_isProbing = false;
+void PulseAudioOutput::serverReady() {
+    if (!std::exchange(m_isProbing, false) || !m_waiting.empty()) {
         openStream();
         return;
-    case PA_CONTEXT_FAILED:
-    case PA_CONTEXT_TERMINATED:
-        fail(pa_context_errno(m_connection.context.get()));
-        return;
-    default:
-        return;
     }
+    disconnectLater();
+    m_backOff = 0ms;
+    m_retryAt = 0ms;
+    setAvailability(Availability::available());
 }
 
 void PulseAudioOutput::openStream() {
     const pa_sample_spec format{
         .format = PA_SAMPLE_FLOAT32NE, .rate = static_cast<uint32_t>(m_sampleRate), .channels = 1};
-    m_connection.stream.reset(pa_stream_new(m_connection.context.get(), "Norvin Focus", &format, nullptr));
-    if (!m_connection.stream) {
-        fail(pa_context_errno(m_connection.context.get()));
-        return;
-    }
-    pa_stream_set_state_callback(
-        m_connection.stream.get(), [](pa_stream*, void* userdata) { self(userdata).streamChanged(); }, this);
     const auto bytes = [&format](milliseconds length) {
         return static_cast<uint32_t>(pa_usec_to_bytes(static_cast<pa_usec_t>(length / 1us), &format));
     };
@@ -153,26 +92,13 @@ void PulseAudioOutput::openStream() {
                                 .prebuf = bytes(prebuffer),
                                 .minreq = bytes(requestedPiece),
                                 .fragsize = serversChoice};
-    if (pa_stream_connect_playback(m_connection.stream.get(), nullptr, &buffer, PA_STREAM_START_CORKED,
-                                   nullptr, nullptr) < 0 &&
-        m_connection.stream)
-        fail(pa_context_errno(m_connection.context.get()));
+    m_connection.openStream(format, buffer, PulseConnection::Begin::held);
 }
 
-void PulseAudioOutput::streamChanged() {
-    switch (pa_stream_get_state(m_connection.stream.get())) {
-    case PA_STREAM_READY:
-        m_state = State::held;
-        setAvailability(Availability::available());
-        advance();
-        return;
-    case PA_STREAM_FAILED:
-    case PA_STREAM_TERMINATED:
-        fail(pa_context_errno(m_connection.context.get()));
-        return;
-    default:
-        return;
-    }
+void PulseAudioOutput::streamReady() {
+    m_state = State::held;
+    setAvailability(Availability::available());
+    advance();
 }
 
 void PulseAudioOutput::advance() {
@@ -204,9 +130,9 @@ void PulseAudioOutput::write() {
     samples.resize(samples.size() + static_cast<size_t>(m_sampleRate * trailingSilence / 1s));
     // The first sound begins where the stream was held, whatever is left of the silence before.
     const pa_seek_mode_t place = m_holdTimer ? PA_SEEK_RELATIVE : PA_SEEK_RELATIVE_ON_READ;
-    if (pa_stream_write(m_connection.stream.get(), samples.data(), samples.size() * sizeof(float), nullptr, 0,
+    if (pa_stream_write(m_connection.stream(), samples.data(), samples.size() * sizeof(float), nullptr, 0,
                         place) < 0) {
-        fail(pa_context_errno(m_connection.context.get()));
+        m_connection.fail();
         return;
     }
     m_soundEnd += lengthOf(samples);
@@ -223,24 +149,18 @@ PulseAudioOutput::Time PulseAudioOutput::lengthOf(const std::vector<float>& samp
 void PulseAudioOutput::setHeld(bool held) {
     m_state = held ? State::holding : State::releasing;
     m_answerDue = m_clock.monotonic();
-    ask(pa_stream_cork(m_connection.stream.get(), held ? 1 : 0, &PulseAudioOutput::streamAnswered, this));
-}
-
-void PulseAudioOutput::ask(pa_operation* operation) {
-    if (operation)
-        pa_operation_unref(operation);
-    else
-        fail(pa_context_errno(m_connection.context.get()));
+    m_connection.ask(
+        pa_stream_cork(m_connection.stream(), held ? 1 : 0, &PulseAudioOutput::streamAnswered, this));
 }
 
 void PulseAudioOutput::streamAnswered(pa_stream* stream, int success, void* userdata) {
     PulseAudioOutput& output = self(userdata);
-    if (stream != output.m_connection.stream.get())
+    if (stream != output.m_connection.stream())
         return;
     if (success != 0)
         output.answered();
     else
-        output.fail(pa_context_errno(output.m_connection.context.get()));
+        output.m_connection.fail();
 }
 
 // One question at a time is with the server; what happens next follows from its answer.
@@ -265,21 +185,14 @@ void PulseAudioOutput::noticeSilence() {
         return;
     // A new connection is ready as soon as the server is, and the old one takes along what is late.
     if (m_state == State::connecting)
-        setAvailability(availabilityOf(PA_ERR_TIMEOUT));
+        setAvailability(PulseConnection::availabilityOf(PA_ERR_TIMEOUT));
     else
         fail(PA_ERR_TIMEOUT);
 }
 
-// libpulse does not expect to be disconnected from within every one of its callbacks.
 void PulseAudioOutput::disconnectLater() {
     m_state = State::disconnected;
-    if (m_connection.stream)
-        pa_stream_set_state_callback(m_connection.stream.get(), nullptr, nullptr);
-    if (m_connection.context)
-        pa_context_set_state_callback(m_connection.context.get(), nullptr, nullptr);
-    m_discarded.push_back(std::exchange(m_connection, {}));
-    QMetaObject::invokeMethod(
-        this, [this] { m_discarded.clear(); }, Qt::QueuedConnection);
+    m_connection.closeLater();
 }
 
 void PulseAudioOutput::fail(int error) {
@@ -290,7 +203,7 @@ void PulseAudioOutput::fail(int error) {
     m_waiting.clear();
     m_retryAt = m_clock.monotonic() + m_backOff;
     m_backOff = std::clamp(2 * m_backOff, firstBackOff, longestBackOff);
-    setAvailability(availabilityOf(error));
+    setAvailability(PulseConnection::availabilityOf(error));
 }
 
 void PulseAudioOutput::setAvailability(const Availability& availability) {

@@ -1,14 +1,12 @@
 #pragma once
 
 #include "platform/AudioOutput.h"
-#include "platform/linux/pulse/PulseEventLoop.h"
+#include "platform/linux/pulse/PulseConnection.h"
 
 #include <deque>
 #include <memory>
 #include <optional>
 
-struct pa_context;
-struct pa_operation;
 struct pa_stream;
 
 namespace norvin {
@@ -16,14 +14,14 @@ namespace norvin {
 class Clock;
 class ClockTimer;
 
-/// A stream to PulseAudio, or to PipeWire in its place, over libpulse's asynchronous interface. Connects when
-/// there is something to play, never starts a server, and holds its stream while it has nothing to play, so
-/// that the output can rest. A server that is gone is tried again, at most every few seconds, by what is
-/// queued next; one that does not answer is waited for, and what was to be played meanwhile is dropped.
+/// A stream to PulseAudio, or to PipeWire in its place. Connects when there is something to play, and holds
+/// its stream while it has nothing to play, so that the output can rest. A server that is gone is tried
+/// again, at most every few seconds, by what is queued next; one that does not answer is waited for, and what
+/// was to be played meanwhile is dropped.
 ///
 /// Unavailable with "health_no_sound_server", with "health_sound_server_silent" where there is a server that
 /// does not answer, or with "health_no_sound_device" where it has no output, until a connection succeeds.
-class PulseAudioOutput final : public AudioOutput {
+class PulseAudioOutput final : public AudioOutput, private PulseConnection::Listener {
     Q_OBJECT
 public:
     /// @param clock must outlive this
@@ -48,26 +46,18 @@ private:
         std::vector<float> samples;
         Time latestStart;
     };
-    struct Disconnect {
-        void operator()(pa_context* context) const;
-        void operator()(pa_stream* stream) const;
-    };
-    struct Connection {
-        std::unique_ptr<pa_context, Disconnect> context;
-        std::unique_ptr<pa_stream, Disconnect> stream;
-    };
 
     static void streamAnswered(pa_stream* stream, int success, void* userdata);
 
+    void serverReady() override;
+    void streamReady() override;
+    void connectionFailed(int error) override { fail(error); }
     void connectToServer();
-    void contextChanged();
     void openStream();
-    void streamChanged();
     void advance();
     void write();
     [[nodiscard]] Time lengthOf(const std::vector<float>& samples) const;
     void setHeld(bool held);
-    void ask(pa_operation* operation);
     void answered();
     void noticeSilence();
     void disconnectLater();
@@ -76,9 +66,7 @@ private:
 
     Clock& m_clock;
     int m_sampleRate;
-    PulseEventLoop m_loop;
-    Connection m_connection;
-    std::vector<Connection> m_discarded;
+    PulseConnection m_connection;
     State m_state = State::disconnected;
     bool m_isProbing = false;
     std::deque<Waiting> m_waiting;
