@@ -2,13 +2,12 @@
 #include "platform/fake/FakeClock.h"
 #include "platform/fake/FakePreferences.h"
 #include "services/LicenseService.h"
+#include "tests/services/LicenseIssuer.h"
 
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTimeZone>
 #include <QtTest>
-
-#include <sodium.h>
 
 using namespace norvin;
 
@@ -18,31 +17,6 @@ const QByteArray fields = "product: Norvin Focus\n"
                           "name: Ada Łovelace\n"
                           "email: ada@example.org\n"
                           "issued: 2025-01-01\n";
-
-/// A maker of licences, with a key of its own.
-class Issuer {
-public:
-    Issuer() {
-        if (sodium_init() < 0)
-            qFatal("libsodium does not start");
-        crypto_sign_keypair(data(m_public), data(m_secret));
-    }
-    [[nodiscard]] const QByteArray& publicKey() const { return m_public; }
-    [[nodiscard]] QByteArray sign(const QByteArray& text) const {
-        QByteArray signature(crypto_sign_BYTES, '\0');
-        crypto_sign_detached(data(signature), nullptr,
-                             reinterpret_cast<const unsigned char*>(text.constData()),
-                             static_cast<unsigned long long>(text.size()),
-                             reinterpret_cast<const unsigned char*>(m_secret.constData()));
-        return text + "signature: " + signature.toBase64() + '\n';
-    }
-
-private:
-    static unsigned char* data(QByteArray& bytes) { return reinterpret_cast<unsigned char*>(bytes.data()); }
-
-    QByteArray m_public = QByteArray(crypto_sign_PUBLICKEYBYTES, '\0');
-    QByteArray m_secret = QByteArray(crypto_sign_SECRETKEYBYTES, '\0');
-};
 
 } // namespace
 
@@ -87,7 +61,7 @@ private:
         m_clock->setNow(QDateTime(QDate(2025, month, day), QTime(12, 0), QTimeZone::utc()));
     }
 
-    Issuer m_issuer;
+    LicenseIssuer m_issuer;
     std::unique_ptr<QTemporaryDir> m_directory;
     std::unique_ptr<FakePreferences> m_preferences;
     std::unique_ptr<FakeClock> m_clock;
@@ -110,7 +84,7 @@ void LicenseServiceTest::onlyWhatWasSignedIsALicence_data() {
     QTest::newRow("good") << good << "";
     QTest::newRow("changed name") << QByteArray(good).replace("Ada", "Eve") << "licence_bad_signature";
     QTest::newRow("field added") << "expires: 2099-01-01\n" + good << "licence_bad_signature";
-    QTest::newRow("other key") << Issuer().sign(fields) << "licence_bad_signature";
+    QTest::newRow("other key") << LicenseIssuer().sign(fields) << "licence_bad_signature";
     QTest::newRow("signature cut") << good.chopped(9) << "licence_bad_signature";
     QTest::newRow("signature of zeros")
         << fields + "signature: " + QByteArray(64, '\0').toBase64() << "licence_bad_signature";

@@ -7,6 +7,7 @@
 #include "focus/SessionAmbience.h"
 #include "planning/PlanningScreens.h"
 #include "platform/fake/FakeAudioOutput.h"
+#include "platform/fake/FakeBrowserAccess.h"
 #include "platform/fake/FakeSoundStream.h"
 #include "platform/fake/FakeUpdateSource.h"
 #include "services/OutsideServices.h"
@@ -22,6 +23,7 @@
 #include "ui/UserInterface.h"
 #include "ui/shell/CommandPalette.h"
 #include "ui/shell/WindowActions.h"
+#include "ui/welcome/WelcomeScreen.h"
 
 #include <QAccessible>
 #include <QQuickItem>
@@ -43,6 +45,13 @@ struct UiRig {
         health.refresh();
         preferences.setCompanions(
             {.ambientSounds = &ambientSounds, .immersion = &immersion, .outside = &outside});
+        welcome = std::make_unique<WelcomeScreen>(
+            WelcomeScreen::Collaborators{.preferences = focus.preferences,
+                                         .localization = *localization,
+                                         .browsers = browserAccess,
+                                         .blockLists = blockLists,
+                                         .deepWork = deepWork,
+                                         .storeFolder = QStringLiteral("/home/someone/.local/share")});
         userInterface =
             std::make_unique<UserInterface>(std::make_unique<InterfaceEngine>(),
                                             UserInterface::Screens{.deepWork = deepWork,
@@ -52,6 +61,7 @@ struct UiRig {
                                                                    .blockLists = blockLists,
                                                                    .health = health,
                                                                    .preferences = preferences,
+                                                                   .welcome = *welcome,
                                                                    .actions = actions,
                                                                    .palette = palette},
                                             *localization);
@@ -195,6 +205,8 @@ struct UiRig {
                                                   .oldestRecord = {}}};
     OutsideServices outside{updater, feedback, license};
     PreferencesScreen preferences{focus.preferences, tickSoundSettings};
+    FakeBrowserAccess browserAccess;
+    std::unique_ptr<WelcomeScreen> welcome;
     WindowActions actions{nullptr};
     CommandPalette palette{actions, planning, focus.context()};
     std::unique_ptr<UserInterface> userInterface;

@@ -148,7 +148,8 @@ void PackageKitUpdateSource::onFinished(uint exit, uint runtime, const QDBusMess
         return;
     if (exit != exitSuccess) {
         fail(QStringLiteral("update_failed"), m_error);
-    } else if (!m_newest.isEmpty()) {
+    } else if (!m_newest.isEmpty() && m_newest != m_installed) {
+        // A package of the same version from elsewhere is listed as well.
         finish({.outcome = UpdateResult::Outcome::available,
                 .version = m_newest,
                 .reasonKey = {},
