@@ -87,3 +87,5 @@ private:
 };
 
 } // namespace norvin
+
+Q_DECLARE_METATYPE(norvin::BackupService::Result)

@@ -196,6 +196,7 @@ void DataSettings::handleFinished(const BackupService::Result& result) {
     case BackupService::Job::restore:
         if (result.failure) {
             say(qtTrId("data_restore_failed").arg(result.failure->description), true);
+            refuseAtStart(result.failure->description);
         } else if (canReplace()) {
             Q_EMIT restartWanted();
         } else {
@@ -207,6 +208,15 @@ void DataSettings::handleFinished(const BackupService::Result& result) {
     }
     if (!result.file.isEmpty())
         refresh();
+}
+
+// Whoever restores from the notice looks at the notice.
+void DataSettings::refuseAtStart(const QString& problem) {
+    if (m_startState == StartState::fine)
+        return;
+    m_startState = StartState::refused;
+    m_startProblem = problem;
+    Q_EMIT startNoticeChanged();
 }
 
 void DataSettings::dismissStartNotice() {

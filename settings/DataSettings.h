@@ -116,6 +116,7 @@ private:
     void handleFinished(const BackupService::Result& result);
     void takeRead(Read read);
     void clearPreferences();
+    void refuseAtStart(const QString& problem);
     void restoreFile(const QString& file);
     void say(const QString& notice, bool isProblem);
     [[nodiscard]] std::optional<BackupFile> newestBackup() const;

@@ -37,7 +37,9 @@ void PortalAutostart::setEnabled(bool enabled) {
     // The answer may come before that of the call itself: it is awaited where it will be sent from.
     const QString token = QStringLiteral("norvin_autostart_%1").arg(++m_requests);
     QString sender = m_bus.baseService().mid(1);
-    follow(desktopPortalPath + QStringLiteral("/request/") + sender.replace(u'.', u'_') + u'/' + token);
+    const QString expected =
+        desktopPortalPath + QStringLiteral("/request/") + sender.replace(u'.', u'_') + u'/' + token;
+    follow(expected);
     QDBusMessage call = QDBusMessage::createMethodCall(desktopPortal, desktopPortalPath,
                                                        QStringLiteral("org.freedesktop.portal.Background"),
                                                        QStringLiteral("RequestBackground"));
@@ -49,8 +51,11 @@ void PortalAutostart::setEnabled(bool enabled) {
                         {QStringLiteral("commandline"),
                          QStringList{QStringLiteral("norvin-focus"), QStringLiteral("--hidden")}}};
     auto* reply = new QDBusPendingCallWatcher(m_bus.asyncCall(call), this);
-    connect(reply, &QDBusPendingCallWatcher::finished, this, [this, reply] {
+    connect(reply, &QDBusPendingCallWatcher::finished, this, [this, reply, expected] {
         reply->deleteLater();
+        // The user may have changed their mind meanwhile.
+        if (m_request != expected)
+            return;
         const QDBusPendingReply<QDBusObjectPath> answer = *reply;
         if (answer.isError())
             fail(answer.error().message());
