@@ -13,6 +13,7 @@
 #include "ui/InterfaceEngine.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QQuickWindow>
 
 namespace norvin {
@@ -155,6 +156,12 @@ NorvinFocusApp::NorvinFocusApp(LinuxPlatform& platform, std::unique_ptr<ModelCon
     , m_feedbackForm(FeedbackForm::builtInBaseUrl(), platform.preferences(), platform.clock())
     , m_outsideServices(m_updater, m_feedbackForm, LicenseService::shared())
     , m_preferencesScreen(platform.preferences(), m_tickSoundSettings)
+    , m_welcome({.preferences = platform.preferences(),
+                 .localization = m_localization,
+                 .browsers = platform.browserAccess(),
+                 .blockLists = m_blockLists,
+                 .deepWork = m_deepWorkScreen,
+                 .storeFolder = QFileInfo(m_sharedModelContainer->storeFile()).path()})
     , m_palette(m_actions, m_planning, m_sharedModelContainer->mainContext())
     , m_userInterface(std::move(engine),
                       {.deepWork = m_deepWorkScreen,
@@ -164,6 +171,7 @@ NorvinFocusApp::NorvinFocusApp(LinuxPlatform& platform, std::unique_ptr<ModelCon
                        .blockLists = m_blockLists,
                        .health = m_health,
                        .preferences = m_preferencesScreen,
+                       .welcome = m_welcome,
                        .actions = m_actions,
                        .palette = m_palette},
                       m_localization)
@@ -185,6 +193,7 @@ NorvinFocusApp::~NorvinFocusApp() {
 
 bool NorvinFocusApp::launch() {
     m_appDelegate.applicationDidFinishLaunching();
+    welcomeAtFirstLaunch();
     m_userInterface.setCoach(m_coachService);
     m_userInterface.engine().setApplications(m_platform.applications());
     if (!m_userInterface.load())
@@ -228,6 +237,16 @@ void NorvinFocusApp::makeMenuBarExtra() {
     connect(m_menuBarExtra.get(), &MenuBarExtra::quitWanted, this, &NorvinFocusApp::askToQuit);
     // The window comes first.
     m_trayDelay = m_platform.clock().after(trayDelay, [this] { m_menuBarExtra->show(); });
+}
+
+void NorvinFocusApp::welcomeAtFirstLaunch() {
+    const ModelContext& context = m_sharedModelContainer->mainContext();
+    const bool isEmpty = context.projects().empty() && context.tasks().empty();
+    if (!isEmpty || !WelcomeScreen::isFirstLaunch(m_platform.preferences()))
+        return;
+    if (const auto language = languageForDesktop(QLocale::system().uiLanguages()))
+        m_localization.preview(*language);
+    connect(&m_userInterface, &UserInterface::firstFrameShown, &m_welcome, &WelcomeScreen::present);
 }
 
 void NorvinFocusApp::wireServices() {

@@ -32,6 +32,7 @@
 #include "ui/panel/MenuBarExtra.h"
 #include "ui/shell/CommandPalette.h"
 #include "ui/shell/WindowActions.h"
+#include "ui/welcome/WelcomeScreen.h"
 
 #include <QObject>
 #include <QString>
@@ -75,6 +76,7 @@ private:
         ~SharedServices();
     };
 
+    void welcomeAtFirstLaunch();
     void wireServices();
     void followStore();
     void followPlatform();
@@ -118,6 +120,7 @@ private:
     FeedbackForm m_feedbackForm;
     OutsideServices m_outsideServices;
     PreferencesScreen m_preferencesScreen;
+    WelcomeScreen m_welcome;
     WindowActions m_actions{nullptr};
     CommandPalette m_palette;
     UserInterface m_userInterface;

@@ -2686,6 +2686,10 @@
         <source></source>
         <translation>What you change here counts at once.</translation>
     </message>
+    <message id="preferences_subtitle_named">
+        <source></source>
+        <translation>Hello %1. What you change here counts at once.</translation>
+    </message>
     <message id="preferences_title">
         <source></source>
         <translation>Preferences</translation>
@@ -4094,6 +4098,122 @@
     <message id="welcome_again_label">
         <source></source>
         <translation>Welcome</translation>
+    </message>
+    <message id="welcome_back_button">
+        <source></source>
+        <translation>Back</translation>
+    </message>
+    <message id="welcome_later_button">
+        <source></source>
+        <translation>Not now</translation>
+    </message>
+    <message id="welcome_leave_button">
+        <source></source>
+        <translation>Leave the welcome</translation>
+    </message>
+    <message id="welcome_lists_empty_subtitle">
+        <source></source>
+        <translation>No installed application is clearly for work or for leisure. The block lists are yours to fill.</translation>
+    </message>
+    <message id="welcome_lists_empty_title">
+        <source></source>
+        <translation>Nothing to suggest</translation>
+    </message>
+    <message id="welcome_lists_subtitle">
+        <source></source>
+        <translation>From what is installed here. Allowed applications count as focus, blocked ones are hidden while you work. You can change it all later.</translation>
+    </message>
+    <message id="welcome_lists_title">
+        <source></source>
+        <translation>What belongs to your work</translation>
+    </message>
+    <message id="welcome_next_button">
+        <source></source>
+        <translation>Next</translation>
+    </message>
+    <message id="welcome_pages_allow_button">
+        <source></source>
+        <translation>Allow it</translation>
+    </message>
+    <message id="welcome_pages_missing">
+        <source></source>
+        <translation>This desktop has no accessibility services. An extension for your browser does the same; it is offered under “Tracking health”.</translation>
+    </message>
+    <message id="welcome_pages_off">
+        <source></source>
+        <translation>These services are switched off. Allowing them counts for all programs of your desktop, and can be taken back under “Tracking health”.</translation>
+    </message>
+    <message id="welcome_pages_on">
+        <source></source>
+        <translation>These services are switched on. Browsers that you list can be told apart by their pages.</translation>
+    </message>
+    <message id="welcome_pages_subtitle">
+        <source></source>
+        <translation>To tell one site from another, Norvin Focus reads the address bar through the accessibility services of your desktop, the way a screen reader would.</translation>
+    </message>
+    <message id="welcome_pages_title">
+        <source></source>
+        <translation>Pages in browsers</translation>
+    </message>
+    <message id="welcome_skip_button">
+        <source></source>
+        <translation>Skip</translation>
+    </message>
+    <message id="welcome_start_button">
+        <source></source>
+        <translation>Start working</translation>
+    </message>
+    <message id="welcome_step">
+        <source></source>
+        <translation>Step %1 of %2</translation>
+    </message>
+    <message id="welcome_subtitle">
+        <source></source>
+        <translation>One thing at a time, for as long as you decide. Norvin Focus keeps your tasks, times your work and tells you honestly how focused it was.</translation>
+    </message>
+    <message id="welcome_task_palette">
+        <source></source>
+        <translation>Ctrl+K leads to everything: pages, tasks, projects and actions.</translation>
+    </message>
+    <message id="welcome_task_placeholder">
+        <source></source>
+        <translation>The first task</translation>
+    </message>
+    <message id="welcome_task_subtitle">
+        <source></source>
+        <translation>One task is enough to begin. It waits in the queue if you would rather look around first.</translation>
+    </message>
+    <message id="welcome_task_title">
+        <source></source>
+        <translation>What will you work on?</translation>
+    </message>
+    <message id="welcome_title">
+        <source></source>
+        <translation>Welcome to Norvin Focus</translation>
+    </message>
+    <message id="welcome_watching_applications">
+        <source></source>
+        <translation>Which application is in front, to count every second as focused or distracted.</translation>
+    </message>
+    <message id="welcome_watching_input">
+        <source></source>
+        <translation>How long keyboard and mouse have been still. Never what you type.</translation>
+    </message>
+    <message id="welcome_watching_kept">
+        <source></source>
+        <translation>All of it stays on this computer, in %1. Nothing is sent anywhere.</translation>
+    </message>
+    <message id="welcome_watching_pages">
+        <source></source>
+        <translation>In browsers that you list, the domain of the page in front. Never what the page says.</translation>
+    </message>
+    <message id="welcome_watching_subtitle">
+        <source></source>
+        <translation>Only while a work phase runs. In breaks, and while nothing runs, nothing is looked at.</translation>
+    </message>
+    <message id="welcome_watching_title">
+        <source></source>
+        <translation>What is watched</translation>
     </message>
     <message id="whitelisted_count" numerus="yes">
         <source></source>

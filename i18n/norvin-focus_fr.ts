@@ -2686,6 +2686,10 @@
         <source></source>
         <translation>Ce que vous changez ici compte aussitôt.</translation>
     </message>
+    <message id="preferences_subtitle_named">
+        <source></source>
+        <translation>Bonjour %1. Ce que vous changez ici compte aussitôt.</translation>
+    </message>
     <message id="preferences_title">
         <source></source>
         <translation>Préférences</translation>
@@ -4094,6 +4098,122 @@
     <message id="welcome_again_label">
         <source></source>
         <translation>Accueil</translation>
+    </message>
+    <message id="welcome_back_button">
+        <source></source>
+        <translation>Retour</translation>
+    </message>
+    <message id="welcome_later_button">
+        <source></source>
+        <translation>Pas maintenant</translation>
+    </message>
+    <message id="welcome_leave_button">
+        <source></source>
+        <translation>Quitter l’accueil</translation>
+    </message>
+    <message id="welcome_lists_empty_subtitle">
+        <source></source>
+        <translation>Aucune application installée ne relève clairement du travail ou des loisirs. À vous de remplir les listes de blocage.</translation>
+    </message>
+    <message id="welcome_lists_empty_title">
+        <source></source>
+        <translation>Rien à suggérer</translation>
+    </message>
+    <message id="welcome_lists_subtitle">
+        <source></source>
+        <translation>D’après ce qui est installé ici. Les applications autorisées comptent comme concentration, celles bloquées sont masquées pendant le travail. Tout peut être changé plus tard.</translation>
+    </message>
+    <message id="welcome_lists_title">
+        <source></source>
+        <translation>Ce qui fait partie de votre travail</translation>
+    </message>
+    <message id="welcome_next_button">
+        <source></source>
+        <translation>Suivant</translation>
+    </message>
+    <message id="welcome_pages_allow_button">
+        <source></source>
+        <translation>Autoriser</translation>
+    </message>
+    <message id="welcome_pages_missing">
+        <source></source>
+        <translation>Ce bureau n’a pas de services d’accessibilité. Une extension pour votre navigateur fait de même ; elle est proposée dans « État du suivi ».</translation>
+    </message>
+    <message id="welcome_pages_off">
+        <source></source>
+        <translation>Ces services sont désactivés. Les autoriser vaut pour tous les programmes de votre bureau, et peut être annulé dans « État du suivi ».</translation>
+    </message>
+    <message id="welcome_pages_on">
+        <source></source>
+        <translation>Ces services sont activés. Les navigateurs que vous listez se distinguent par leurs pages.</translation>
+    </message>
+    <message id="welcome_pages_subtitle">
+        <source></source>
+        <translation>Pour distinguer un site d’un autre, Norvin Focus lit la barre d’adresse par les services d’accessibilité de votre bureau, comme le ferait un lecteur d’écran.</translation>
+    </message>
+    <message id="welcome_pages_title">
+        <source></source>
+        <translation>Les pages des navigateurs</translation>
+    </message>
+    <message id="welcome_skip_button">
+        <source></source>
+        <translation>Passer</translation>
+    </message>
+    <message id="welcome_start_button">
+        <source></source>
+        <translation>Se mettre au travail</translation>
+    </message>
+    <message id="welcome_step">
+        <source></source>
+        <translation>Étape %1 sur %2</translation>
+    </message>
+    <message id="welcome_subtitle">
+        <source></source>
+        <translation>Une chose à la fois, aussi longtemps que vous le décidez. Norvin Focus garde vos tâches, minute votre travail et vous dit honnêtement à quel point vous étiez concentré.</translation>
+    </message>
+    <message id="welcome_task_palette">
+        <source></source>
+        <translation>Ctrl+K mène à tout : pages, tâches, projets et actions.</translation>
+    </message>
+    <message id="welcome_task_placeholder">
+        <source></source>
+        <translation>La première tâche</translation>
+    </message>
+    <message id="welcome_task_subtitle">
+        <source></source>
+        <translation>Une seule tâche suffit pour commencer. Elle attend dans la file si vous préférez d’abord regarder autour de vous.</translation>
+    </message>
+    <message id="welcome_task_title">
+        <source></source>
+        <translation>Sur quoi allez-vous travailler ?</translation>
+    </message>
+    <message id="welcome_title">
+        <source></source>
+        <translation>Bienvenue dans Norvin Focus</translation>
+    </message>
+    <message id="welcome_watching_applications">
+        <source></source>
+        <translation>Quelle application est au premier plan, pour compter chaque seconde comme concentrée ou distraite.</translation>
+    </message>
+    <message id="welcome_watching_input">
+        <source></source>
+        <translation>Depuis combien de temps clavier et souris sont immobiles. Jamais ce que vous tapez.</translation>
+    </message>
+    <message id="welcome_watching_kept">
+        <source></source>
+        <translation>Tout reste sur cet ordinateur, dans %1. Rien n’est envoyé nulle part.</translation>
+    </message>
+    <message id="welcome_watching_pages">
+        <source></source>
+        <translation>Dans les navigateurs que vous listez, le domaine de la page affichée. Jamais le contenu de la page.</translation>
+    </message>
+    <message id="welcome_watching_subtitle">
+        <source></source>
+        <translation>Seulement pendant une phase de travail. Pendant les pauses, et quand rien n’est en cours, rien n’est regardé.</translation>
+    </message>
+    <message id="welcome_watching_title">
+        <source></source>
+        <translation>Ce qui est observé</translation>
     </message>
     <message id="whitelisted_count" numerus="yes">
         <source></source>

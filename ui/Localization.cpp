@@ -38,14 +38,21 @@ QList<QString> Localization::languageNames() {
 }
 
 void Localization::setLanguage(const QString& language) {
-    if (language == m_language)
+    const auto stored = m_preferences.value(QLatin1String(preferencesKey));
+    if (language == m_language && stored && stored->toString() == language)
         return;
     if (!languages().contains(language)) {
         logLine(QStringLiteral("Localization: There are no texts in the language \"%1\"").arg(language));
         return;
     }
-    m_language = language;
     m_preferences.setValue(QLatin1String(preferencesKey), language);
+    preview(language);
+}
+
+void Localization::preview(const QString& language) {
+    if (language == m_language || !languages().contains(language))
+        return;
+    m_language = language;
     loadTexts();
     Q_EMIT languageChanged();
 }
@@ -57,6 +64,19 @@ void Localization::loadTexts() {
         logLine(QStringLiteral("Localization: The texts in %1 cannot be read").arg(file));
     QCoreApplication::installTranslator(&m_translator);
     m_formats.setLocale(locale());
+}
+
+std::optional<QString> languageForDesktop(const QStringList& uiLanguages) {
+    bool namesAny = false;
+    for (const QString& wanted : uiLanguages) {
+        if (wanted == QLatin1String("C") || wanted == QLatin1String("POSIX"))
+            continue;
+        namesAny = true;
+        const QString language = wanted.section(QLatin1Char('-'), 0, 0).section(QLatin1Char('_'), 0, 0);
+        if (Localization::languages().contains(language))
+            return language;
+    }
+    return namesAny ? std::optional(english) : std::nullopt;
 }
 
 } // namespace norvin

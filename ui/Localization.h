@@ -6,7 +6,10 @@
 #include <QLocale>
 #include <QObject>
 #include <QString>
+#include <QStringList>
 #include <QTranslator>
+
+#include <optional>
 
 namespace norvin {
 
@@ -34,6 +37,8 @@ public:
 
     [[nodiscard]] const QString& language() const { return m_language; }
     void setLanguage(const QString& language);
+    /// Speaks this language without storing it: a user who has not chosen yet is met in that of the desktop.
+    void preview(const QString& language);
     [[nodiscard]] static QList<QString> languages();
     [[nodiscard]] static QList<QString> languageNames();
     [[nodiscard]] QLocale locale() const { return QLocale(m_language); }
@@ -51,5 +56,9 @@ private:
     QTranslator m_translator;
     TextFormats m_formats;
 };
+
+/// Which of our languages suits a desktop best that lists these, the most wanted first ("de-AT"): the first
+/// of them that there is, or English; none for a desktop that names none.
+[[nodiscard]] std::optional<QString> languageForDesktop(const QStringList& uiLanguages);
 
 } // namespace norvin

@@ -14,6 +14,7 @@
 #include "ui/shell/CommandPalette.h"
 #include "ui/shell/WindowActions.h"
 #include "ui/shell/WindowGeometry.h"
+#include "ui/welcome/WelcomeScreen.h"
 
 #include <QCoreApplication>
 #include <QCursor>
@@ -74,6 +75,7 @@ bool UserInterface::load() {
         {QStringLiteral("blockLists"), QVariant::fromValue(&m_screens.blockLists)},
         {QStringLiteral("health"), QVariant::fromValue(&m_screens.health)},
         {QStringLiteral("preferences"), QVariant::fromValue(&m_screens.preferences)},
+        {QStringLiteral("welcome"), QVariant::fromValue(&m_screens.welcome)},
         {QStringLiteral("actions"), QVariant::fromValue(&m_screens.actions)},
         {QStringLiteral("palette"), QVariant::fromValue(&m_screens.palette)},
         {QStringLiteral("coach"), QVariant::fromValue(m_coach)},
@@ -128,6 +130,10 @@ void UserInterface::addActions() {
         ++number;
     }
 
+    WelcomeScreen& welcome = m_screens.welcome;
+    connect(&m_screens.preferences, &PreferencesScreen::welcomeWanted, &welcome, &WelcomeScreen::present);
+    connect(&welcome, &WelcomeScreen::started, &actions,
+            [&actions] { actions.run(QStringLiteral("show_deep_work")); });
     connect(&m_screens.preferences, &PreferencesScreen::blockListsWanted, &actions,
             [&actions] { actions.run(QStringLiteral("show_block_lists")); });
 
@@ -176,6 +182,10 @@ void UserInterface::addActions() {
                  .titleKey = QStringLiteral("action_new_project"),
                  .symbol = QStringLiteral("plus"),
                  .run = [&planning] { planning.projects()->createProject(); }});
+    actions.add({.id = QStringLiteral("show_welcome"),
+                 .titleKey = QStringLiteral("action_show_welcome"),
+                 .symbol = QStringLiteral("sparkles"),
+                 .run = [&welcome] { welcome.present(); }});
 }
 
 void UserInterface::showWindow() {

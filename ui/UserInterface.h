@@ -23,6 +23,7 @@ class PreferencesScreen;
 class StatsScreen;
 class TickSoundSettings;
 class TrackingHealthModel;
+class WelcomeScreen;
 class WindowActions;
 class WindowGeometry;
 
@@ -45,6 +46,7 @@ public:
         BlockListsScreen& blockLists;
         TrackingHealthModel& health;
         PreferencesScreen& preferences;
+        WelcomeScreen& welcome;
         /// The window adds those of its own.
         WindowActions& actions;
         CommandPalette& palette;

@@ -2,7 +2,6 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Layouts
-import QtQuick.Templates as T
 import NorvinFocus.Ui
 
 /// What might be worth listing. Space or a click chooses; nothing is listed before the button is pressed.
@@ -20,42 +19,13 @@ FocusScope {
         anchors.fill: parent
         spacing: Theme.gap3
 
-        ListView {
+        SuggestionList {
             id: list
 
             objectName: "suggestionList"
             Layout.fillWidth: true
             Layout.fillHeight: true
-            clip: true
-            activeFocusOnTab: true
-            boundsBehavior: Flickable.StopAtBounds
-            highlightMoveDuration: 0
-            model: root.suggestions
-            Accessible.role: Accessible.List
-            Accessible.name: qsTrId("suggestions_tab")
-
-            T.ScrollBar.vertical: ScrollBarThin {}
-
-            onActiveFocusChanged: {
-                if (list.activeFocus && list.currentIndex < 0)
-                    list.currentIndex = 0;
-            }
-
-            Keys.onPressed: event => {
-                event.accepted = event.key === Qt.Key_Space || event.key === Qt.Key_Return || event.key === Qt.Key_Enter;
-                if (event.accepted)
-                    root.suggestions.toggle(list.currentIndex);
-            }
-
-            delegate: SuggestionToggle {
-                width: list.width - Theme.gap3
-                hasKeyboard: list.activeFocus
-                onClicked: {
-                    list.currentIndex = index;
-                    list.forceActiveFocus(Qt.MouseFocusReason);
-                    root.suggestions.toggle(index);
-                }
-            }
+            suggestions: root.suggestions
         }
 
         RowLayout {

@@ -25,6 +25,7 @@ Window {
     required property BlockListsScreen blockLists
     required property TrackingHealthModel health
     required property PreferencesScreen preferences
+    required property WelcomeScreen welcome
     required property WindowActions actions
     required property CommandPalette palette
     property AICoachService coach: null
@@ -122,6 +123,7 @@ Window {
         stats: root.stats
         palette: root.palette
         outside: root.preferences.outside
+        welcome: root.welcome
     }
 
     Deferred {

@@ -10,6 +10,7 @@ Item {
     required property PlanningScreens planning
     required property StatsScreen stats
     required property CommandPalette palette
+    required property WelcomeScreen welcome
     /// May be null.
     required property OutsideServices outside
 
@@ -35,6 +36,12 @@ Item {
         wanted: root.stats.explanation.isPresented
         file: "../stats/StatsExplanationSheet.qml"
         model: root.stats.explanation
+    }
+
+    LazySheet {
+        wanted: root.welcome.isPresented
+        file: "../welcome/WelcomeSheet.qml"
+        model: root.welcome
     }
 
     LazySheet {

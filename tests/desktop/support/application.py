@@ -25,11 +25,16 @@ class Application:
         self.process = None
         self._launches = 0
 
-    def write_preferences(self, **settings):
-        """The settings that the program finds when it is launched."""
-        directory = os.path.join(self.desktop.environment["XDG_CONFIG_HOME"], "norvin-focus")
-        os.makedirs(directory, exist_ok=True)
-        with open(os.path.join(directory, "preferences.ini"), "w", encoding="utf-8") as file:
+    @property
+    def preferences_file(self):
+        return os.path.join(self.desktop.environment["XDG_CONFIG_HOME"], "norvin-focus", "preferences.ini")
+
+    def write_preferences(self, welcome_completed="true", **settings):
+        """The settings that the program finds when it is launched: those of somebody who was welcomed already,
+        unless told otherwise."""
+        settings["welcome_completed"] = welcome_completed
+        os.makedirs(os.path.dirname(self.preferences_file), exist_ok=True)
+        with open(self.preferences_file, "w", encoding="utf-8") as file:
             file.writelines(["[General]\n", *(f"{key}={value}\n" for key, value in settings.items())])
 
     # Processes
@@ -37,6 +42,8 @@ class Application:
     def launch(self, *arguments):
         """Starts the program and waits until it answers (where there is a session bus to ask it over)."""
         self._launches += 1
+        if not os.path.exists(self.preferences_file):
+            self.write_preferences()
         self.process = self.desktop.processes.start(f"norvin-focus-{self._launches}", [self.program, *arguments],
                                                     self.desktop.environment)
         if self.desktop.session_bus:
