@@ -128,17 +128,17 @@ ColumnLayout {
                 (chooser.object as FileChooser).open(qsTrId("licence_choose_title"), root.license.fileFolder, false);
             }
         }
-    }
 
-    Deferred {
-        id: chooser
+        Deferred {
+            id: chooser
 
-        FileChooser {
-            filters: [qsTrId("licence_file_filter") + " (*.txt)", qsTrId("licence_all_filter") + " (*)"]
-            rejectText: qsTrId("cancel_button")
-            onChosen: {
-                if (root.license.installFile(files[0]))
-                    root.installed();
+            FileChooser {
+                filters: [qsTrId("licence_file_filter") + " (*.txt)", qsTrId("licence_all_filter") + " (*)"]
+                rejectText: qsTrId("cancel_button")
+                onChosen: {
+                    if (root.license.installFile(files[0]))
+                        root.installed();
+                }
             }
         }
     }
