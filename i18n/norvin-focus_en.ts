@@ -1356,7 +1356,7 @@
     </message>
     <message id="feedback_title">
         <source></source>
-        <translation>Send feedback</translation>
+        <translation>Suggest an improvement</translation>
     </message>
     <message id="feedback_untrusted">
         <source></source>

@@ -1356,7 +1356,7 @@
     </message>
     <message id="feedback_title">
         <source></source>
-        <translation>Envoyer un avis</translation>
+        <translation>Proposer une amélioration</translation>
     </message>
     <message id="feedback_untrusted">
         <source></source>

@@ -57,7 +57,7 @@ class NetworkTest(DesktopTestCase):
         self.assertIn("AF_UNIX", self.families(), "the trace sees what is there")
 
         self.press("ctrl+k")
-        self.desktop.run("xdotool", "type", "Send feedback", check=True)
+        self.desktop.run("xdotool", "type", "improvement", check=True)
         self.press("Return")
         self.desktop.run("xdotool", "type", "More rain", check=True)
         wait_until(lambda: self.preference("feedback_draft") == "More rain", "the form takes the text")
