@@ -117,7 +117,7 @@ class Application:
                 if self.desktop.is_overlay(window)]
 
     def _is_floating_timer(self, window):
-        return self.desktop.run("xdotool", "getwindowname", str(window)).strip() in FLOATING_TIMER_TITLES
+        return self.desktop.run("xdotool", "getwindowname", str(window)).startswith(FLOATING_TIMER_TITLES)
 
     def close_windows(self):
         """Closes each window as its user does."""
