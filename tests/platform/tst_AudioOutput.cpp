@@ -3,17 +3,14 @@
 #include "platform/fake/FakeClock.h"
 #include "platform/linux/clock/SystemClock.h"
 #include "platform/linux/pulse/PulseAudioOutput.h"
-#include "support/DesktopRig.h"
+#include "support/PulseServer.h"
 
 #include <QElapsedTimer>
-#include <QFile>
-#include <QProcess>
 #include <QSignalSpy>
 #include <QtTest>
 
 #include <cmath>
 #include <csignal>
-#include <cstring>
 
 using namespace norvin;
 using namespace std::chrono_literals;
@@ -91,49 +88,22 @@ private:
     FakeAudioOutput m_output{m_clock, rate};
 };
 
-/// A sound server of the test's own, with an output that nobody hears but is recorded.
 class PulseListener final : public Listener {
 public:
-    PulseListener() {
-        qputenv("PULSE_SERVER", "unix:" + m_rig.filePath(QStringLiteral("pulse")).toLocal8Bit());
-        qputenv("PULSE_RUNTIME_PATH", m_rig.filePath(QStringLiteral("runtime")).toLocal8Bit());
-    }
-
     AudioOutput& output() override { return m_output; }
 
+    // What the output takes back to begin a sound sooner has been recorded already; this one takes nothing
+    // back.
     bool startServer() override {
-        // What the output takes back to begin a sound sooner has been recorded already; this one takes
-        // nothing back.
-        return startServer({QStringLiteral("-L"),
-                            QStringLiteral("module-null-sink sink_name=norvin rate=44100 channels=1 "
-                                           "format=float32le norewinds=1")}) &&
-               startRecording();
+        m_isSilent = true;
+        return m_server.start(QStringLiteral("norewinds=1"));
     }
-    bool startServer(const QStringList& options) {
-        m_server =
-            m_rig.start(QStringLiteral("pulseaudio"),
-                        QStringList{QStringLiteral("-n"), QStringLiteral("--daemonize=no"),
-                                    QStringLiteral("--exit-idle-time=-1"), QStringLiteral("-L"),
-                                    QStringLiteral("module-native-protocol-unix auth-anonymous=1 socket=") +
-                                        m_rig.filePath(QStringLiteral("pulse"))} +
-                            options);
-        return QTest::qWaitFor([] { return !pactl({QStringLiteral("info")}).isEmpty(); });
-    }
-    void stopServer() override {
-        if (m_server)
-            m_rig.kill(m_server);
-    }
-    void signalServer(int signal) const { ::kill(static_cast<pid_t>(m_server->processId()), signal); }
+    void stopServer() override { m_server.stop(); }
+    PulseServer& server() { return m_server; }
+    void signalServer(int signal) const { m_server.signal(signal); }
 
     Heard heard() override {
-        QFile file(m_rig.filePath(m_recording));
-        if (!file.open(QIODevice::ReadOnly) || !file.seek(m_recordingRead))
-            return {};
-        const QByteArray bytes = file.readAll();
-        std::vector<float> samples(static_cast<size_t>(bytes.size()) / sizeof(float));
-        std::memcpy(samples.data(), bytes.constData(), samples.size() * sizeof(float));
-        m_recordingRead += static_cast<qint64>(samples.size() * sizeof(float));
-        for (const float sample : samples) {
+        for (const float sample : m_server.recorded()) {
             if (sample != 0.0F && m_isSilent)
                 m_heard.append(std::vector<float>());
             m_isSilent = sample == 0.0F;
@@ -144,34 +114,13 @@ public:
         return m_isSilent ? m_heard : m_heard.first(m_heard.size() - 1);
     }
 
-    static QByteArray pactl(const QStringList& arguments) {
-        return DesktopRig::run(QStringLiteral("pactl"), arguments);
-    }
     /// Whether the server sees a stream of ours that rests.
-    static bool isHeld() {
-        return pactl({QStringLiteral("list"), QStringLiteral("sink-inputs")}).contains("Corked: yes");
-    }
+    static bool isHeld() { return PulseServer::streams().contains("Corked: yes"); }
 
 private:
-    bool startRecording() {
-        m_recording = QStringLiteral("recording-%1").arg(++m_recordings);
-        m_recordingRead = 0;
-        m_isSilent = true;
-        m_rig.start(QStringLiteral("parec"),
-                    {QStringLiteral("--device=norvin.monitor"), QStringLiteral("--raw"),
-                     QStringLiteral("--format=float32le"), QStringLiteral("--rate=44100"),
-                     QStringLiteral("--channels=1"), QStringLiteral("--latency-msec=20"),
-                     m_rig.filePath(m_recording)});
-        return QTest::qWaitFor([this] { return !m_rig.readFile(m_recording).isEmpty(); });
-    }
-
-    DesktopRig m_rig;
+    PulseServer m_server{1};
     SystemClock m_clock;
     PulseAudioOutput m_output{m_clock, rate};
-    QProcess* m_server = nullptr;
-    QString m_recording;
-    int m_recordings = 0;
-    qint64 m_recordingRead = 0; // bytes
     bool m_isSilent = true;
     Heard m_heard;
 };
@@ -348,13 +297,13 @@ void AudioOutputTest::saysWhatIsMissing() {
     QCOMPARE(m_lines.size(), 1);
     QVERIFY(m_lines.first().startsWith(QLatin1String("PulseAudioOutput: ")));
 
-    QVERIFY(listener.startServer({}));
+    QVERIFY(listener.server().startWith({}));
     output.probe();
     QTRY_VERIFY(output.availability().isAvailable());
     output.queue(sound(40ms, 0.5F));
     QTRY_VERIFY(!output.availability().isAvailable());
     QCOMPARE(output.availability().reason()->reasonKey, QStringLiteral("health_no_sound_device"));
-    PulseListener::pactl({QStringLiteral("load-module"), QStringLiteral("module-null-sink")});
+    PulseServer::pactl({QStringLiteral("load-module"), QStringLiteral("module-null-sink")});
     QTRY_VERIFY_WITH_TIMEOUT((output.queue(sound(40ms, 0.5F)), output.availability().isAvailable()), 10'000);
 }
 

@@ -17,11 +17,12 @@ namespace {
 // Asked for in pieces of a second, so that this program and the server are woken once a second. What the room
 // leaves beside two pieces becomes the latency of the output.
 constexpr milliseconds requestedPiece = 1000ms;
-constexpr milliseconds outputLatency = 200ms;
+constexpr milliseconds outputLatency = 100ms;
 constexpr milliseconds room = 2 * requestedPiece + outputLatency;
 constexpr milliseconds prebuffer = 100ms;
-// What the server plays until a replacement has reached it.
-constexpr milliseconds replacingTakes = 60ms;
+// What the server may have handed on until a replacement has reached it: up to the latency of the output at
+// once. What is too late leaves a step in the sound.
+constexpr milliseconds replacingTakes = outputLatency + 50ms;
 // How much later than its turn the last of it is still on its way to a distant output.
 constexpr milliseconds longestLatency = 300ms;
 

@@ -90,6 +90,11 @@ class Recording:
                       "--channels=2", "--latency-msec=20", self._path], desktop.environment)
         wait_until(lambda: os.path.exists(self._path) and os.path.getsize(self._path) > 0, "the recording runs")
 
+    def channels(self):
+        """The frames so far, left and right."""
+        self._take_in()
+        return self._channels
+
     def sounds(self):
         """The sounds so far that have ended, each as (first frame, samples); both channels have to be alike."""
         self._take_in()
