@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLocale>
 #include <QSaveFile>
 #include <QStandardPaths>
 
@@ -59,8 +60,9 @@ QUrl LicenseService::fileFolder() {
     return QUrl::fromLocalFile(QStandardPaths::writableLocation(QStandardPaths::DownloadLocation));
 }
 
-QString LicenseService::expiryText(const QLocale& locale) const {
-    return expiry().isValid() ? locale.toString(expiry(), QStringLiteral("d MMMM yyyy")) : QString();
+QString LicenseService::expiryText(const QString& language) const {
+    return expiry().isValid() ? QLocale(language).toString(expiry(), QStringLiteral("d MMMM yyyy"))
+                              : QString();
 }
 
 QString LicenseService::problemKey() const {

@@ -6,7 +6,6 @@
 #include <QByteArray>
 #include <QDate>
 #include <QDateTime>
-#include <QLocale>
 #include <QObject>
 #include <QString>
 #include <QUrl>
@@ -82,8 +81,8 @@ public:
     [[nodiscard]] QString problemKey() const;
     [[nodiscard]] bool isPresented() const { return m_isPresented; }
     [[nodiscard]] static QUrl fileFolder();
-    /// The day of expiry in words of that locale; empty where it is invalid.
-    Q_INVOKABLE [[nodiscard]] QString expiryText(const QLocale& locale) const;
+    /// The day of expiry in words of that language ("fr"); empty where it is invalid.
+    Q_INVOKABLE [[nodiscard]] QString expiryText(const QString& language) const;
 
     /// Why no session may begin now, as the localisation key of a sentence; none while one may.
     [[nodiscard]] std::optional<QString> refusal();

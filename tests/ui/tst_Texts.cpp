@@ -66,7 +66,7 @@ TextsTest::Texts TextsTest::texts(const QString& language) {
 QSet<QString> TextsTest::usedKeys() {
     static const QRegularExpression call(QStringLiteral(R"re(q[st]TrId\(\s*"([a-z0-9_]+)")re"));
     static const QRegularExpression written(QStringLiteral(
-        R"re("((?:accessibility|ambience|attach|autostart|browser_restart|count|extension|feedback|health|licence|planning_file|refused|update|window_closed)_[a-z0-9_]+)")re"));
+        R"re("((?:accessibility|action|ambience|attach|autostart|browser_restart|count|extension|feedback|health|licence|planning_file|refused|update|window_closed)_[a-z0-9_]+)")re"));
     QSet<QString> keys;
     for (const char* folder : {"app", "distraction", "focus", "model", "planning", "platform", "services",
                                "settings", "sound", "stats", "ui"}) {

@@ -21,7 +21,7 @@ ColumnLayout {
     }
 
     function endText(): string {
-        return root.license.expiryText(Localization.locale);
+        return root.license.expiryText(Localization.language);
     }
 
     function stateText(): string {
