@@ -36,7 +36,7 @@ std::optional<BackupFile> backupOf(const QFileInfo& file) {
 }
 
 bool isWorthKeeping(const BackupFile& backup) {
-    const auto facts = readStoreFacts(backup.path);
+    const auto facts = readStoreFacts(backup.path, CountIntervals::no);
     const auto* held = std::get_if<StoreFacts>(&facts);
     return held != nullptr && !held->isEmpty();
 }

@@ -21,6 +21,7 @@
 #include <cerrno>
 #include <chrono>
 #include <cstring>
+#include <string>
 
 namespace norvin {
 
@@ -139,16 +140,18 @@ bool isPassing(const StoreError& error) {
     }
 }
 
-std::variant<StoreFacts, StoreError> readStoreFacts(const QString& file) {
+std::variant<StoreFacts, StoreError> readStoreFacts(const QString& file, CountIntervals counting) {
     try {
         SQLite::Database database = openReading(file);
         if (auto difference = schema::validate(database))
             return *std::move(difference);
+        const std::string intervals = counting == CountIntervals::yes
+                                          ? "(SELECT count(*) FROM AppUsageSession)"
+                                          : "EXISTS(SELECT 1 FROM AppUsageSession)";
         SQLite::Statement query(database, "SELECT (SELECT count(*) FROM Project), "
                                           "(SELECT count(*) FROM TaskItem), "
-                                          "(SELECT count(*) FROM Session), "
-                                          "(SELECT count(*) FROM AppUsageSession), "
-                                          "(SELECT min(startTime) FROM Session)");
+                                          "(SELECT count(*) FROM Session), " +
+                                              intervals + ", (SELECT min(startTime) FROM Session)");
         static_cast<void>(query.executeStep());
         return StoreFacts{.bytes = QFileInfo(file).size() + QFileInfo(file + QStringLiteral("-wal")).size(),
                           .projects = query.getColumn(0).getInt64(),

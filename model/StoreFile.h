@@ -16,7 +16,7 @@ struct StoreFacts {
     qint64 projects = 0;
     qint64 tasks = 0; ///< with subtasks
     qint64 sessions = 0;
-    qint64 intervals = 0;
+    qint64 intervals = 0;        ///< 1 stands for any number where they were not counted
     QDateTime firstSession = {}; ///< in local time; invalid where there is none
 
     [[nodiscard]] bool isEmpty() const { return projects + tasks + sessions + intervals == 0; }
@@ -28,8 +28,12 @@ struct StoreFacts {
 // The following open a file on a connection of their own, and may be called on any thread, also while the
 // store is open elsewhere.
 
-/// Counts what is in the file, which must have our schema. Takes some ten milliseconds for ten years.
-[[nodiscard]] std::variant<StoreFacts, StoreError> readStoreFacts(const QString& file);
+/// Counting them reads some ten megabytes for ten years.
+enum class CountIntervals { yes, no };
+
+/// Counts what is in the file, which must have our schema.
+[[nodiscard]] std::variant<StoreFacts, StoreError> readStoreFacts(const QString& file,
+                                                                  CountIntervals counting);
 
 /// Reads the whole file: whether SQLite finds it sound, the schema is ours, and no reference hangs in the
 /// air. Takes about a second for ten years. @return what is wrong

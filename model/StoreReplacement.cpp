@@ -98,7 +98,7 @@ StoreResult keepPresent(const QString& storeFile, const QString& prepared) {
     // Whoever was stopped half-way finds the copy of the first attempt again by its name.
     const QString copy =
         BackupFolder(storeFile).fileFor(BackupKind::beforeRestore, QFileInfo(prepared).lastModified());
-    const auto facts = readStoreFacts(storeFile);
+    const auto facts = readStoreFacts(storeFile, CountIntervals::no);
     const auto* held = std::get_if<StoreFacts>(&facts);
     if (QFile::exists(copy) || (held != nullptr && held->isEmpty()))
         return {};
@@ -112,7 +112,7 @@ ReplacementOutcome refused(const QString& prepared, const QString& problem) {
 }
 
 ReplacementOutcome restore(const QString& storeFile, const QString& prepared) {
-    const auto facts = readStoreFacts(prepared);
+    const auto facts = readStoreFacts(prepared, CountIntervals::no);
     if (const auto* error = std::get_if<StoreError>(&facts))
         return refused(prepared, error->description);
     if (const StoreResult failure = keepPresent(storeFile, prepared))

@@ -22,8 +22,7 @@ public:
 
     [[nodiscard]] bool isRunning() const { return m_thread != nullptr; }
     /// Must not be running.
-    /// @param priority IdlePriority gives everything else on the machine precedence
-    void start(Piece piece, QThread::Priority priority = QThread::InheritPriority) {
+    void start(Piece piece) {
         m_thread.reset(QThread::create([this, piece = std::move(piece)] {
             QMetaObject::invokeMethod(
                 &m_receiver,
@@ -33,7 +32,7 @@ public:
                 },
                 Qt::QueuedConnection);
         }));
-        m_thread->start(priority);
+        m_thread->start();
     }
     void wait() {
         if (m_thread)

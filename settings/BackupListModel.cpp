@@ -71,6 +71,8 @@ QVariant BackupListModel::data(const QModelIndex& index, int role) const {
     const Row& row = m_rows[static_cast<size_t>(index.row())];
     const auto* const facts = std::get_if<StoreFacts>(&row.facts);
     switch (role) {
+    case FileRole:
+        return row.file.path;
     case WhenRole:
         return whenText(row.file);
     case KindRole:
@@ -87,11 +89,8 @@ QVariant BackupListModel::data(const QModelIndex& index, int role) const {
 }
 
 QHash<int, QByteArray> BackupListModel::roleNames() const {
-    return {{WhenRole, "when"},
-            {KindRole, "kind"},
-            {ContentsRole, "contents"},
-            {SizeRole, "size"},
-            {UsableRole, "isUsable"}};
+    return {{FileRole, "file"},         {WhenRole, "when"}, {KindRole, "kind"},
+            {ContentsRole, "contents"}, {SizeRole, "size"}, {UsableRole, "isUsable"}};
 }
 
 } // namespace norvin

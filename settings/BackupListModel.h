@@ -17,7 +17,8 @@ class BackupListModel final : public QAbstractListModel {
     Q_PROPERTY(int count READ count NOTIFY countChanged)
 public:
     enum Role {
-        WhenRole = Qt::UserRole + 1, ///< day and time
+        FileRole = Qt::UserRole + 1, ///< its path, by which it is known
+        WhenRole,                    ///< day and time
         KindRole,                    ///< why it was made
         ContentsRole,                ///< what is in it, or why that cannot be said
         SizeRole,

@@ -51,7 +51,7 @@ void BackupService::backUpDaily() {
     run(Job::daily, [this, now, progress = progress()]() -> Result {
         if (m_folder.hasDaily(now.date()))
             return {};
-        const auto facts = readStoreFacts(m_storeFile);
+        const auto facts = readStoreFacts(m_storeFile, CountIntervals::no);
         if (const auto* held = std::get_if<StoreFacts>(&facts); held != nullptr && held->isEmpty())
             return {};
         const QString file = m_folder.fileFor(BackupKind::daily, now);
@@ -115,7 +115,7 @@ void BackupService::run(Job job, std::function<Result()> work) {
             Q_EMIT finished(result);
         };
     };
-    m_work.start(piece, job == Job::daily ? QThread::IdlePriority : QThread::InheritPriority);
+    m_work.start(piece);
     Q_EMIT workChanged();
 }
 

@@ -129,11 +129,12 @@ void DataSettings::refresh() {
     }
     m_reading.start([this, file = storeFile(), folder = m_service.folder()] {
         Read read;
-        auto facts = readStoreFacts(file);
+        auto facts = readStoreFacts(file, CountIntervals::yes);
         if (const auto* held = std::get_if<StoreFacts>(&facts))
             read.store = *held;
         for (const BackupFile& backup : folder.files())
-            read.backups.push_back({.file = backup, .facts = readStoreFacts(backup.path)});
+            read.backups.push_back(
+                {.file = backup, .facts = readStoreFacts(backup.path, CountIntervals::no)});
         return [this, read = std::move(read)] { takeRead(read); };
     });
 }
@@ -153,18 +154,25 @@ void DataSettings::backUpNow() {
         say(qtTrId("data_busy"), true);
 }
 
-QString DataSettings::restoreQuestion(int row) const {
-    if (row < 0 || row >= m_backups.count())
-        return {};
-    const BackupListModel::Row& chosen = m_backups.rows()[static_cast<size_t>(row)];
-    const auto* const facts = std::get_if<StoreFacts>(&chosen.facts);
-    return qtTrId("restore_message")
-        .arg(m_backups.whenText(chosen.file), facts != nullptr ? contentsText(*facts) : QString());
+const BackupListModel::Row* DataSettings::listed(const QString& file) const {
+    const auto& rows = m_backups.rows();
+    const auto found = std::find_if(
+        rows.begin(), rows.end(), [&file](const BackupListModel::Row& row) { return row.file.path == file; });
+    return found == rows.end() ? nullptr : &*found;
 }
 
-void DataSettings::restore(int row) {
-    if (row >= 0 && row < m_backups.count())
-        restoreFile(m_backups.rows()[static_cast<size_t>(row)].file.path);
+QString DataSettings::restoreQuestion(const QString& file) const {
+    const BackupListModel::Row* const chosen = listed(file);
+    if (chosen == nullptr)
+        return {};
+    const auto* const facts = std::get_if<StoreFacts>(&chosen->facts);
+    return qtTrId("restore_message")
+        .arg(m_backups.whenText(chosen->file), facts != nullptr ? contentsText(*facts) : QString());
+}
+
+void DataSettings::restore(const QString& file) {
+    if (listed(file) != nullptr)
+        restoreFile(file);
 }
 
 void DataSettings::act() {

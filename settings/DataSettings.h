@@ -78,11 +78,11 @@ public:
     /// Reads what is shown anew; the texts follow a moment later.
     Q_INVOKABLE void refresh();
     Q_INVOKABLE void backUpNow();
-    /// What a restore of that row does, as a sentence to agree to.
-    Q_INVOKABLE [[nodiscard]] QString restoreQuestion(int row) const;
-    /// Puts the backup of that row in the place of the store, which ends in restartWanted(). A row that is
-    /// not there does nothing; while a phase is under way that is refused with a notice.
-    Q_INVOKABLE void restore(int row);
+    /// What a restore of that file does, as a sentence to agree to; empty for one that is not in the list.
+    Q_INVOKABLE [[nodiscard]] QString restoreQuestion(const QString& file) const;
+    /// Puts a backup in the place of the store, which ends in restartWanted(). A file that is not in the list
+    /// does nothing; while a phase is under way that is refused with a notice.
+    Q_INVOKABLE void restore(const QString& file);
     /// What the button of the start notice does: restores the newest backup.
     Q_INVOKABLE void act();
     Q_INVOKABLE void dismissStartNotice();
@@ -117,6 +117,7 @@ private:
     void takeRead(Read read);
     void clearPreferences();
     void refuseAtStart(const QString& problem);
+    [[nodiscard]] const BackupListModel::Row* listed(const QString& file) const;
     void restoreFile(const QString& file);
     void say(const QString& notice, bool isProblem);
     [[nodiscard]] std::optional<BackupFile> newestBackup() const;

@@ -74,15 +74,16 @@ void StoreBackupTest::aCopyIsTheStoreAtOneMoment() {
     QVERIFY(steps > 1);
     QCOMPARE(names(store.folder() + QStringLiteral("/sub")), QStringList{QStringLiteral("copy.sqlite")});
 
-    const auto facts = std::get<StoreFacts>(readStoreFacts(target));
+    const auto facts = std::get<StoreFacts>(readStoreFacts(target, CountIntervals::yes));
     QCOMPARE(facts.projects, 1);
     QCOMPARE(facts.tasks, 1);
     QCOMPARE(facts.sessions, 1);
     QCOMPARE(facts.intervals, 4000);
     QCOMPARE(facts.firstSession, morning);
     QCOMPARE(facts.bytes, QFileInfo(target).size());
-    const auto live = std::get<StoreFacts>(readStoreFacts(store.file()));
+    const auto live = std::get<StoreFacts>(readStoreFacts(store.file(), CountIntervals::no));
     QCOMPARE(live.tasks, 1 + steps);
+    QCOMPARE(live.intervals, 1);
     // Reading made no companions either.
     QCOMPARE(names(store.folder() + QStringLiteral("/sub")), QStringList{QStringLiteral("copy.sqlite")});
 }

@@ -69,6 +69,7 @@ private:
         data->backUpNow();
         QTRY_VERIFY(data->backups()->count() > 0);
     }
+    [[nodiscard]] QString newest() const { return data->backups()->rows().front().file.path; }
     [[nodiscard]] bool lies(const char* ending) const {
         return QFile::exists(store->folder() + QStringLiteral("/NorvinFocus") + QLatin1String(ending));
     }
@@ -137,9 +138,9 @@ void DataSettingsTest::aBackupComesBack() {
     addTask(container->mainContext(), QStringLiteral("Later"));
     QVERIFY(!container->mainContext().save());
     QSignalSpy restart(data.get(), &DataSettings::restartWanted);
-    data->restore(7);
+    data->restore(store->file());
     QVERIFY(!data->isWorking());
-    data->restore(0);
+    data->restore(newest());
     QVERIFY(data->isWorking());
     QVERIFY(restart.wait());
 
@@ -162,14 +163,14 @@ void DataSettingsTest::nothingIsReplacedUnderASession() {
     QSignalSpy restart(data.get(), &DataSettings::restartWanted);
     rig->timer.startSession(nullptr, PomodoroPhase::work);
     QVERIFY(!data->canReplace());
-    data->restore(0);
+    data->restore(newest());
     data->erase(data->eraseWord(), false, false);
     QVERIFY(data->isNoticeProblem());
     QVERIFY(!lies(".restore") && !lies(".erase"));
 
     // One that begins while the backup is prepared.
     rig->timer.stopSession();
-    data->restore(0);
+    data->restore(newest());
     rig->timer.startSession(nullptr, PomodoroPhase::work);
     QTRY_VERIFY(!data->isWorking());
     QVERIFY(data->isNoticeProblem());

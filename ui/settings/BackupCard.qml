@@ -11,10 +11,10 @@ SettingsCard {
 
     required property DataSettings settings
 
-    function ask(row: int): void {
-        if (!root.settings.canReplace || root.settings.isWorking)
+    function ask(row: BackupRow): void {
+        if (!row || !row.isUsable || !row.canRestore)
             return;
-        question.row = row;
+        question.file = row.file;
         question.active = true;
     }
 
@@ -96,20 +96,25 @@ SettingsCard {
         Accessible.role: Accessible.List
         Accessible.name: qsTrId("backups_title")
 
-        Keys.onReturnPressed: root.ask(list.currentIndex)
-        Keys.onEnterPressed: root.ask(list.currentIndex)
+        // A list that was read anew has lost its place.
+        onCountChanged: list.currentIndex = Math.max(list.currentIndex, 0)
+
+        Keys.onReturnPressed: root.ask(list.currentItem as BackupRow)
+        Keys.onEnterPressed: root.ask(list.currentItem as BackupRow)
 
         T.ScrollBar.vertical: ScrollBarThin {}
 
         delegate: BackupRow {
+            id: row
+
             required property int index
 
             width: list.width - Theme.gap3
             hasKeyboard: list.activeFocus
             canRestore: root.settings.canReplace && !root.settings.isWorking
             onRestoreChosen: {
-                list.currentIndex = index;
-                root.ask(index);
+                list.currentIndex = row.index;
+                root.ask(row);
             }
         }
     }
@@ -117,17 +122,17 @@ SettingsCard {
     Deferred {
         id: question
 
-        property int row: -1
+        property string file: ""
 
         visible: false
 
         QuestionDialog {
             visible: true
             title: qsTrId("restore_title")
-            message: root.settings.restoreQuestion(question.row)
+            message: root.settings.restoreQuestion(question.file)
             acceptText: qsTrId("restore_button")
             rejectText: qsTrId("cancel_button")
-            onAccepted: root.settings.restore(question.row)
+            onAccepted: root.settings.restore(question.file)
             onClosed: {
                 question.active = false;
                 list.forceActiveFocus(Qt.TabFocusReason);

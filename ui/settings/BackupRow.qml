@@ -8,6 +8,7 @@ import NorvinFocus.Ui
 Rectangle {
     id: root
 
+    required property string file
     required property string when
     required property string kind
     required property string contents

@@ -33,7 +33,7 @@ Page {
     }
 
     heading: qsTrId("preferences_title")
-    introduction: qsTrId("preferences_subtitle")
+    introduction: root.model.profileName.length > 0 ? qsTrId("preferences_subtitle_named").arg(root.model.profileName) : qsTrId("preferences_subtitle")
 
     onEntered: {
         root.model.open();
