@@ -75,7 +75,7 @@ RowLayout {
         symbol: "headphones"
         symbolColor: hovered || visualFocus ? Theme.text : root.ambientSounds?.isPlaying ? Theme.accentText : Theme.textMuted
         symbolSize: 24
-        text: qsTrId("ambience_button").arg(root.ambientSounds?.soundName(root.ambientSounds.selectedSound) ?? "")
+        text: Localization.language.length > 0 ? qsTrId("ambience_button").arg(root.ambientSounds?.soundName(root.ambientSounds.selectedSound) ?? "") : ""
         onClicked: root.ambienceWanted()
     }
 }

@@ -144,16 +144,19 @@ QSGNode* BubbleField::updatePaintNode(QSGNode* old, UpdatePaintNodeData*) {
         const QRectF place = placeOf(bubble);
         if (!place.intersects(boundingRect()))
             continue;
-        if (child == nullptr) {
+        const bool isNew = child == nullptr;
+        if (isNew) {
             child = window()->createImageNode();
             child->setOwnsTexture(false);
             child->setFiltering(QSGTexture::Nearest);
-            node->appendChildNode(child);
         }
         QSGTexture* picture = node->pictures[static_cast<size_t>(bubble.kind)].get();
         if (child->texture() != picture)
             child->setTexture(picture);
         child->setRect(place);
+        // Only now: a renderer looks at what is appended to its tree at once.
+        if (isNew)
+            node->appendChildNode(child);
         child = static_cast<QSGImageNode*>(child->nextSibling());
     }
     while (child != nullptr) {

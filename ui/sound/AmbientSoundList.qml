@@ -15,6 +15,11 @@ FocusScope {
     readonly property list<string> sounds: [""].concat(root.service.soundsOf(root.category))
     readonly property int index: root.sounds.indexOf(root.service.selectedSound)
 
+    /// Made anew with the language.
+    function nameOf(sound: string): string {
+        return Localization.language.length > 0 ? root.service.soundName(sound) : "";
+    }
+
     function choose(position: int): void {
         root.service.selectedSound = root.sounds[Math.max(0, Math.min(position, root.sounds.length - 1))];
     }
@@ -22,7 +27,7 @@ FocusScope {
     implicitHeight: column.implicitHeight
     activeFocusOnTab: true
     Accessible.role: Accessible.RadioButton
-    Accessible.name: qsTrId("ambience_title") + ", " + root.service.soundName(root.service.selectedSound)
+    Accessible.name: qsTrId("ambience_title") + ", " + root.nameOf(root.service.selectedSound)
     Accessible.focusable: true
 
     // From a sound of another category to the first of this one.
@@ -60,7 +65,7 @@ FocusScope {
                 objectName: "ambientSound-" + row.modelData
                 Layout.fillWidth: true
                 implicitHeight: Theme.controlHeight
-                text: root.service.soundName(row.modelData)
+                text: root.nameOf(row.modelData)
                 checked: row.modelData === root.service.selectedSound
                 hoverEnabled: true
                 focusPolicy: Qt.NoFocus

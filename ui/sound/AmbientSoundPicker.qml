@@ -28,10 +28,10 @@ ColumnLayout {
 
     spacing: root.compact ? Theme.gap2 : Theme.gap4
 
-    Component.onDestruction: root.service.endPreview()
+    Component.onDestruction: root.service?.endPreview()
     onVisibleChanged: {
         if (!root.visible)
-            root.service.endPreview();
+            root.service?.endPreview();
     }
 
     Connections {
@@ -63,7 +63,8 @@ ColumnLayout {
             objectName: "ambientChoice"
             Layout.fillWidth: true
             name: qsTrId("ambience_title")
-            model: root.compact ? root.service.choices() : []
+            // Made anew with the language.
+            model: root.compact && Localization.language.length > 0 ? root.service.choices() : []
             chosenId: root.service.selectedSound
             onChosen: choiceId => root.service.selectedSound = choiceId
         }
@@ -76,7 +77,7 @@ ColumnLayout {
         SegmentedChoice {
             objectName: "ambientCategories"
             values: root.service.categories
-            labels: root.service.categories.map(category => root.service.categoryName(category))
+            labels: Localization.language.length > 0 ? root.service.categories.map(category => root.service.categoryName(category)) : []
             value: root.category
             name: qsTrId("ambience_category_label")
             onChosen: value => root.category = value
