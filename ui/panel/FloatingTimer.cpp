@@ -90,6 +90,7 @@ FloatingTimer::FloatingTimer(const Collaborators& collaborators, QObject* parent
     const auto later = Qt::QueuedConnection;
     connect(&m_with.timer, &PomodoroTimerService::stateChanged, this, &FloatingTimer::update, later);
     connect(&m_with.mainWindow, &QWindow::activeChanged, this, &FloatingTimer::update, later);
+    connect(&m_with.mainWindow, &QWindow::visibleChanged, this, &FloatingTimer::update, later);
     connect(&m_with.timer, &PomodoroTimerService::floatingOffsetChanged, this, [this] {
         writeOffset();
         place();
@@ -149,8 +150,10 @@ void FloatingTimer::writeOffset() {
 
 bool FloatingTimer::isWanted() const {
     const TimerState state = m_with.timer.state();
-    return (state == TimerState::running || state == TimerState::paused) && !m_with.mainWindow.isActive() &&
-           isEnabled() && isAvailable();
+    // Window systems may go on calling a window active that was hidden.
+    const bool isWindowInFront = m_with.mainWindow.isVisible() && m_with.mainWindow.isActive();
+    return (state == TimerState::running || state == TimerState::paused) && !isWindowInFront && isEnabled() &&
+           isAvailable();
 }
 
 void FloatingTimer::update() {

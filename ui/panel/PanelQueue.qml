@@ -38,7 +38,7 @@ ColumnLayout {
         objectName: "panelQueue"
         Layout.fillWidth: true
         Layout.preferredHeight: Math.min(list.count, root.mostRows) * root.rowHeight
-        visible: list.count > 0
+        visible: root.screen.queue.taskCount > 0
         clip: true
         activeFocusOnTab: true
         boundsBehavior: Flickable.StopAtBounds

@@ -118,6 +118,7 @@ FocusScope {
             PushButton {
                 objectName: "panelBreak"
                 kind: PushButton.Kind.Quiet
+                leftPadding: Theme.gap2
                 symbol: "cup.and.saucer.fill"
                 text: qsTrId("break_button")
                 onClicked: root.screen.startBreak()
@@ -126,6 +127,7 @@ FocusScope {
             PushButton {
                 objectName: "panelRearming"
                 kind: PushButton.Kind.Quiet
+                leftPadding: Theme.gap2
                 symbol: "arrow.clockwise"
                 text: qsTrId("rearming_button")
                 onClicked: root.screen.startRearming()

@@ -123,11 +123,11 @@ void TrayPanel::onActiveChanged() {
 void TrayPanel::close() {
     if (!m_window)
         return;
-    // What closes it may be something in it.
-    QQuickWindow* window = m_window.release();
-    window->disconnect(this);
-    window->hide();
-    window->deleteLater();
+    m_leaving = std::move(m_window);
+    m_leaving->disconnect(this);
+    m_leaving->hide();
+    QMetaObject::invokeMethod(
+        this, [this] { m_leaving.reset(); }, Qt::QueuedConnection);
 }
 
 void TrayPanel::leaveForWindow() {

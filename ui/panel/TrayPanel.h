@@ -60,6 +60,8 @@ private:
 
     Collaborators m_with;
     std::unique_ptr<QQuickWindow> m_window;
+    /// Closed from within itself, perhaps, so that it is there a moment longer.
+    std::unique_ptr<QQuickWindow> m_leaving;
     std::optional<std::chrono::milliseconds> m_leftAt;
     bool m_wasActive = false;
 };
