@@ -14,7 +14,7 @@ from support.processes import wait_until
 DRIVER = os.path.join(os.environ.get("BUILD_UNDER_TEST", "build/dev"), "bin", "store-driver")
 KILLS = int(os.environ.get("KILLS", "15"))
 SEED = int(os.environ.get("KILL_SEED", "20260301"))
-INTERVALS = 40_000  # enough for a copy to take some tenths of a second
+INTERVALS = 100_000  # enough for a copy to take some tenths of a second
 
 
 def titles(store):
@@ -74,7 +74,7 @@ class Backup(DesktopTestCase):
         os.remove(target)
         killed = kept = 0
         for _ in range(KILLS):
-            killed += self.kill_in_the_midst(longest, DRIVER, "backup", self.store, target)
+            killed += self.kill_in_the_midst(longest * 1.2, DRIVER, "backup", self.store, target)
             if os.path.exists(target):
                 kept += 1
                 self.assertEqual(titles(target), ["Old"])
@@ -93,7 +93,7 @@ class Backup(DesktopTestCase):
         for _ in range(KILLS):
             present = titles(self.store)[0]
             wanted = "Old" if present == "New" else "New"
-            killed += self.kill_in_the_midst(longest * 1.1, DRIVER, "restore", self.store,
+            killed += self.kill_in_the_midst(longest * 1.3, DRIVER, "restore", self.store,
                                              self.desktop.path(f"{wanted}.sqlite"))
             after = titles(self.store)
             self.assertIn(after, (["Old"], ["New"]))

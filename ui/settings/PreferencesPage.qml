@@ -29,7 +29,7 @@ Page {
     }
 
     function panes(): list<string> {
-        return ["general", "session", "sound"].concat(root.hasData ? ["data"] : [], root.hasProgram ? ["program"] : []);
+        return ["general", "session", "sound", ...(root.hasData ? ["data"] : []), ...(root.hasProgram ? ["program"] : [])];
     }
 
     heading: qsTrId("preferences_title")
@@ -46,7 +46,7 @@ Page {
         objectName: "preferencesPane"
         name: qsTrId("preferences_title")
         values: root.panes()
-        labels: choice.values.map(pane => root.paneName(pane))
+        labels: Array.from(choice.values, pane => root.paneName(pane))
         value: root.pane
         onChosen: value => {
             root.pane = value;

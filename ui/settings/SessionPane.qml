@@ -64,8 +64,8 @@ ColumnLayout {
             SegmentedChoice {
                 objectName: "inactivityThreshold"
                 name: qsTrId("inactivity_threshold_label")
-                values: root.model.inactivityChoices.map(minutes => minutes.toString())
-                labels: root.model.inactivityChoices.map(minutes => Localization.formats.minutes(minutes))
+                values: Array.from(root.model.inactivityChoices, minutes => minutes.toString())
+                labels: Array.from(root.model.inactivityChoices, minutes => Localization.formats.minutes(minutes))
                 value: root.model.inactivityMinutes.toString()
                 segmentPadding: Theme.gap2
                 onChosen: value => root.model.inactivityMinutes = Number(value)
