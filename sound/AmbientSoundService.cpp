@@ -81,12 +81,15 @@ QVariantList AmbientSoundService::choices() const {
     return all;
 }
 
-QString AmbientSoundService::categoryName(const QString& category) const {
-    for (const AmbientSoundCategory known : allAmbientSoundCategories) {
-        if (rawValue(known) == category)
-            return displayName(known);
-    }
-    return {};
+QList<QString> AmbientSoundService::categoryNames() const {
+    QList<QString> names;
+    for (const AmbientSoundCategory category : allAmbientSoundCategories)
+        names.append(displayName(category));
+    return names;
+}
+
+QList<QString> AmbientSoundService::choicesOf(const QString& category) const {
+    return QList<QString>{QString()} + soundsOf(category);
 }
 
 QString AmbientSoundService::selectedSound() const {

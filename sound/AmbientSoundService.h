@@ -56,11 +56,14 @@ public:
     [[nodiscard]] QList<QString> categories() const;
     /// Raw values of the sounds of a category, in the order in which they are offered.
     Q_INVOKABLE [[nodiscard]] QList<QString> soundsOf(const QString& category) const;
+    /// An empty text for none, and the sounds of a category.
+    Q_INVOKABLE [[nodiscard]] QList<QString> choicesOf(const QString& category) const;
     /// What a sound is called in the language of the window; of an empty text, what having none is called.
     Q_INVOKABLE [[nodiscard]] QString soundName(const QString& sound) const;
     /// None and all sounds, as maps with "id" and "name", and a "color" that is empty.
     Q_INVOKABLE [[nodiscard]] QVariantList choices() const;
-    Q_INVOKABLE [[nodiscard]] QString categoryName(const QString& category) const;
+    /// Of all categories, in their order.
+    Q_INVOKABLE [[nodiscard]] QList<QString> categoryNames() const;
 
     [[nodiscard]] QString selectedSound() const;
     void setSelectedSound(const QString& sound);

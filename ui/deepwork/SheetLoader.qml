@@ -1,7 +1,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import NorvinFocus.Ui
 
 /// One sheet at a time: loaded when it is wanted, gone when it is closed, and the keyboard is back where it was.
 Loader {

@@ -12,7 +12,7 @@ FocusScope {
 
     required property AmbientSoundService service
     required property string category
-    readonly property list<string> sounds: [""].concat(root.service.soundsOf(root.category))
+    readonly property list<string> sounds: root.service.choicesOf(root.category)
     readonly property int index: root.sounds.indexOf(root.service.selectedSound)
 
     /// Made anew with the language.

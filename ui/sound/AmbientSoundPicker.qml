@@ -77,7 +77,7 @@ ColumnLayout {
         SegmentedChoice {
             objectName: "ambientCategories"
             values: root.service.categories
-            labels: Localization.language.length > 0 ? root.service.categories.map(category => root.service.categoryName(category)) : []
+            labels: Localization.language.length > 0 ? root.service.categoryNames() : []
             value: root.category
             name: qsTrId("ambience_category_label")
             onChosen: value => root.category = value
