@@ -232,7 +232,8 @@ void NorvinFocusApp::makeMenuBarExtra() {
                                                                    .engine = m_userInterface.engine(),
                                                                    .localization = m_localization,
                                                                    .actions = m_actions,
-                                                                   .mainWindow = *m_userInterface.window()});
+                                                                   .mainWindow = *m_userInterface.window(),
+                                                                   .ambientSound = &m_ambientService});
     connect(m_menuBarExtra.get(), &MenuBarExtra::windowWanted, this, &NorvinFocusApp::showWindow);
     connect(m_menuBarExtra.get(), &MenuBarExtra::quitWanted, this, &NorvinFocusApp::askToQuit);
     // The window comes first.

@@ -56,6 +56,7 @@ OverlayWindow {
                 pixelSize: 22
                 text: root.deepWork.timeText
                 color: root.isPaused ? Theme.textMuted : Theme.text
+                Accessible.name: Localization.formats.minutes(root.deepWork.minutes)
             }
 
             Item {

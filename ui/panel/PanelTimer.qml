@@ -69,6 +69,7 @@ FocusScope {
             Layout.preferredWidth: 184
             Layout.preferredHeight: 184
             timeText: root.session.timeText
+            minutes: root.session.minutes
             progress: root.session.progress
             color: root.isPaused ? Theme.amber : root.screen.state === "idle" ? Theme.accentBright : Theme.phaseColor(root.screen.phase)
             symbol: root.screen.phaseSymbol

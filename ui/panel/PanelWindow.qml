@@ -24,8 +24,6 @@ Window {
     height: Math.ceil(column.implicitHeight) + 2 * Theme.gap5
     minimumWidth: 360
     maximumWidth: 360
-    minimumHeight: root.height
-    maximumHeight: root.height
     color: root.isPlaced && root.isBlended ? "transparent" : Theme.sidebar
 
     Shortcut {
