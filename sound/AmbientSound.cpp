@@ -82,16 +82,4 @@ QString displayName(AmbientSound sound) {
     return qtTrId(entryOf(sound).nameKey);
 }
 
-QString displayName(AmbientSoundCategory category) {
-    switch (category) {
-    case nature:
-        return qtTrId("ambience_category_nature");
-    case noise:
-        return qtTrId("ambience_category_noise");
-    case focus:
-        return qtTrId("ambience_category_focus");
-    }
-    return {};
-}
-
 } // namespace norvin

@@ -45,6 +45,5 @@ inline constexpr std::array allAmbientSoundCategories{
 
 /// What it is called in the language of the window.
 [[nodiscard]] QString displayName(AmbientSound sound);
-[[nodiscard]] QString displayName(AmbientSoundCategory category);
 
 } // namespace norvin

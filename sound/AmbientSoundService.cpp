@@ -81,15 +81,18 @@ QVariantList AmbientSoundService::choices() const {
     return all;
 }
 
-QList<QString> AmbientSoundService::categoryNames() const {
-    QList<QString> names;
-    for (const AmbientSoundCategory category : allAmbientSoundCategories)
-        names.append(displayName(category));
-    return names;
+QVariantList AmbientSoundService::choicesOf(const QString& category) const {
+    QVariantList choices{QString()};
+    for (const QString& sound : soundsOf(category))
+        choices.append(sound);
+    return choices;
 }
 
-QList<QString> AmbientSoundService::choicesOf(const QString& category) const {
-    return QList<QString>{QString()} + soundsOf(category);
+void AmbientSoundService::chooseNext(const QString& category, int places) {
+    const QVariantList choices = choicesOf(category);
+    const qsizetype chosen = choices.indexOf(selectedSound());
+    const qsizetype wanted = chosen < 0 ? 1 : std::clamp<qsizetype>(chosen + places, 0, choices.size() - 1);
+    setSelectedSound(choices.value(wanted).toString());
 }
 
 QString AmbientSoundService::selectedSound() const {

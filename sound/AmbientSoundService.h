@@ -56,14 +56,15 @@ public:
     [[nodiscard]] QList<QString> categories() const;
     /// Raw values of the sounds of a category, in the order in which they are offered.
     Q_INVOKABLE [[nodiscard]] QList<QString> soundsOf(const QString& category) const;
-    /// An empty text for none, and the sounds of a category.
-    Q_INVOKABLE [[nodiscard]] QList<QString> choicesOf(const QString& category) const;
+    /// An empty text for none, and the raw values of the sounds of a category.
+    Q_INVOKABLE [[nodiscard]] QVariantList choicesOf(const QString& category) const;
+    /// Chooses what stands so many places further among these, staying within them; from a sound of another
+    /// category the first of this one.
+    Q_INVOKABLE void chooseNext(const QString& category, int places);
     /// What a sound is called in the language of the window; of an empty text, what having none is called.
     Q_INVOKABLE [[nodiscard]] QString soundName(const QString& sound) const;
     /// None and all sounds, as maps with "id" and "name", and a "color" that is empty.
     Q_INVOKABLE [[nodiscard]] QVariantList choices() const;
-    /// Of all categories, in their order.
-    Q_INVOKABLE [[nodiscard]] QList<QString> categoryNames() const;
 
     [[nodiscard]] QString selectedSound() const;
     void setSelectedSound(const QString& sound);

@@ -12,16 +12,10 @@ FocusScope {
 
     required property AmbientSoundService service
     required property string category
-    readonly property list<string> sounds: root.service.choicesOf(root.category)
-    readonly property int index: root.sounds.indexOf(root.service.selectedSound)
 
     /// Made anew with the language.
     function nameOf(sound: string): string {
         return Localization.language.length > 0 ? root.service.soundName(sound) : "";
-    }
-
-    function choose(position: int): void {
-        root.service.selectedSound = root.sounds[Math.max(0, Math.min(position, root.sounds.length - 1))];
     }
 
     implicitHeight: column.implicitHeight
@@ -30,9 +24,8 @@ FocusScope {
     Accessible.name: qsTrId("ambience_title") + ", " + root.nameOf(root.service.selectedSound)
     Accessible.focusable: true
 
-    // From a sound of another category to the first of this one.
-    Keys.onUpPressed: root.choose(root.index < 0 ? 1 : root.index - 1)
-    Keys.onDownPressed: root.choose(root.index < 0 ? 1 : root.index + 1)
+    Keys.onUpPressed: root.service.chooseNext(root.category, -1)
+    Keys.onDownPressed: root.service.chooseNext(root.category, 1)
     Keys.onSpacePressed: root.service.toggle()
 
     Rectangle {
@@ -55,7 +48,7 @@ FocusScope {
         spacing: 0
 
         Repeater {
-            model: root.sounds
+            model: root.service.choicesOf(root.category)
 
             T.AbstractButton {
                 id: row

@@ -77,7 +77,7 @@ ColumnLayout {
         SegmentedChoice {
             objectName: "ambientCategories"
             values: root.service.categories
-            labels: Localization.language.length > 0 ? root.service.categoryNames() : []
+            labels: [qsTrId("ambience_category_nature"), qsTrId("ambience_category_noise"), qsTrId("ambience_category_focus")]
             value: root.category
             name: qsTrId("ambience_category_label")
             onChosen: value => root.category = value
