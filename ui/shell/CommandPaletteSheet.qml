@@ -81,10 +81,6 @@ Item {
                     width: list.width
                     highlighted: ListView.isCurrentItem
                     onClicked: root.palette.choose(index)
-                    onHoveredChanged: {
-                        if (hovered)
-                            list.currentIndex = index;
-                    }
                 }
             }
 
