@@ -1,7 +1,8 @@
-"""Measures the program and prints ratios as a table: run.py BUILD-DIRECTORY
+"""Measures the program and prints ratios as a table: run.py BUILD-DIRECTORY [PART...]
 
 Whole processes are measured on a private virtual display, in turn with their neighbours, so that what the machine does
-meanwhile meets both. The store holds ten years of a heavy user. Nothing here passes or fails."""
+meanwhile meets both. The store holds ten years of a heavy user. Nothing here passes or fails. All of it takes half an
+hour; the parts are: processes, sounds, browsers, store, planning, statistics."""
 
 import json
 import re
@@ -23,6 +24,8 @@ from support.pages import Pages  # noqa: E402
 START_PAIRS = 15
 SAMPLE_SECONDS = 30
 YEARS = 10
+SOUND_NAMES = ("rain", "wind", "waves", "stream", "fire", "white_noise", "pink_noise", "brown_noise", "grey_noise", "fan",
+               "low_drone", "soft_pads", "singing_bowls", "air_tones")
 
 
 def first_frame(command, environment):
@@ -112,6 +115,34 @@ def measure_ticks(program):
             app.do("start", "--minutes", "60")
             programs.append(app.process.pid)
         return sample(*programs)
+    finally:
+        for desktop in desktops:
+            desktop.close()
+
+
+def measure_company(program):
+    """Samples taken at the same time of a session with its window closed: alone, with rain, with the floating timer; and
+    then of one whose window has sunk as deep as it can."""
+    desktops = []
+
+    def begin(*arguments, **preferences):
+        desktops.append(Desktop())
+        PulseAudio(desktops[-1]).start()
+        app = Application(desktops[-1], program)
+        app.write_preferences(**{"tick_sound_enabled": "false", "floating_timer_enabled": "false", **preferences})
+        app.launch(*arguments)
+        app.do("start", "--minutes", "60")
+        return app.process.pid
+
+    try:
+        sinking = begin(immersion_depth="1")
+        started = time.monotonic()
+        quiet = begin("--hidden")
+        rain = begin("--hidden", selected_ambient_sound="rain")
+        floating = begin("--hidden", floating_timer_enabled="true")
+        together = sample(quiet, rain, floating)
+        time.sleep(max(0, started + 185 - time.monotonic()))
+        return *together, *sample(sinking)
     finally:
         for desktop in desktops:
             desktop.close()
@@ -230,8 +261,8 @@ def run_benchmarks(program):
     for run in json.loads(output)["benchmarks"]:
         if run["run_type"] == "iteration":
             name, *arguments = run["name"].split("/")
-            size = [argument for argument in arguments if argument.isdigit()]
-            runs.setdefault("/".join([name, *size]) if program.endswith(("planning", "stats")) else name, []).append(run)
+            kept = [argument for argument in arguments if argument.isdigit() or argument in SOUND_NAMES]
+            runs.setdefault("/".join([name, *kept]) if not program.endswith("store") else name, []).append(run)
 
     def median(name, key):
         return statistics.median(run[key] for run in runs[name])
@@ -239,16 +270,14 @@ def run_benchmarks(program):
     return median
 
 
-def main():
-    build = Path(sys.argv[1]).resolve()
-    program = str(build / "bin" / "norvin-focus")
-    minimal_window = str(build / "bin" / "bench_minimal_window")
-    fill_store = str(build / "bin" / "fill_store")
+def rows_of_processes(build, program):
+    minimal_window, fill_store = (str(build / "bin" / name) for name in ("bench_minimal_window", "fill_store"))
     rows = []
     desktop = Desktop()
     try:
         app = Application(desktop, program)
-        app.write_preferences(tick_sound_enabled="false")  # there is no sound server
+        # There is no sound server; the floating timer is a window of its own, measured apart.
+        app.write_preferences(tick_sound_enabled="false", floating_timer_enabled="false")
         app.launch("--hidden")
         app.process.terminate()
         app.process.wait()
@@ -273,19 +302,45 @@ def main():
             rows.append((f"{names[state]}: proportional set size, MB", f"{pss:.0f}", "", limits[2]))
     finally:
         desktop.close()
+    return rows
 
+
+def rows_of_sounds(build, program):
+    rows = []
     ticking, silent = measure_ticks(program)
     rows.append(("session running, window closed: CPU with ticks / without", f"{ticking[0] / silent[0]:.2f}",
                  f"{ticking[0]:.3f} / {silent[0]:.3f} %", "–"))
     rows.append(("session running, window closed: voluntary context switches a second with ticks / without",
                  f"{ticking[1] / silent[1]:.2f}", f"{ticking[1]:.2f} / {silent[1]:.2f}", "–"))
 
+    quiet, rain, floating, sunk = measure_company(program)
+    for what, (cpu, switches, pss), limits in (
+            ("with rain", rain, ("1 more", "–", "–")), ("with the floating timer", floating, ("0.2", "6", "60")),
+            ("without either", quiet, ("0.05", "2", "60")), ("its window open and sunk", sunk, ("3", "–", "–"))):
+        begin = "session running" if what.startswith("its") else "session running, window closed"
+        rows.append((f"{begin}, {what}: CPU, % of a core; switches a second; PSS, MB",
+                     f"{cpu:.3f}; {switches:.1f}; {pss:.0f}", "", "; ".join(limits)))
+    median = run_benchmarks(str(build / "bin" / "bench_sound"))
+    costs = {name: median(f"makeSound/{name}", "core_percent") for name in SOUND_NAMES}
+    dearest = max(costs, key=costs.get)
+    rows.append(("an ambient sound made while it is heard: % of a core, median of all, dearest",
+                 f"{statistics.median(costs.values()):.2f}, {costs[dearest]:.2f}", dearest, "1"))
+    return rows
+
+
+def rows_of_browsers(_build, program):
+    rows = []
     for kind, identifier in ((Firefox, "org.mozilla.firefox"), (Chromium, "com.google.Chrome")):
         asked, silent = measure_browser(program, kind, identifier)
         for what, with_it, without in (("own process", asked[0], silent[0]), ("accessibility bus", asked[1], silent[1])):
             rows.append((f"session, {kind.name} in front: CPU of the {what}, looked into / not",
                          f"{with_it[0] / max(without[0], 0.001):.2f}", f"{with_it[0]:.3f} / {without[0]:.3f} %", "–"))
 
+    return rows
+
+
+def rows_of_store(build, _program):
+    rows = []
     median = run_benchmarks(str(build / "bin" / "bench_store"))
     for percentile, budget in (("p50_us", "0.5 ms more"), ("p99_us", "2 ms more")):
         save, sqlite, flush = (median(name, percentile)
@@ -299,6 +354,11 @@ def main():
     rows.append(("load of 200 projects and 20,000 tasks / a bare scan of their rows", f"{load / scan:.2f}",
                  f"{load / 1e6:.1f} / {scan / 1e6:.1f} ms", "–"))
 
+    return rows
+
+
+def rows_of_planning(build, program):
+    rows = []
     median = run_benchmarks(str(build / "bin" / "bench_planning"))
     for name, what in (("openAgenda", "the planning screens made, today listed"), ("switchDay", "another day shown"),
                        ("showMonth", "another month shown"), ("openBoard", "a board opened"),
@@ -311,6 +371,11 @@ def main():
     rows.append(("scrolling a board of 500 cards a column: longest frame / 16 ms", f"{max(frames) / 16:.2f}",
                  f"{max(frames)} ms, median {statistics.median(frames):.0f}, {len(frames)} frames", "1"))
 
+    return rows
+
+
+def rows_of_statistics(build, program):
+    rows = []
     median = run_benchmarks(str(build / "bin" / "bench_stats"))
     month, years = "30", "3652"
     sql = {"30 days": median(f"sqlMonth/{years}", "real_time"), "ten years": median(f"sqlAll/{years}", "real_time")}
@@ -327,7 +392,7 @@ def main():
         rows.append((f"statistics: {what}, of ten years / of 30 days", f"{many / few:.2f}",
                      f"{many * 1000:.0f} / {few * 1000:.0f} µs", limit))
     rows.append(("statistics: bytes of ten years, MB", f"{median(f'switchPeriod/{years}', 'bytes') / 1e6:.1f}", "", "64"))
-    (before, shown, after), frames, (cpu, switches, _), live = measure_statistics(program, fill_store)
+    (before, shown, after), frames, (cpu, switches, _), live = measure_statistics(program, str(build / "bin" / "fill_store"))
     rows.append(("statistics page over ten years: proportional set size before, with, after it, MB",
                  f"{before:.0f}, {shown:.0f}, {after:.0f}", "", "100"))
     rows.append(("statistics page opened, scrolled, other periods: longest frame / 16 ms", f"{max(frames) / 16:.2f}",
@@ -337,9 +402,21 @@ def main():
     rows.append(("session running, statistics in front: longest frame / 16 ms", f"{max(live, default=0) / 16:.2f}",
                  f"{max(live, default=0)} ms, {len(live)} frames", "1"))
 
-    print("| what | measured | from | at most |\n| --- | --- | --- | --- |")
-    for row in rows:
-        print("| " + " | ".join(row) + " |")
+    return rows
+
+
+PARTS = {"processes": rows_of_processes, "sounds": rows_of_sounds, "browsers": rows_of_browsers,
+         "store": rows_of_store, "planning": rows_of_planning, "statistics": rows_of_statistics}
+
+
+def main():
+    build = Path(sys.argv[1]).resolve()
+    program = str(build / "bin" / "norvin-focus")
+    wanted = sys.argv[2:] or list(PARTS)
+    print("| what | measured | from | at most |\n| --- | --- | --- | --- |", flush=True)
+    for part in wanted:
+        for row in PARTS[part](build, program):
+            print("| " + " | ".join(row) + " |", flush=True)
 
 
 if __name__ == "__main__":
