@@ -57,6 +57,8 @@ DeepWorkScreen::DeepWorkScreen(PomodoroTimerService& timer, AppUsageService& usa
         Q_EMIT selectedDurationChanged();
         Q_EMIT timeChanged();
     });
+    connect(this, &DeepWorkScreen::timeChanged, this, &DeepWorkScreen::countMinutes);
+    countMinutes();
     connect(&m_timer, &Timer::countersChanged, this, [this] {
         refreshMetrics();
         Q_EMIT countersChanged();
@@ -376,6 +378,15 @@ void DeepWorkScreen::countSecond() {
         m_timer.setAccumulatedInactivitySeconds(m_timer.accumulatedInactivitySeconds() + 1);
     Q_EMIT timeChanged();
     refreshMetrics();
+}
+
+void DeepWorkScreen::countMinutes() {
+    const bool isIdle = m_timer.state() == TimerState::idle;
+    const int now = isIdle ? m_timer.selectedDuration() : (m_timer.timeRemaining() + 59) / 60;
+    if (now == m_minutes)
+        return;
+    m_minutes = now;
+    Q_EMIT minutesChanged();
 }
 
 void DeepWorkScreen::refreshMetrics() {

@@ -25,6 +25,8 @@ class DeepWorkScreen final : public QObject {
     /// What the ring shows: the remaining time, or while idle the length that start() would begin with.
     Q_PROPERTY(QString timeText READ timeText NOTIFY timeChanged)
     Q_PROPERTY(int timeRemaining READ timeRemaining NOTIFY timeChanged)
+    /// What timeText says in whole minutes, rounded up: for whom each second would be too much to hear.
+    Q_PROPERTY(int minutes READ minutes NOTIFY minutesChanged)
     Q_PROPERTY(int initialDuration READ initialDuration NOTIFY timeChanged)
     /// Share of the phase that is over, 0 to 1; 0 while idle.
     Q_PROPERTY(double progress READ progress NOTIFY timeChanged)
@@ -93,6 +95,7 @@ public:
     [[nodiscard]] QString phaseSymbol() const;
     [[nodiscard]] QString timeText() const;
     [[nodiscard]] int timeRemaining() const;
+    [[nodiscard]] int minutes() const { return m_minutes; }
     [[nodiscard]] int initialDuration() const;
     [[nodiscard]] double progress() const;
     [[nodiscard]] int selectedDuration() const;
@@ -174,6 +177,7 @@ Q_SIGNALS:
     void phaseChanged();
     void phaseSymbolChanged();
     void timeChanged();
+    void minutesChanged();
     void selectedDurationChanged();
     void activityChanged();
     /// What may change with every second.
@@ -193,6 +197,7 @@ private:
     TaskItem* makeTask(const QString& title);
     void refreshMetrics();
     void countSecond();
+    void countMinutes();
     void moveOnFrom(TaskItem* doneTask);
 
     PomodoroTimerService& m_timer;
@@ -201,6 +206,7 @@ private:
     ModelContext& m_context;
     TaskQueueModel m_queue;
     TaskPickerModel m_picker;
+    int m_minutes = 0;
     FocusScoreTerms m_terms;
     FocusMetrics m_metrics;
     std::function<Refusal()> m_startGate;

@@ -246,11 +246,15 @@ void tst_DeepWorkScreen::ringShowsTheChosenLengthWhileIdle() {
     QCOMPARE(rig.screen.timeText(), QStringLiteral("45:00"));
     QCOMPARE(rig.screen.progress(), 0.0);
     rig.screen.start();
+    QSignalSpy minutes(&rig.screen, &DeepWorkScreen::minutesChanged);
     rig.pass(675s);
     QCOMPARE(rig.screen.timeText(), QStringLiteral("33:45"));
+    QCOMPARE(rig.screen.minutes(), 34);
+    QCOMPARE(minutes.size(), 11);
     QCOMPARE(rig.screen.progress(), 0.25);
     rig.screen.stop();
     QCOMPARE(rig.screen.timeText(), QStringLiteral("45:00"));
+    QCOMPARE(rig.screen.minutes(), 45);
     QCOMPARE(rig.screen.progress(), 0.0);
 }
 

@@ -8,6 +8,8 @@ Item {
     id: root
 
     required property string timeText
+    /// The same in whole minutes, for a screen reader: it would not get to the end of a second.
+    required property int minutes
     /// Share of the phase that is over, 0 to 1.
     required property double progress
     required property color color
@@ -17,7 +19,7 @@ Item {
     readonly property real thickness: Math.max(8, root.width / 28)
 
     Accessible.role: Accessible.ProgressBar
-    Accessible.name: root.caption + ", " + root.timeText
+    Accessible.name: root.caption.length > 0 ? root.caption + ", " + Localization.formats.minutes(root.minutes) : Localization.formats.minutes(root.minutes)
 
     Ring {
         anchors.fill: parent

@@ -179,6 +179,7 @@ FocusScope {
                     Layout.preferredHeight: page.ringSize
                     visible: !root.isCompleted
                     timeText: session.timeText
+                    minutes: session.minutes
                     progress: session.progress
                     color: root.screen.state === "paused" ? Theme.amber : root.isIdle ? Theme.accentBright : Theme.phaseColor(root.screen.phase)
                     symbol: root.screen.phaseSymbol

@@ -12,6 +12,7 @@ QtObject {
     required property bool live
 
     readonly property string timeText: root.live ? root.source.timeText : "00:00"
+    readonly property int minutes: root.live ? root.source.minutes : 0
     readonly property double progress: root.live ? root.source.progress : 0
     readonly property int legitimateSeconds: root.live ? root.source.legitimateSeconds : 0
     readonly property int distractedSeconds: root.live ? root.source.distractedSeconds : 0
