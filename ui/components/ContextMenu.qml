@@ -14,7 +14,14 @@ T.Menu {
     /// The menu has closed; the choice is empty where it was left without one. The keyboard can go where it should.
     signal finished(string choice)
 
-    implicitWidth: 280
+    function widest(): real {
+        let width = 0;
+        for (let i = 0; i < root.count; ++i)
+            width = Math.max(width, root.itemAt(i)?.implicitWidth ?? 0);
+        return width;
+    }
+
+    implicitWidth: Math.max(280, root.widest() + leftPadding + rightPadding)
     implicitHeight: contentHeight + topPadding + bottomPadding
     padding: Theme.gap1
     margins: Theme.gap2
@@ -38,5 +45,4 @@ T.Menu {
         border.width: 1
         border.color: Theme.outline
     }
-
 }

@@ -15,7 +15,7 @@ T.MenuItem {
     /// It takes something away.
     property bool isDangerous: false
 
-    implicitWidth: 272
+    implicitWidth: Math.max(272, Math.ceil(implicitContentWidth))
     implicitHeight: visible ? Theme.controlHeightSmall + 4 : 0
     hoverEnabled: true
     opacity: root.enabled ? 1 : 0.45

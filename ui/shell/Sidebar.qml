@@ -36,8 +36,10 @@ Rectangle {
 
         RowLayout {
             Layout.leftMargin: Theme.gap2
+            // The symbol of the menu ends where the entries do.
+            Layout.rightMargin: -Theme.gap2
             Layout.bottomMargin: Theme.gap4
-            spacing: Theme.gap3
+            spacing: Theme.gap2
 
             Symbol {
                 name: "brain"

@@ -127,7 +127,7 @@ ChartArea {
                 required property string valueText
 
                 Layout.fillWidth: true
-                implicitHeight: 28
+                implicitHeight: Math.max(28, name.implicitHeight + Theme.gap1)
                 radius: 6
                 color: entry.index === root.current ? Theme.surfaceHover : "transparent"
 
@@ -145,9 +145,11 @@ ChartArea {
                     }
 
                     ThemedText {
+                        id: name
+
                         Layout.fillWidth: true
                         text: entry.name
-                        elide: Text.ElideRight
+                        wrapMode: Text.Wrap
                         Accessible.ignored: true
                     }
 
