@@ -18,6 +18,8 @@
 #include "sound/TickSoundSettings.h"
 #include "stats/StatsScreen.h"
 #include "tests/support/FocusRig.h"
+#include "tests/ui/PseudoTranslator.h"
+#include "tests/ui/TextLayout.h"
 #include "ui/InterfaceEngine.h"
 #include "ui/Localization.h"
 #include "ui/UserInterface.h"
@@ -35,11 +37,16 @@ namespace norvin {
 
 /// The real window over a focus engine on fakes.
 struct UiRig {
+    /// @param language "en", "fr", or "pseudo" for that of PseudoTranslator
     /// @param key that licences are verified with; empty for a program that needs none
     explicit UiRig(const QString& language = QStringLiteral("en"), const QByteArray& key = {})
         : licenseKey(key) {
-        focus.preferences.setValue(QLatin1String(Localization::preferencesKey), language);
+        const bool isPseudo = language == QLatin1String("pseudo");
+        focus.preferences.setValue(QLatin1String(Localization::preferencesKey),
+                                   isPseudo ? QStringLiteral("en") : language);
         localization = std::make_unique<Localization>(focus.preferences);
+        if (isPseudo)
+            pseudo = std::make_unique<PseudoTranslator>();
         for (const char* name : {"Archive Manager", "Calculator", "Editor", "Game", "Terminal"})
             install(QString::fromLatin1(name));
         health.refresh();
@@ -160,6 +167,25 @@ struct UiRig {
             window()->grabWindow().save(folder + u'/' + name + QStringLiteral(".png"));
     }
 
+    /// Whether everything that the window shows can be read, once it is laid out. Keeps a picture of it.
+    /// @param names words of the user's, who may write more than there is room for
+    void checkTexts(const QString& scene, const QStringList& names = {}) const {
+        QSignalSpy drawn(window(), &QQuickWindow::frameSwapped);
+        window()->update();
+        QVERIFY(drawn.wait());
+        const QStringList faults = textFaults(*window(), names);
+        keepPicture(
+            QStringLiteral("%1-%2").arg(scene, pseudo ? QStringLiteral("pseudo") : localization->language()));
+        if (!faults.isEmpty())
+            QTest::qFail(qPrintable(scene + QStringLiteral(":\n") + faults.join(u'\n')), __FILE__, __LINE__);
+    }
+    /// Makes one row of data for each language that texts are checked in.
+    static void addLanguages() {
+        QTest::addColumn<QString>("language");
+        for (const char* language : {"en", "fr", "pseudo"})
+            QTest::newRow(language) << QString::fromLatin1(language);
+    }
+
     [[nodiscard]] static QList<QQuickItem*> visibleItems(QQuickItem* root) {
         QList<QQuickItem*> found;
         for (QQuickItem* child : root->childItems()) {
@@ -174,6 +200,7 @@ struct UiRig {
     Availability idleTime = Availability::available();
     Availability pages = Availability::unavailable(QStringLiteral("health_browser_pages_missing"));
     std::unique_ptr<Localization> localization;
+    std::unique_ptr<PseudoTranslator> pseudo;
     FakeAudioOutput audioOutput{focus.clock};
     TickSoundService tickSounds{audioOutput, focus.preferences};
     TickSoundSettings tickSoundSettings{tickSounds, audioOutput};

@@ -3,6 +3,8 @@
 #include "platform/fake/FakeOverlaySupport.h"
 #include "platform/fake/FakePreferences.h"
 #include "platform/fake/FakeUserNotifications.h"
+#include "tests/ui/PseudoTranslator.h"
+#include "tests/ui/TextLayout.h"
 #include "ui/InterfaceEngine.h"
 #include "ui/Localization.h"
 #include "ui/MotionPreference.h"
@@ -25,6 +27,7 @@ private Q_SLOTS:
     void reducedMotionLeavesItStill();
     void coversOnlyCardAndFrameWhereNothingIsBlended();
     void staysAwayWhereThereAreNoOverlays();
+    void canBeReadInALongerLanguage();
 };
 
 namespace {
@@ -130,6 +133,15 @@ void AlertWindowsTest::staysAwayWhereThereAreNoOverlays() {
     rig.show();
     QVERIFY(rig.windows.windows().isEmpty());
     QCOMPARE(rig.notifications.posted().size(), 1u);
+}
+
+void AlertWindowsTest::canBeReadInALongerLanguage() {
+    AlertRig rig;
+    const PseudoTranslator pseudo;
+    rig.show();
+    QTRY_VERIFY(rig.window()->isExposed());
+    static_cast<void>(rig.window()->grabWindow());
+    QCOMPARE(textFaults(*rig.window(), {}).join(u'\n'), QString());
 }
 
 QTEST_MAIN(AlertWindowsTest)

@@ -101,6 +101,7 @@ void CoachTest::bubbleStandsInForAWindowThatIsNotInFront() {
     const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
     QTRY_COMPARE(bubble->window()->geometry().bottomRight(), available.bottomRight() - QPoint(16, 16));
     QVERIFY(bubble->window()->height() > 40);
+    QCOMPARE(textFaults(*bubble->window(), {}).join(u'\n'), QString());
     QVERIFY(!bubble->window()->isClickThrough());
     QVERIFY(bubble->window()->flags().testFlag(Qt::WindowDoesNotAcceptFocus));
 

@@ -16,7 +16,8 @@ private Q_SLOTS:
     void tasksAreTypedIntoTheirColumn();
     void phasesAreManagedByKeyboardAlone();
     void aLongColumnMakesOnlyTheCardsThatAreSeen();
-    void nothingIsCutInFrench();
+    void nothingIsCut_data();
+    void nothingIsCut();
 
 private:
     void open(const QString& language) {
@@ -286,34 +287,28 @@ void KanbanViewTest::aLongColumnMakesOnlyTheCardsThatAreSeen() {
     rig->keepPicture(QStringLiteral("board-long"));
 }
 
-void KanbanViewTest::nothingIsCutInFrench() {
-    open(QStringLiteral("fr"));
+void KanbanViewTest::nothingIsCut_data() {
+    UiRig::addLanguages();
+}
+
+void KanbanViewTest::nothingIsCut() {
+    QFETCH(QString, language);
+    open(language);
     fill();
     show();
-    const auto isCut = [this]() -> QString {
-        for (const QQuickItem* item : rig->visibleItems()) {
-            if (item->property("truncated").toBool())
-                return item->property("text").toString();
-        }
-        return {};
-    };
-    QCOMPARE(isCut(), QString());
-    rig->keepPicture(QStringLiteral("board-fr"));
+    rig->checkTexts(QStringLiteral("board"));
     rig->press(Qt::Key_Menu);
     QTRY_VERIFY(rig->saying(qtTrId("card_plan_button")));
-    QCOMPARE(isCut(), QString());
-    rig->keepPicture(QStringLiteral("board-menu-fr"));
+    rig->checkTexts(QStringLiteral("board-menu"));
     rig->press(Qt::Key_Escape);
     QTRY_VERIFY(!rig->saying(qtTrId("card_plan_button")));
     board().setShowManagePhases(true);
     QTRY_VERIFY(rig->hasKeyboard("managedNew"));
-    QCOMPARE(isCut(), QString());
-    rig->keepPicture(QStringLiteral("phases-fr"));
+    rig->checkTexts(QStringLiteral("phases"));
     board().setShowManagePhases(false);
     rig->window()->resize(2560, 1440);
     QTRY_VERIFY(!rig->visible("managedNew"));
-    QCOMPARE(isCut(), QString());
-    rig->keepPicture(QStringLiteral("board-large-fr"));
+    rig->checkTexts(QStringLiteral("board-large"));
 }
 
 QTEST_MAIN(KanbanViewTest)

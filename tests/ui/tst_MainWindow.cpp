@@ -304,7 +304,8 @@ void MainWindowTest::theLanguageChangesEverything() {
     QVERIFY(shows(QStringLiteral("Start")));
     rig->showPage(UiRig::Page::preferences);
     QTRY_VERIFY(rig->visible("preferencesLanguage"));
-    QMetaObject::invokeMethod(rig->visible("preferencesLanguage"), "chosen", Q_ARG(QString, QStringLiteral("fr")));
+    QMetaObject::invokeMethod(rig->visible("preferencesLanguage"), "chosen",
+                              Q_ARG(QString, QStringLiteral("fr")));
     rig->showPage(UiRig::Page::deepWork);
     QVERIFY(shows(QStringLiteral("Démarrer")));
     QCOMPARE(rig->focus.preferences.value(QStringLiteral("app_language")).value().toString(),

@@ -14,8 +14,8 @@ private Q_SLOTS:
     void everyStepCanBePassedOver();
     void leavingItKeepsWhatWasSaid();
     void itCanBeSeenAgainDuringASession();
-    void looks_data();
-    void looks();
+    void everyStepCanBeRead_data();
+    void everyStepCanBeRead();
 };
 
 void WelcomeTest::theDesktopsLanguageIsMet_data() {
@@ -142,14 +142,11 @@ void WelcomeTest::itCanBeSeenAgainDuringASession() {
     QCOMPARE(rig.focus.timer.taskQueue().size(), 1);
 }
 
-void WelcomeTest::looks_data() {
-    QTest::addColumn<QString>("language");
-    QTest::newRow("en") << "en";
-    QTest::newRow("fr") << "fr";
+void WelcomeTest::everyStepCanBeRead_data() {
+    UiRig::addLanguages();
 }
 
-// For looking at: what it checks is that every step is made.
-void WelcomeTest::looks() {
+void WelcomeTest::everyStepCanBeRead() {
     QFETCH(const QString, language);
     UiRig rig(language);
     rig.browserAccess.setAccessibilityEnabled(false);
@@ -163,7 +160,7 @@ void WelcomeTest::looks() {
     rig.welcome->present();
     for (int step = 0; step < WelcomeScreen::stepCount(); ++step) {
         QTRY_VERIFY(rig.window()->activeFocusItem() != nullptr);
-        rig.keepPicture(QStringLiteral("welcome-%1-%2").arg(step).arg(language));
+        rig.checkTexts(QStringLiteral("welcome-%1").arg(step));
         rig.welcome->skip();
     }
     QVERIFY(!rig.welcome->isPresented());
