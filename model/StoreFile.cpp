@@ -73,6 +73,12 @@ StoreResult syncFile(const QString& file) {
     return {};
 }
 
+// Where a copy grows until it is whole.
+QString partOf(const QString& target) {
+    const QFileInfo place(target);
+    return place.dir().filePath(u'.' + place.fileName() + QStringLiteral(".part"));
+}
+
 // A file that only its owner may read, before anything is written into it.
 StoreResult makePrivateFile(const QString& file) {
     const int descriptor = ::open(QFile::encodeName(file).constData(),
@@ -180,7 +186,7 @@ StoreResult copyStoreFile(const QString& source, const QString& target, const Co
             return systemError(place.path(), errno);
         QFile::setPermissions(place.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
-    const QString part = place.dir().filePath(u'.' + place.fileName() + QStringLiteral(".part"));
+    const QString part = partOf(target);
     StoreResult failure = makePrivateFile(part);
     if (!failure)
         failure = writeCopy(source, part, progress);
@@ -190,12 +196,16 @@ StoreResult copyStoreFile(const QString& source, const QString& target, const Co
         failure = checkStoreFile(part);
     if (!failure && ::rename(QFile::encodeName(part).constData(), QFile::encodeName(target).constData()) != 0)
         failure = systemError(target, errno);
-    if (failure)
-        QFile::remove(part);
-    else
+    if (!failure)
         syncFolder(place.path());
-    QFile::remove(part + QStringLiteral("-journal"));
+    removeUnfinishedCopy(target);
     return failure;
+}
+
+void removeUnfinishedCopy(const QString& target) {
+    const QString part = partOf(target);
+    for (const char* ending : {"", "-journal", "-wal", "-shm"})
+        QFile::remove(part + QLatin1String(ending));
 }
 
 bool syncFolder(const QString& folder) {

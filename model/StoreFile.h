@@ -49,6 +49,9 @@ using CopyProgress = std::function<bool(int percent)>;
 [[nodiscard]] StoreResult copyStoreFile(const QString& source, const QString& target,
                                         const CopyProgress& progress = {});
 
+/// Removes what is left of a copy to that target whose maker was stopped half-way.
+void removeUnfinishedCopy(const QString& target);
+
 /// Has the names in a folder reach the disk. @return false where the system refuses
 bool syncFolder(const QString& folder);
 

@@ -80,6 +80,11 @@ bool isDamage(const StoreError& error) {
     return error.code == SQLITE_CORRUPT || error.code == SQLITE_NOTADB || error.code < 0;
 }
 
+// Whoever was stopped half-way finds the copy of the first attempt again by its name.
+QString formerCopy(const QString& storeFile, const QString& prepared) {
+    return BackupFolder(storeFile).fileFor(BackupKind::beforeRestore, QFileInfo(prepared).lastModified());
+}
+
 // What there is must be found again, whatever the user thinks of the backup afterwards.
 StoreResult keepPresent(const QString& storeFile, const QString& prepared) {
     if (!QFile::exists(storeFile))
@@ -95,9 +100,7 @@ StoreResult keepPresent(const QString& storeFile, const QString& prepared) {
     }
     if (failure)
         return failure;
-    // Whoever was stopped half-way finds the copy of the first attempt again by its name.
-    const QString copy =
-        BackupFolder(storeFile).fileFor(BackupKind::beforeRestore, QFileInfo(prepared).lastModified());
+    const QString copy = formerCopy(storeFile, prepared);
     const auto facts = readStoreFacts(storeFile, CountIntervals::no);
     const auto* held = std::get_if<StoreFacts>(&facts);
     if (QFile::exists(copy) || (held != nullptr && held->isEmpty()))
@@ -117,29 +120,34 @@ ReplacementOutcome restore(const QString& storeFile, const QString& prepared) {
         return refused(prepared, error->description);
     if (const StoreResult failure = keepPresent(storeFile, prepared))
         return refused(prepared, failure->description);
+    const bool isFormerKept = QFile::exists(formerCopy(storeFile, prepared));
     removeCompanions(storeFile);
     if (std::rename(QFile::encodeName(prepared).constData(), QFile::encodeName(storeFile).constData()) != 0)
         return refused(prepared, QString::fromLocal8Bit(std::strerror(errno)));
     syncFolderOf(storeFile);
-    return {.kind = ReplacementOutcome::Kind::restored};
+    return {.kind = ReplacementOutcome::Kind::restored, .isFormerKept = isFormerKept};
 }
 
 ReplacementOutcome erase(const QString& storeFile, const QString& marker) {
     QFile file(marker);
     const bool takesBackups = file.open(QIODevice::ReadOnly) && file.readAll() == withBackups;
     file.close();
+    // A store that cannot be removed keeps what is still in its log. The marker goes last, so that no other
+    // store meets that log.
+    if (!QFile::remove(storeFile) && QFile::exists(storeFile)) {
+        QFile::remove(marker);
+        return {.kind = ReplacementOutcome::Kind::refused,
+                .problem = QStringLiteral("%1 cannot be removed").arg(storeFile)};
+    }
     removeCompanions(storeFile);
     const QString damaged = besideStore(storeFile, ".damaged");
-    for (const QString& gone : {storeFile, restoreFile(storeFile), damaged, damaged + QStringLiteral("-wal")})
+    for (const QString& gone : {restoreFile(storeFile), damaged, damaged + QStringLiteral("-wal")})
         QFile::remove(gone);
     if (takesBackups)
         BackupFolder(storeFile).clear();
     syncFolderOf(storeFile);
     QFile::remove(marker);
     syncFolderOf(storeFile);
-    if (QFile::exists(storeFile))
-        return {.kind = ReplacementOutcome::Kind::refused,
-                .problem = QStringLiteral("%1 cannot be removed").arg(storeFile)};
     return {.kind = ReplacementOutcome::Kind::erased};
 }
 
@@ -166,6 +174,7 @@ void cancelReplacement(const QString& storeFile) {
 }
 
 ReplacementOutcome carryOutReplacement(const QString& storeFile) {
+    removeUnfinishedCopy(restoreFile(storeFile));
     // Erasing goes before: nobody who wanted everything gone wants an older state back.
     if (const QString marker = eraseMarker(storeFile); QFile::exists(marker))
         return erase(storeFile, marker);

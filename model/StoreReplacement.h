@@ -18,6 +18,8 @@ enum class ErasedBackups { kept, removed };
 struct ReplacementOutcome {
     enum class Kind { none, restored, erased, refused };
     Kind kind = Kind::none;
+    /// Whether the store that gave way is among the backups: not where it was empty, damaged or missing.
+    bool isFormerKept = false;
     /// Why the old store stayed, in English; only where it was refused.
     QString problem = {};
 };

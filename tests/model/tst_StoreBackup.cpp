@@ -177,6 +177,7 @@ void StoreBackupTest::aBackupTakesThePlaceOfTheStore() {
 
     auto opened = store.open();
     QCOMPARE(opened->opening().replacement.kind, ReplacementOutcome::Kind::restored);
+    QVERIFY(opened->opening().replacement.isFormerKept);
     QCOMPARE(titles(*opened), QStringList{QStringLiteral("Old")});
     opened.reset();
     QCOMPARE(store.soundness(), QStringLiteral("ok"));
@@ -254,10 +255,13 @@ void StoreBackupTest::erasingTakesWhatItSays() {
     opened.reset();
 
     QVERIFY(!prepareRestore(store.file(), folder.files().constFirst().path));
+    write(store.folder() + QStringLiteral("/.NorvinFocus.restore.part"), "what a stopped restore has left");
     QVERIFY(!prepareErase(store.file(), ErasedBackups::removed));
     opened = store.open();
     QCOMPARE(titles(*opened), QStringList());
     QCOMPARE(folder.files().size(), 0);
+    opened.reset();
+    QCOMPARE(names(store.folder()), QStringList{QStringLiteral("NorvinFocus.sqlite")});
     opened.reset();
     opened = store.open();
     QCOMPARE(opened->opening().replacement.kind, ReplacementOutcome::Kind::none);
