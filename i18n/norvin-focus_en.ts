@@ -945,6 +945,10 @@
     </message>
     <message id="data_restored">
         <source></source>
+        <translation>The backup is in place.</translation>
+    </message>
+    <message id="data_restored_kept">
+        <source></source>
         <translation>The backup is in place. What there was before is among the backups.</translation>
     </message>
     <message id="data_restoring">

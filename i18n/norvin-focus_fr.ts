@@ -945,6 +945,10 @@
     </message>
     <message id="data_restored">
         <source></source>
+        <translation>La sauvegarde est en place.</translation>
+    </message>
+    <message id="data_restored_kept">
+        <source></source>
         <translation>La sauvegarde est en place. Ce qu’il y avait avant est parmi les sauvegardes.</translation>
     </message>
     <message id="data_restoring">

@@ -30,11 +30,14 @@ DataSettings::DataSettings(BackupService& service, const StoreOpening& opening, 
         m_startState = StartState::refused;
         m_startProblem = opening.replacement.problem;
     } else if (opening.replacement.kind != Kind::none) {
-        m_startState = opening.replacement.kind == Kind::restored ? StartState::restored : StartState::erased;
+        m_startState = opening.replacement.kind == Kind::erased ? StartState::erased
+                       : opening.replacement.isFormerKept       ? StartState::restoredKept
+                                                                : StartState::restored;
     }
     connect(&service, &BackupService::workChanged, this, &DataSettings::workChanged);
     connect(&service, &BackupService::finished, this, &DataSettings::handleFinished);
     connect(&timer, &PomodoroTimerService::stateChanged, this, &DataSettings::canReplaceChanged);
+    connect(&timer, &PomodoroTimerService::stateChanged, this, [this] { remarkAtStart({}); });
 }
 
 DataSettings::~DataSettings() = default;
@@ -96,6 +99,11 @@ QString DataSettings::eraseWord() const {
 }
 
 QString DataSettings::startNotice() const {
+    const QString text = startText();
+    return text.isEmpty() || m_startRemark.isEmpty() ? text : text + u' ' + m_startRemark;
+}
+
+QString DataSettings::startText() const {
     switch (m_startState) {
     case StartState::fine:
         return {};
@@ -104,6 +112,8 @@ QString DataSettings::startNotice() const {
                          : qtTrId("data_lost").arg(m_startProblem);
     case StartState::restored:
         return qtTrId("data_restored");
+    case StartState::restoredKept:
+        return qtTrId("data_restored_kept");
     case StartState::erased:
         return qtTrId("data_erased");
     case StartState::refused:
@@ -171,22 +181,23 @@ QString DataSettings::restoreQuestion(const QString& file) const {
 }
 
 void DataSettings::restore(const QString& file) {
-    if (listed(file) != nullptr)
-        restoreFile(file);
+    if (listed(file) == nullptr)
+        return;
+    const QString refusal = restoreFile(file);
+    say(refusal, !refusal.isEmpty());
 }
 
 void DataSettings::act() {
-    if (m_offered)
-        restoreFile(m_offered->path);
+    if (!m_offered)
+        return;
+    const QString refusal = restoreFile(m_offered->path);
+    remarkAtStart(refusal.isEmpty() ? qtTrId("data_restoring") : refusal);
 }
 
-void DataSettings::restoreFile(const QString& file) {
+QString DataSettings::restoreFile(const QString& file) {
     if (!canReplace())
-        say(qtTrId("data_refused_session"), true);
-    else if (m_service.prepareRestore(file))
-        dismissNotice();
-    else
-        say(qtTrId("data_busy"), true);
+        return qtTrId("data_refused_session");
+    return m_service.prepareRestore(file) ? QString() : qtTrId("data_busy");
 }
 
 void DataSettings::handleFinished(const BackupService::Result& result) {
@@ -211,6 +222,7 @@ void DataSettings::handleFinished(const BackupService::Result& result) {
             // A phase was begun meanwhile, and nobody restarts under it.
             cancelReplacement(storeFile());
             say(qtTrId("data_refused_session"), true);
+            remarkAtStart(qtTrId("data_refused_session"));
         }
         break;
     }
@@ -224,11 +236,21 @@ void DataSettings::refuseAtStart(const QString& problem) {
         return;
     m_startState = StartState::refused;
     m_startProblem = problem;
+    m_startRemark.clear();
+    Q_EMIT startNoticeChanged();
+}
+
+// Whoever presses the button of the notice may not see the page.
+void DataSettings::remarkAtStart(const QString& remark) {
+    if (remark == m_startRemark)
+        return;
+    m_startRemark = remark;
     Q_EMIT startNoticeChanged();
 }
 
 void DataSettings::dismissStartNotice() {
     m_startState = StartState::fine;
+    m_startRemark.clear();
     m_offered.reset();
     Q_EMIT startNoticeChanged();
 }
@@ -281,6 +303,7 @@ void DataSettings::retranslate(const QLocale& locale) {
     m_backups.retranslate(locale);
     // How something ended was said in the language of before.
     dismissNotice();
+    m_startRemark.clear();
     Q_EMIT languageChanged();
     Q_EMIT factsChanged();
     Q_EMIT workChanged();
@@ -288,10 +311,12 @@ void DataSettings::retranslate(const QLocale& locale) {
 }
 
 std::optional<BackupFile> DataSettings::newestBackup() const {
-    const QList<BackupFile> all = m_service.folder().files();
-    if (all.isEmpty())
-        return {};
-    return all.constFirst();
+    for (const BackupFile& backup : m_service.folder().files()) {
+        const auto facts = readStoreFacts(backup.path, CountIntervals::no);
+        if (std::holds_alternative<StoreFacts>(facts))
+            return backup;
+    }
+    return {};
 }
 
 } // namespace norvin

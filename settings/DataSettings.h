@@ -83,7 +83,7 @@ public:
     /// Puts a backup in the place of the store, which ends in restartWanted(). A file that is not in the list
     /// does nothing; while a phase is under way that is refused with a notice.
     Q_INVOKABLE void restore(const QString& file);
-    /// What the button of the start notice does: restores the newest backup.
+    /// What the button of the start notice does: restores the newest backup. What comes of it is said there.
     Q_INVOKABLE void act();
     Q_INVOKABLE void dismissStartNotice();
     Q_INVOKABLE void dismissNotice();
@@ -108,7 +108,7 @@ Q_SIGNALS:
     void restartWanted();
 
 private:
-    enum class StartState { fine, lost, restored, erased, refused };
+    enum class StartState { fine, lost, restored, restoredKept, erased, refused };
     struct Read {
         std::optional<StoreFacts> store;
         std::vector<BackupListModel::Row> backups;
@@ -118,8 +118,12 @@ private:
     void clearPreferences();
     void refuseAtStart(const QString& problem);
     [[nodiscard]] const BackupListModel::Row* listed(const QString& file) const;
-    void restoreFile(const QString& file);
+    /// Begins, or says in the user's language why not.
+    [[nodiscard]] QString restoreFile(const QString& file);
+    [[nodiscard]] QString startText() const;
+    void remarkAtStart(const QString& remark);
     void say(const QString& notice, bool isProblem);
+    /// Of those that can be restored.
     [[nodiscard]] std::optional<BackupFile> newestBackup() const;
 
     BackupService& m_service;
@@ -127,6 +131,8 @@ private:
     Preferences& m_preferences;
     StartState m_startState = StartState::fine;
     QString m_startProblem;
+    /// What came of the last action of the start notice; empty for nothing to say.
+    QString m_startRemark;
     /// What to offer in the place of what was lost.
     std::optional<BackupFile> m_offered;
     std::optional<StoreFacts> m_facts;

@@ -183,6 +183,9 @@ void DataSettingsTest::aLostStoreIsOfferedBack() {
     backUp();
     data.reset();
     container.reset();
+    // A later one that cannot be opened is nothing to offer.
+    QFile unusable(service->folder().path() + QStringLiteral("/2025-03-11-090000-daily.sqlite"));
+    QVERIFY(unusable.open(QIODevice::WriteOnly) && unusable.write("x") == 1);
     {
         QFile file(store->file());
         QVERIFY(file.open(QIODevice::WriteOnly));
@@ -192,6 +195,12 @@ void DataSettingsTest::aLostStoreIsOfferedBack() {
     begin();
     QVERIFY(data->isStartNoticeProblem());
     QVERIFY(!data->startAction().isEmpty());
+    const QString notice = data->startNotice();
+    rig->timer.startSession(nullptr, PomodoroPhase::work);
+    data->act();
+    QVERIFY2(data->startNotice() != notice, "a refusal is seen where the button is");
+    rig->timer.stopSession();
+    QCOMPARE(data->startNotice(), notice);
     QSignalSpy restart(data.get(), &DataSettings::restartWanted);
     data->act();
     QVERIFY(restart.wait());
@@ -199,6 +208,7 @@ void DataSettingsTest::aLostStoreIsOfferedBack() {
     container.reset();
     container = store->open();
     QCOMPARE(container->mainContext().tasks().size(), size_t{1});
+    QVERIFY2(!container->opening().replacement.isFormerKept, "there was nothing to keep");
 }
 
 void DataSettingsTest::erasingWantsTheWord() {
