@@ -32,6 +32,7 @@ void PreferencesScreen::setCompanions(const Companions& companions) {
     m_with = companions;
     if (m_with.autostart != nullptr)
         connect(m_with.autostart, &Autostart::changed, this, &PreferencesScreen::autostartChanged);
+    retranslate(m_locale);
 }
 
 QString PreferencesScreen::profileName() const {
@@ -120,6 +121,7 @@ void PreferencesScreen::open() {
 }
 
 void PreferencesScreen::retranslate(const QLocale& locale) {
+    m_locale = locale;
     if (m_with.data != nullptr)
         m_with.data->retranslate(locale);
 }

@@ -91,7 +91,7 @@ public:
 
     /// The page came to the front: looks again at what changes by itself.
     Q_INVOKABLE void open();
-    /// Words what is kept anew.
+    /// Words what is kept anew, also of companions that come later.
     void retranslate(const QLocale& locale);
 
 Q_SIGNALS:
@@ -110,6 +110,7 @@ private:
     Preferences& m_preferences;
     TickSoundSettings& m_tickSounds;
     Companions m_with;
+    QLocale m_locale;
 };
 
 } // namespace norvin

@@ -2,12 +2,14 @@
 #include "platform/fake/FakeAutostart.h"
 #include "settings/PreferencesScreen.h"
 #include "sound/TickSoundService.h"
+#include "tests/model/StoreFixture.h"
 #include "tests/support/FocusRig.h"
 
 #include <QSignalSpy>
 #include <QtTest>
 
 using namespace norvin;
+using namespace norvin::test;
 
 /// The page's settings against those who read them.
 class PreferencesScreenTest final : public QObject {
@@ -17,6 +19,7 @@ private Q_SLOTS:
     void inactivityIsWhatTheDetectorTakesItFor();
     void namesAreKeptTidy();
     void theDesktopHasTheLastWordOnAutostart();
+    void companionsThatComeLaterSpeakTheLanguage();
 
 private:
     FocusRig rig;
@@ -76,6 +79,22 @@ void PreferencesScreenTest::theDesktopHasTheLastWordOnAutostart() {
     QVERIFY(screen.startsAtLogin());
     QCOMPARE(screen.autostartProblemKey(), QStringLiteral("autostart_unwritable"));
     QCOMPARE(changed.size(), 3);
+}
+
+void PreferencesScreenTest::companionsThatComeLaterSpeakTheLanguage() {
+    const StoreFixture store;
+    const auto container = store.open();
+    BackupService backups(rig.clock, store.file());
+    DataSettings data(backups, container->opening(), rig.timer, rig.preferences);
+    for (const QLocale& locale : {QLocale(QLocale::French), QLocale(QLocale::English)}) {
+        screen.retranslate(locale);
+        screen.setCompanions({.data = &data});
+        screen.open();
+        QTRY_COMPARE(data.sizeText(),
+                     locale.formattedDataSize(QFileInfo(store.file()).size() +
+                                                  QFileInfo(store.file() + QStringLiteral("-wal")).size(),
+                                              1, QLocale::DataSizeTraditionalFormat));
+    }
 }
 
 QTEST_GUILESS_MAIN(PreferencesScreenTest)
