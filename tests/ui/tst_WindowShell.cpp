@@ -205,6 +205,14 @@ void WindowShellTest::aPlaceThatIsOnNoScreenIsNotTaken() {
         const WindowGeometry geometry(window, preferences, clock);
         QCOMPARE(window.position(), before);
     }
+    // Kept on a screen that is gone, or written by hand.
+    for (const char* stored : {"0 0 90000 90000", "0 0 2147483647 2147483647"}) {
+        FakePreferences preferences;
+        preferences.setValue(QLatin1String(WindowGeometry::geometryKey), QLatin1String(stored));
+        QWindow window;
+        const WindowGeometry geometry(window, preferences, clock);
+        QCOMPARE(window.size(), window.size().boundedTo(window.screen()->size()));
+    }
     QCOMPARE(geometryFromText(geometryText({-5, 7, 800, 600})), QRect(-5, 7, 800, 600));
 }
 

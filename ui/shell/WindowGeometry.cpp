@@ -19,6 +19,8 @@ namespace {
 constexpr std::chrono::milliseconds restAfterMove{800};
 // So much of the window, in pixels, must be on a screen for the user to find and move it.
 constexpr QSize reachable{120, 60};
+// No desktop is larger, and no sum of such numbers overflows.
+constexpr int furthest = 100'000;
 
 bool isReachable(const QRect& geometry) {
     const QList<QScreen*> screens = QGuiApplication::screens();
@@ -28,6 +30,15 @@ bool isReachable(const QRect& geometry) {
         return seen.width() >= reachable.width() && seen.height() >= reachable.height() &&
                geometry.top() >= screen->availableGeometry().top();
     });
+}
+
+// What was stored may come from a larger screen that is gone.
+QSize largestRoom() {
+    QSize room;
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    for (const QScreen* screen : screens)
+        room = room.expandedTo(screen->availableSize());
+    return room;
 }
 
 } // namespace
@@ -47,9 +58,10 @@ std::optional<QRect> geometryFromText(const QString& text) {
         return std::nullopt;
     for (qsizetype i = 0; i < parts.size(); ++i) {
         bool isNumber = false;
-        numbers.at(static_cast<size_t>(i)) = parts.at(i).toInt(&isNumber);
-        if (!isNumber)
+        const int number = parts.at(i).toInt(&isNumber);
+        if (!isNumber || number < -furthest || number > furthest)
             return std::nullopt;
+        numbers.at(static_cast<size_t>(i)) = number;
     }
     const QRect geometry(numbers[0], numbers[1], numbers[2], numbers[3]);
     return geometry.isEmpty() ? std::nullopt : std::optional(geometry);
@@ -78,7 +90,7 @@ void WindowGeometry::restore() {
     const auto stored = m_preferences.value(QLatin1String(geometryKey));
     const auto geometry = stored ? geometryFromText(stored->toString()) : std::nullopt;
     if (geometry) {
-        m_window.resize(geometry->size().expandedTo(m_window.minimumSize()));
+        m_window.resize(geometry->size().boundedTo(largestRoom()).expandedTo(m_window.minimumSize()));
         if (isReachable(*geometry))
             m_window.setFramePosition(geometry->topLeft());
     }

@@ -23,7 +23,7 @@ public:
     static constexpr auto maximizedKey = "window_maximized";
 
     /// Puts the window where it was, and follows it. A place that is on no screen any more is left to the
-    /// window manager. @param window not shown yet; all must outlive this
+    /// window manager, and a size that no screen has room for is made smaller. @param window not shown yet; all must outlive this
     WindowGeometry(QWindow& window, Preferences& preferences, Clock& clock, QObject* parent = nullptr);
     ~WindowGeometry() override;
 
@@ -40,7 +40,7 @@ private:
 
 /// "x y width height" in pixels; the place is that of the frame, the size that of what is inside.
 [[nodiscard]] QString geometryText(const QRect& geometry);
-/// None for any other text, and for a size that is not above zero.
+/// None for any other text, for a size that is not above zero, and for numbers beyond any desktop.
 [[nodiscard]] std::optional<QRect> geometryFromText(const QString& text);
 
 } // namespace norvin
