@@ -330,6 +330,7 @@ void NorvinFocusApp::followOutsideServices() {
     m_deepWorkScreen.setStartGate([&license] { return license.refusal(); });
     connect(&license, &LicenseService::changed, &m_deepWorkScreen, &DeepWorkScreen::refreshStartGate);
     connect(&m_deepWorkScreen, &DeepWorkScreen::gateHelpWanted, &license, &LicenseService::present);
+    connect(&m_deepWorkScreen, &DeepWorkScreen::gateHelpWanted, this, &NorvinFocusApp::showWindow);
 }
 
 // What browsers say comes in bursts, and in the midst of asking them.

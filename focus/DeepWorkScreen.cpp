@@ -279,16 +279,22 @@ TaskItem* DeepWorkScreen::openTaskTitled(const QString& title) const {
     return found.empty() ? nullptr : found.front();
 }
 
+void DeepWorkScreen::begin(PomodoroPhase phase) {
+    // Asked for in the tray, perhaps, where no page says why nothing begins.
+    if (const Refusal refusal = startPhase(phase); refusal && refusal == m_closedGate)
+        Q_EMIT gateHelpWanted();
+}
+
 void DeepWorkScreen::start() {
-    static_cast<void>(startPhase(PomodoroPhase::work));
+    begin(PomodoroPhase::work);
 }
 
 void DeepWorkScreen::startBreak() {
-    static_cast<void>(startPhase(PomodoroPhase::breakTime));
+    begin(PomodoroPhase::breakTime);
 }
 
 void DeepWorkScreen::startRearming() {
-    static_cast<void>(startPhase(PomodoroPhase::rearming));
+    begin(PomodoroPhase::rearming);
 }
 
 void DeepWorkScreen::pause() {

@@ -187,11 +187,12 @@ Q_SIGNALS:
     void inactivityChanged();
     void activeTaskChanged();
     void closedGateChanged();
-    /// The user wants to open the gate.
+    /// The user wants to open the gate, or to begin what it forbids, from wherever that was.
     void gateHelpWanted();
 
 private:
     [[nodiscard]] Refusal startRefusal();
+    void begin(PomodoroPhase phase);
     [[nodiscard]] TaskItem* taskToStartWith() const;
     [[nodiscard]] TaskItem* openTaskTitled(const QString& title) const;
     TaskItem* makeTask(const QString& title);

@@ -83,7 +83,9 @@ void tst_DeepWorkScreen::aClosedGateLetsNothingBeginAndNothingEnd() {
     QVERIFY(!screen.stopSession());
 
     QCOMPARE(screen.startPhaseWith(QStringLiteral("Never made"), PomodoroPhase::work, 5), closed);
+    QSignalSpy help(&screen, &DeepWorkScreen::gateHelpWanted);
     screen.startBreak();
+    QCOMPARE(help.size(), 1);
     QCOMPARE(screen.state(), QStringLiteral("idle"));
     QCOMPARE(screen.closedGateKey(), QStringLiteral("refused_trial_over"));
     QVERIFY(rig.context().fetchTasks([](const TaskItem&) { return true; }).empty());

@@ -100,12 +100,16 @@ void OutsideServicesViewTest::aLicenceOpensAClosedGate() {
     rig.show();
     QVERIFY(!rig.visible("closedGate"));
     rig.focus.clock.setNow(rig.focus.clock.now().addDays(LicenseService::trialDays));
-    rig.deepWork.start();
-    QCOMPARE(rig.deepWork.state(), QStringLiteral("idle"));
+    rig.deepWork.refreshStartGate();
     QTRY_VERIFY(rig.visible("closedGate"));
     rig.checkTexts(QStringLiteral("closed-gate"));
 
     rig.click(rig.saying(qtTrId("licence_enter_button")));
+    QTRY_VERIFY(rig.hasKeyboard("licencePaste"));
+    rig.press(Qt::Key_Escape);
+    QTRY_VERIFY(!rig.visible("licencePaste"));
+    rig.deepWork.start();
+    QCOMPARE(rig.deepWork.state(), QStringLiteral("idle"));
     QTRY_VERIFY(rig.hasKeyboard("licencePaste"));
     rig.press(Qt::Key_Return);
     QTRY_VERIFY(rig.hasKeyboard("licenceText"));
