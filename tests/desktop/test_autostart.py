@@ -48,18 +48,21 @@ class Autostart(DesktopTestCase):
         # The program is started by the session, not by us: it is found by what answers.
         self.log_in()
         wait_until(lambda: self.app.command("status")[0] == 0, "the program runs")
-        pid = self.desktop.run("pgrep", "-f", f"^{self.app.program} --hidden$").split()
-        self.assertEqual(len(pid), 1)
+        pid = self.desktop.run("dbus-send", "--session", "--print-reply=literal", "--dest=org.freedesktop.DBus", "/",
+                               "org.freedesktop.DBus.GetConnectionUnixProcessID",
+                               "string:com.norvin.Focus").split()[-1]
+        with open(f"/proc/{pid}/cmdline", encoding="utf-8") as command:
+            self.assertEqual(command.read().split("\0")[:-1], [self.app.program, "--hidden"])
         try:
-            self.assertEqual(self.desktop.visible_windows("--pid", pid[0]), [])
+            self.assertEqual(self.desktop.visible_windows("--pid", pid), [])
             self.assertEqual(self.app.command()[0], 0)
-            wait_until(lambda: self.desktop.visible_windows("--pid", pid[0]), "its window is shown when asked for")
-            wait_until(lambda: self.desktop.active_window() in self.desktop.visible_windows("--pid", pid[0]),
+            wait_until(lambda: self.desktop.visible_windows("--pid", pid), "its window is shown when asked for")
+            wait_until(lambda: self.desktop.active_window() in self.desktop.visible_windows("--pid", pid),
                        "and in front")
             self.switch()
             self.assertFalse(self.is_started_at_login())
         finally:
-            self.desktop.run("kill", pid[0])
+            self.desktop.run("kill", pid)
         wait_until(lambda: self.app.command("status")[0] != 0, "the program has ended")
 
     def test_an_entry_of_the_system_is_overruled(self):
