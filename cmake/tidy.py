@@ -1,11 +1,12 @@
 """Runs clang-tidy over the sources that are named on standard input: tidy.py BUILD-DIRECTORY
 
 Most of its time goes into the headers of Qt, which every file includes. So the sources of a folder are looked at in
-batches, each as one file that includes them; they must not give the same name to different things. Programs of one
-file, as tests are, are looked at one by one."""
+batches, each as one file that includes them; they must not give the same name to different things. Tests may: each
+stands in a namespace of its own there, after all that it includes."""
 
 import json
 import os
+import re
 import subprocess
 import sys
 
@@ -24,6 +25,54 @@ def flags_of(entry):
         elif word not in ("-MD", entry["file"]) and not word.endswith("ccache"):
             kept.append(word)
     return tuple(kept)
+
+
+INCLUDE = re.compile(r'^#include (?:<[^>]+>|"(?![^"]*\.moc")[^"]+")', re.MULTILINE)
+# What has to stand where everybody sees it.
+GLOBAL = re.compile(r"^(namespace [a-z]|Q_DECLARE_METATYPE|template <>|extern|int main)", re.MULTILINE)
+OF_PLACES = ("-I", "-isystem", "-D")
+
+
+def text_of(file):
+    with open(file, encoding="utf-8") as source:
+        return source.read()
+
+
+def is_test(entry):
+    return os.path.basename(entry["file"]).startswith("tst_") and not GLOBAL.search(text_of(entry["file"]))
+
+
+def places_of(flags):
+    """The flags that say where things are and what they are called, which tests of one folder may differ in."""
+    places, words = [], iter(flags)
+    for word in words:
+        if word.startswith("-DQT_TESTCASE"):
+            continue
+        if word.startswith(OF_PLACES):
+            places.append(word + " " + next(words) if word == "-isystem" else word)
+    return places
+
+
+def test_batches_of(entries):
+    """Sources of whole batches of tests, with the flags that they are looked at with."""
+    folders = {}
+    for entry in entries:
+        folders.setdefault(os.path.dirname(entry["file"]), []).append(entry)
+    for tests in folders.values():
+        for first in range(0, len(tests), BATCH):
+            batch = tests[first:first + BATCH]
+            words = batch[0]["command"].split()
+            kept = [word for word in flags_of(batch[0]) if not word.startswith(OF_PLACES) and word in words
+                    and not word.startswith("/")]
+            places = dict.fromkeys(place for test in batch for place in places_of(flags_of(test)))
+            includes = dict.fromkeys(line for test in batch for line in INCLUDE.findall(text_of(test["file"])))
+            lines = ["#include <QtTest>", "#include <memory>", *includes]
+            for macro in ("QTEST_MAIN", "QTEST_GUILESS_MAIN", "QTEST_APPLESS_MAIN"):
+                lines += [f"#undef {macro}", f"#define {macro}(name)"]
+            for number, test in enumerate(batch):
+                lines += [f"namespace test_{number} {{", f'#include "{test["file"]}"', "}"]
+            compiler = flags_of(batch[0])[0]
+            yield (compiler, *kept, *places), batch[0]["directory"], "\n".join(lines) + "\n"
 
 
 def batches_of(entries):
@@ -46,7 +95,15 @@ def main():
     folder = os.path.join(build, "tidy")
     os.makedirs(folder, exist_ok=True)
     commands = []
-    for number, (flags, directory, files) in enumerate(batches_of(entries)):
+    tests = [entry for entry in entries if is_test(entry)]
+    others = [entry for entry in entries if not is_test(entry)]
+    for number, (flags, directory, text) in enumerate(test_batches_of(tests)):
+        source = os.path.join(folder, f"tests_{number}.cpp")
+        with open(source, "w", encoding="utf-8") as batch:
+            batch.write(text)
+        commands.append({"directory": directory, "file": source,
+                         "command": " ".join([*flags, "-Wno-shadow", "-c", source])})
+    for number, (flags, directory, files) in enumerate(batches_of(others)):
         source = files[0]
         if len(files) > 1:
             source = os.path.join(folder, f"batch_{number}.cpp")
