@@ -309,6 +309,12 @@ void MenuBarExtraTest::panelTakesEachKey() {
             QVERIFY2(accessible && !accessible->text(QAccessible::Name).isEmpty(),
                      qPrintable(child->objectName()));
     }
+
+    // Quits as in every window of the program, and asks where it can be seen.
+    rig->window()->hide();
+    QTest::keyPress(panel(), Qt::Key_Q, Qt::ControlModifier); // the panel is gone before the key is let go
+    QTRY_VERIFY(rig->window()->isVisible());
+    QTRY_VERIFY(rig->saying(qtTrId("quit_title")));
 }
 
 void MenuBarExtraTest::panelPlaces_data() {

@@ -31,11 +31,6 @@ Window {
         onActivated: root.panel.close()
     }
 
-    Shortcut {
-        sequences: ["Ctrl+Q"]
-        onActivated: root.panel.close()
-    }
-
     LiveSession {
         id: session
 

@@ -46,10 +46,16 @@ Window {
     }
 
     function askToQuit(): void {
-        if (root.isPhaseUnderWay)
-            quitQuestion.active = true;
-        else
+        if (!root.isPhaseUnderWay) {
             root.quitConfirmed();
+            return;
+        }
+        // Asked for in another window, perhaps, while this one is hidden.
+        root.show();
+        root.raise();
+        root.requestActivate();
+        root.stage = Math.max(root.stage, 1);
+        quitQuestion.active = true;
     }
 
     width: 1200
