@@ -299,6 +299,7 @@ void NorvinFocusApp::followPlatform() {
 
 void NorvinFocusApp::followPreferences() {
     m_preferencesScreen.setCompanions({.autostart = &m_platform.autostart(),
+                                       .overlays = &m_platform.overlays(),
                                        .ambientSounds = &m_ambientService,
                                        .immersion = &ImmersionService::shared(),
                                        .outside = &m_outsideServices,

@@ -2,6 +2,7 @@
 
 #include "focus/PomodoroTimerService.h"
 #include "platform/Autostart.h"
+#include "platform/OverlaySupport.h"
 #include "platform/Preferences.h"
 
 #include <algorithm>
@@ -16,6 +17,10 @@ constexpr auto detectorKey = QLatin1String("is_inactivity_detector_enabled");
 constexpr int defaultThresholdMinutes = 3;
 constexpr int mostThresholdMinutes = 60 * 24;
 constexpr int longestName = 60;
+
+QString reasonKeyOf(const Availability& availability) {
+    return availability.isAvailable() ? QString() : availability.reason()->reasonKey;
+}
 
 } // namespace
 
@@ -98,6 +103,10 @@ void PreferencesScreen::setHasFloatingTimer(bool wanted) {
         m_preferences.setValue(QLatin1String(floatingTimerKey), wanted);
 }
 
+QString PreferencesScreen::floatingTimerProblemKey() const {
+    return m_with.overlays != nullptr ? reasonKeyOf(m_with.overlays->availability()) : QString();
+}
+
 bool PreferencesScreen::startsAtLogin() const {
     return m_with.autostart != nullptr && m_with.autostart->isEnabled();
 }
@@ -108,10 +117,7 @@ void PreferencesScreen::setStartsAtLogin(bool starts) {
 }
 
 QString PreferencesScreen::autostartProblemKey() const {
-    if (m_with.autostart == nullptr)
-        return {};
-    const Availability availability = m_with.autostart->availability();
-    return availability.isAvailable() ? QString() : availability.reason()->reasonKey;
+    return m_with.autostart != nullptr ? reasonKeyOf(m_with.autostart->availability()) : QString();
 }
 
 void PreferencesScreen::open() {

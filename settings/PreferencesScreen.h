@@ -14,6 +14,7 @@
 namespace norvin {
 
 class Autostart;
+class OverlaySupport;
 class Preferences;
 
 /// The preferences page: what the user may decide, each stored as soon as it changes. What other parts of the
@@ -37,6 +38,9 @@ class PreferencesScreen final : public QObject {
     /// Whether a small window shows the time while the main window is not in front.
     Q_PROPERTY(
         bool hasFloatingTimer READ hasFloatingTimer WRITE setHasFloatingTimer NOTIFY floatingTimerChanged)
+    /// Localisation key of why this desktop shows none, empty where it does. The key with "_remedy" appended
+    /// says what to do.
+    Q_PROPERTY(QString floatingTimerProblemKey READ floatingTimerProblemKey CONSTANT)
     /// Whether the program starts, hidden, when the user logs in.
     Q_PROPERTY(bool startsAtLogin READ startsAtLogin WRITE setStartsAtLogin NOTIFY autostartChanged)
     /// Localisation key of why that cannot be decided, empty while it can. The key with "_remedy" appended
@@ -52,6 +56,8 @@ public:
     /// What the page shows besides; all of it must outlive the page.
     struct Companions {
         Autostart* autostart = nullptr;
+        /// What the floating timer needs.
+        const OverlaySupport* overlays = nullptr;
         AmbientSoundService* ambientSounds = nullptr;
         ImmersionService* immersion = nullptr;
         OutsideServices* outside = nullptr;
@@ -80,6 +86,7 @@ public:
     [[nodiscard]] int rearmingMinutes() const;
     [[nodiscard]] bool hasFloatingTimer() const;
     void setHasFloatingTimer(bool wanted);
+    [[nodiscard]] QString floatingTimerProblemKey() const;
     [[nodiscard]] bool startsAtLogin() const;
     void setStartsAtLogin(bool starts);
     [[nodiscard]] QString autostartProblemKey() const;

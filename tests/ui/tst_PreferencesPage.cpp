@@ -1,4 +1,5 @@
 #include "platform/fake/FakeAutostart.h"
+#include "platform/fake/FakeOverlaySupport.h"
 #include "platform/fake/FakeUpdateSource.h"
 #include "services/OutsideServices.h"
 #include "settings/BackupService.h"
@@ -24,6 +25,7 @@ private Q_SLOTS:
     void aBackupIsMadeAndRestored();
     void erasingWantsTheWord();
     void aLostStoreIsOfferedOnEveryPage();
+    void whatTheDesktopLacksIsNotOffered();
 
 private:
     /// What the page has beside the window's own.
@@ -47,6 +49,7 @@ private:
         BackupService service;
         DataSettings data;
         FakeAutostart autostart;
+        FakeOverlaySupport overlays;
         FakeUpdateSource source;
         UpdaterService updater;
         FeedbackForm feedback;
@@ -57,8 +60,8 @@ private:
         rig = std::make_unique<UiRig>(language);
         QVERIFY2(rig->loaded, qPrintable(rig->focus.lines.join(u'\n')));
         parts = std::make_unique<Parts>(*rig);
-        parts->data.retranslate(rig->localization->locale());
         rig->preferences.setCompanions({.autostart = &parts->autostart,
+                                        .overlays = &parts->overlays,
                                         .ambientSounds = &rig->ambientSounds,
                                         .immersion = &rig->immersion,
                                         .outside = &parts->outside,
@@ -199,7 +202,6 @@ void PreferencesPageTest::aLostStoreIsOfferedOnEveryPage() {
     DataSettings lost(parts->service,
                       {.replacement = {}, .lossReason = QStringLiteral("file is not a database")},
                       rig->focus.timer, rig->focus.preferences);
-    lost.retranslate(rig->localization->locale());
     rig->preferences.setCompanions({.data = &lost});
     rig->show();
     QTRY_VERIFY(rig->visible("startNotice"));
@@ -208,6 +210,16 @@ void PreferencesPageTest::aLostStoreIsOfferedOnEveryPage() {
     rig->click(rig->saying(qtTrId("data_restore_button")));
     QTRY_COMPARE(restart.size(), 1);
     rig->userInterface.reset(); // before what it shows
+}
+
+void PreferencesPageTest::whatTheDesktopLacksIsNotOffered() {
+    begin();
+    parts->overlays.setAvailability(Availability::unavailable(QStringLiteral("health_wayland_overlay")));
+    showPane(1);
+    QTRY_VERIFY(rig->visible("floatingTimerSwitch"));
+    QVERIFY(!rig->visible("floatingTimerSwitch")->isEnabled());
+    QVERIFY(
+        rig->saying(qtTrId("floating_timer_unavailable") + u' ' + qtTrId("health_wayland_overlay_remedy")));
 }
 
 QTEST_MAIN(PreferencesPageTest)

@@ -9,6 +9,7 @@ ColumnLayout {
     id: root
 
     required property PreferencesScreen model
+    readonly property bool canFloat: root.model.floatingTimerProblemKey.length === 0
 
     spacing: Theme.gap4
 
@@ -78,14 +79,15 @@ ColumnLayout {
 
         SettingRow {
             label: qsTrId("floating_timer_switch")
-            hint: qsTrId("floating_timer_hint")
+            hint: root.canFloat ? qsTrId("floating_timer_hint") : qsTrId("floating_timer_unavailable") + " " + qsTrId(root.model.floatingTimerProblemKey + "_remedy")
 
             ToggleSwitch {
                 id: floating
 
                 objectName: "floatingTimerSwitch"
                 text: qsTrId("floating_timer_switch")
-                checked: root.model.hasFloatingTimer
+                enabled: root.canFloat
+                checked: root.model.hasFloatingTimer && root.canFloat
                 onToggled: root.model.hasFloatingTimer = floating.checked
             }
         }
