@@ -5,7 +5,7 @@ import QtQuick.Templates as T
 import NorvinFocus.Ui
 
 /// A day of the strip.
-T.AbstractButton {
+T.RadioButton {
     id: root
 
     required property int index
@@ -22,9 +22,8 @@ T.AbstractButton {
     implicitHeight: 80
     hoverEnabled: true
     focusPolicy: Qt.NoFocus
-    Accessible.role: Accessible.RadioButton
+    checked: root.isSelected
     Accessible.name: root.isToday ? qsTrId("today") + ", " + root.name : root.name
-    Accessible.checked: root.isSelected
 
     contentItem: Column {
         topPadding: 10

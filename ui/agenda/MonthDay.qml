@@ -5,7 +5,7 @@ import QtQuick.Templates as T
 import NorvinFocus.Ui
 
 /// A day of a month, with a dot for each of its tasks, or from four on their number.
-T.AbstractButton {
+T.RadioButton {
     id: root
 
     required property int index
@@ -20,9 +20,8 @@ T.AbstractButton {
 
     hoverEnabled: true
     focusPolicy: Qt.NoFocus
-    Accessible.role: Accessible.Cell
+    checked: root.isSelected
     Accessible.name: root.name
-    Accessible.selected: root.isSelected
 
     contentItem: Item {
         ThemedText {

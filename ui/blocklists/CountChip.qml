@@ -11,6 +11,8 @@ RowLayout {
     required property string symbol
     required property color color
     required property string text
+    /// Whether it is what it stands in that says it to a screen reader.
+    property bool isSilent: false
 
     spacing: Theme.gap1 + 2
 
@@ -23,5 +25,6 @@ RowLayout {
     ThemedText {
         text: root.text
         color: Theme.textMuted
+        Accessible.ignored: root.isSilent
     }
 }

@@ -6,7 +6,7 @@ import QtQuick.Templates as T
 import NorvinFocus.Ui
 
 /// A suggestion, or the heading over a group of them, which chooses them all.
-T.AbstractButton {
+T.CheckBox {
     id: root
 
     required property int index
@@ -25,10 +25,9 @@ T.AbstractButton {
     text: root.name
     hoverEnabled: true
     focusPolicy: Qt.NoFocus
-    Accessible.role: Accessible.CheckBox
     Accessible.name: root.isHeading ? qsTrId("suggestions_group_name").arg(root.name).arg(root.listName) : root.name
-    Accessible.checkable: true
-    Accessible.checked: root.isChosen
+    checked: root.isChosen
+    nextCheckState: () => root.checkState
 
     contentItem: Item {
         RowLayout {
@@ -70,6 +69,7 @@ T.AbstractButton {
 
             CountChip {
                 visible: root.isHeading
+                isSilent: true
                 symbol: root.isBlocked ? "hand.raised" : "checkmark.shield"
                 color: root.isBlocked ? Theme.distracted : Theme.legitimate
                 text: root.listName

@@ -5,17 +5,16 @@ import QtQuick.Templates as T
 import NorvinFocus.Ui
 
 /// The circle that ticks something off.
-T.AbstractButton {
+T.CheckBox {
     id: root
 
     implicitWidth: 32
     implicitHeight: 32
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
-    Accessible.role: Accessible.CheckBox
+    // It shows what is so; whoever owns it makes it so.
+    nextCheckState: () => root.checkState
     Accessible.name: root.text
-    Accessible.checkable: true
-    Accessible.checked: root.checked
 
     Keys.onReturnPressed: root.clicked()
     Keys.onEnterPressed: root.clicked()

@@ -12,6 +12,8 @@ T.ScrollBar {
     padding: 1
     minimumSize: 0.08
     visible: root.size < 1
+    // What scrolls follows the keyboard.
+    Accessible.ignored: true
 
     contentItem: Rectangle {
         implicitWidth: 6

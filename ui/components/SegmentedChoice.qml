@@ -61,7 +61,7 @@ FocusScope {
         Repeater {
             model: root.labels
 
-            T.AbstractButton {
+            T.RadioButton {
                 id: segment
 
                 required property int index
@@ -74,9 +74,7 @@ FocusScope {
                 implicitHeight: root.segmentHeight
                 hoverEnabled: true
                 focusPolicy: Qt.NoFocus
-                Accessible.role: Accessible.RadioButton
                 Accessible.name: root.optionNames.length > segment.index ? root.optionNames[segment.index] : segment.text
-                Accessible.checked: segment.checked
 
                 onClicked: {
                     root.forceActiveFocus(Qt.MouseFocusReason);

@@ -8,4 +8,6 @@ Text {
     color: Theme.text
     font.pixelSize: Theme.body
     textFormat: Text.PlainText
+    Accessible.role: Accessible.StaticText
+    Accessible.name: text
 }

@@ -6,7 +6,7 @@ import QtQuick.Templates as T
 import NorvinFocus.Ui
 
 /// A task that could be picked.
-T.AbstractButton {
+T.ItemDelegate {
     id: root
 
     required property string taskId
@@ -19,7 +19,6 @@ T.AbstractButton {
     text: root.title
     focusPolicy: Qt.NoFocus
     hoverEnabled: true
-    Accessible.role: Accessible.ListItem
     Accessible.name: root.projectName.length > 0 ? root.title + ", " + root.projectName : root.title
 
     onClicked: root.chosen(root.taskId)

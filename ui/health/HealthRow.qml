@@ -65,6 +65,7 @@ Card {
                 text: root.capability
                 font.weight: Font.DemiBold
                 wrapMode: Text.WordWrap
+                Accessible.ignored: true
             }
 
             ThemedText {
@@ -73,6 +74,7 @@ Card {
                 text: root.reason
                 color: Theme.textMuted
                 wrapMode: Text.WordWrap
+                Accessible.ignored: true
             }
 
             ThemedText {
@@ -80,6 +82,7 @@ Card {
                 visible: !root.isAvailable
                 text: root.remedy
                 wrapMode: Text.WordWrap
+                Accessible.ignored: true
             }
 
             ThemedText {
@@ -115,6 +118,7 @@ Card {
             Layout.alignment: root.isAvailable ? Qt.AlignVCenter : Qt.AlignTop
             text: root.outcome()
             color: root.outcomeColor()
+            Accessible.ignored: true
         }
     }
 

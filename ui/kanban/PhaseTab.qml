@@ -6,7 +6,7 @@ import QtQuick.Templates as T
 import NorvinFocus.Ui
 
 /// The tab of one phase, or of all tasks.
-T.AbstractButton {
+T.TabButton {
     id: root
 
     required property int taskCount
@@ -18,9 +18,9 @@ T.AbstractButton {
     implicitHeight: Theme.controlHeightSmall
     hoverEnabled: true
     focusPolicy: Qt.NoFocus
-    Accessible.role: Accessible.PageTab
     Accessible.name: qsTrId("board_column_name").arg(root.text).arg(qsTrId("tasks_count_format", root.taskCount))
     Accessible.selected: root.isChosen
+    checked: root.isChosen
 
     contentItem: RowLayout {
         spacing: Theme.gap2

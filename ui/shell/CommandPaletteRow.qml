@@ -23,7 +23,6 @@ T.ItemDelegate {
     hoverEnabled: true
     focusPolicy: Qt.NoFocus
     text: root.title
-    Accessible.role: Accessible.ListItem
     Accessible.name: root.detail.length > 0 ? root.title + ", " + root.detail : root.title
     Accessible.description: root.keys
 

@@ -6,7 +6,7 @@ import QtQuick.Templates as T
 import NorvinFocus.Ui
 
 /// The way to one page.
-T.Button {
+T.TabButton {
     id: root
 
     required property string symbol
@@ -26,9 +26,9 @@ T.Button {
     implicitHeight: Theme.controlHeight
     hoverEnabled: true
     focusPolicy: Qt.TabFocus
-    Accessible.role: Accessible.PageTab
     Accessible.name: root.words.length > 0 ? root.text + ", " + root.words : root.text
     Accessible.selected: root.isCurrent
+    checked: root.isCurrent
 
     Keys.onReturnPressed: root.clicked()
     Keys.onEnterPressed: root.clicked()

@@ -23,7 +23,6 @@ IconButton {
 
     symbol: "ellipsis"
     text: qsTrId("window_menu")
-    Accessible.role: Accessible.ButtonMenu
     onClicked: menu.popup(root, 0, root.height + Theme.gap1)
 
     component ActionItem: ContextMenuItem {

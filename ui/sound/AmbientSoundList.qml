@@ -50,7 +50,7 @@ FocusScope {
         Repeater {
             model: root.service.choicesOf(root.category)
 
-            T.AbstractButton {
+            T.RadioButton {
                 id: row
 
                 required property string modelData
@@ -62,10 +62,7 @@ FocusScope {
                 checked: row.modelData === root.service.selectedSound
                 hoverEnabled: true
                 focusPolicy: Qt.NoFocus
-                Accessible.role: Accessible.RadioButton
                 Accessible.name: row.text
-                Accessible.checkable: true
-                Accessible.checked: row.checked
 
                 onClicked: {
                     root.forceActiveFocus(Qt.MouseFocusReason);

@@ -76,7 +76,7 @@ FocusScope {
         Repeater {
             model: root.types
 
-            T.AbstractButton {
+            T.RadioButton {
                 id: row
 
                 required property string modelData
@@ -88,15 +88,12 @@ FocusScope {
                 checked: row.modelData === root.settings.selectedType
                 hoverEnabled: true
                 focusPolicy: Qt.NoFocus
-                Accessible.role: Accessible.RadioButton
                 Accessible.name: row.text
                 Accessible.description: root.hintOf(row.modelData)
-                Accessible.checkable: true
-                Accessible.checked: row.checked
 
                 onClicked: {
                     root.forceActiveFocus(Qt.MouseFocusReason);
-                    if (row.checked)
+                    if (row.modelData === root.settings.selectedType)
                         root.settings.playSample();
                     else
                         root.settings.selectedType = row.modelData;

@@ -19,7 +19,6 @@ T.AbstractButton {
 
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
-    Accessible.role: Accessible.Button
     Accessible.name: root.words
     Accessible.description: qsTrId("stats_explain_hint")
 

@@ -38,7 +38,6 @@ Item {
         text: qsTrId("stats_export_button")
         enabled: !root.model.isBusy
         opacity: enabled ? 1 : 0.45
-        Accessible.role: Accessible.ButtonMenu
         onClicked: menu.popup(button, button.width - menu.width, button.height + Theme.gap1)
     }
 

@@ -27,7 +27,6 @@ T.AbstractButton {
     text: root.name
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
-    Accessible.role: Accessible.Button
     Accessible.name: root.isMissing ? qsTrId("resource_missing_name").arg(root.name) : qsTrId("resource_open").arg(root.name)
 
     onClicked: root.open()
