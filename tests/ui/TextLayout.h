@@ -16,6 +16,11 @@ public:
 
     /// Where its glyphs are, in the coordinates of the item.
     [[nodiscard]] QRectF painted() const {
+        if (!m_item.inherits("QQuickText")) { // digits, in the middle of their item
+            return {(m_item.width() - m_item.implicitWidth()) / 2,
+                    (m_item.height() - m_item.implicitHeight()) / 2, m_item.implicitWidth(),
+                    m_item.implicitHeight()};
+        }
         const double width = m_item.property("contentWidth").toDouble();
         const double height = m_item.property("contentHeight").toDouble();
         const int across = m_item.property("horizontalAlignment").toInt();
@@ -110,7 +115,7 @@ inline QStringList textFaults(const QQuickWindow& window, const QStringList& nam
     QList<const QQuickItem*> texts;
     for (const QQuickItem* item : itemsSeen(window.contentItem())) {
         const ShownText text(*item);
-        if (!item->inherits("QQuickText") || text.words().isEmpty())
+        if (!(item->inherits("QQuickText") || item->inherits("norvin::DigitRow")) || text.words().isEmpty())
             continue;
         const bool isUsers = std::any_of(names.cbegin(), names.cend(), [&text](const QString& name) {
             return text.words().contains(name);

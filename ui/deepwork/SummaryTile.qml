@@ -26,7 +26,8 @@ Card {
 
         Digits {
             text: root.value
-            pixelSize: Theme.headline - 2
+            // Long lengths of time must fit as well.
+            pixelSize: Math.round(Math.min(Theme.headline - 2, 1.5 * (root.width - 2 * Theme.gap4) / Math.max(1, root.value.length)))
             color: root.valueColor
         }
 
