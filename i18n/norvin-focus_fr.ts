@@ -3080,7 +3080,7 @@
     </message>
     <message id="restore_message">
         <source></source>
-        <translation>Tout redevient comme le %1 (%2). Ce qu’il y a maintenant est d’abord sauvegardé, pour que vous puissiez y revenir. Le programme redémarre.</translation>
+        <translation>Tout revient à l’état du %1 (%2). Ce qu’il y a maintenant est d’abord sauvegardé, pour que vous puissiez y revenir. Le programme redémarre.</translation>
     </message>
     <message id="restore_open_button">
         <source></source>
