@@ -13,7 +13,7 @@ constexpr auto depthKey = QLatin1String("immersion_depth");
 // Smaller ones nobody sees, and each of them has the window drawn anew.
 constexpr double step = 1.0 / 40;
 
-double inRange(double depth) {
+double depthInRange(double depth) {
     return std::isnan(depth) ? ImmersionService::defaultDepth : std::clamp(depth, 0.0, 1.0);
 }
 
@@ -25,14 +25,14 @@ ImmersionService::ImmersionService(Preferences& preferences, QObject* parent)
     if (const auto depth = preferences.value(depthKey)) {
         bool isNumber = false;
         const double number = depth->toDouble(&isNumber);
-        m_depth = isNumber ? inRange(number) : defaultDepth;
+        m_depth = isNumber ? depthInRange(number) : defaultDepth;
     }
 }
 
 ImmersionService::~ImmersionService() = default;
 
 void ImmersionService::setDepth(double depth) {
-    const double wanted = inRange(depth);
+    const double wanted = depthInRange(depth);
     if (wanted == m_depth)
         return;
     m_depth = wanted;

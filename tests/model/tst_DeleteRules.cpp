@@ -1,4 +1,4 @@
-#include "StoreFixture.h"
+#include "tests/model/StoreFixture.h"
 
 #include <QCoreApplication>
 #include <QPointer>

@@ -42,8 +42,8 @@ void UpdaterServiceTest::saysWhatWasFound_data() {
     QTest::addColumn<QString>("message");
     QTest::addColumn<QString>("argument");
     QTest::addColumn<bool>("opensCentre");
-    const auto row = [](const char* name, UpdateResult result, const char* outcome, const char* message,
-                        const char* argument, bool opens) {
+    const auto row = [](const char* name, const UpdateResult& result, const char* outcome,
+                        const char* message, const char* argument, bool opens) {
         QTest::newRow(name) << result << QString::fromLatin1(outcome) << QString::fromLatin1(message)
                             << QString::fromLatin1(argument) << opens;
     };

@@ -6,6 +6,7 @@
 #include "platform/Preferences.h"
 #include "ui/InterfaceEngine.h"
 #include "ui/alert/OverlayWindow.h"
+#include "ui/panel/ScreenRoom.h"
 
 #include <QCoreApplication>
 #include <QGuiApplication>
@@ -27,10 +28,6 @@ constexpr auto settling = 300ms;
 // windows have at the top, and of the corner where notifications and the coach's messages come up.
 constexpr int rightDistance = 16;
 constexpr int lowerDistance = 128;
-
-QString translated(const QString& key) {
-    return qtTrId(key.toUtf8().constData());
-}
 
 QRect homeScreen() {
     const QScreen* screen = QGuiApplication::primaryScreen();
@@ -58,11 +55,6 @@ int distanceTo(const QRect& screen, const QPoint& point) {
     return (nearest - point).manhattanLength();
 }
 
-// A window larger than the screen keeps to its upper left corner.
-int within(int value, int low, int high) {
-    return std::max(low, std::min(value, high));
-}
-
 } // namespace
 
 QRect floatingPlace(const QSize& size, const QRect& home, const QSizeF& offset, const QList<QRect>& screens) {
@@ -72,8 +64,8 @@ QRect floatingPlace(const QSize& size, const QRect& home, const QSizeF& offset, 
         *std::min_element(screens.cbegin(), screens.cend(), [&](const QRect& left, const QRect& right) {
             return distanceTo(left, centre) < distanceTo(right, centre);
         });
-    return {QPoint(within(wanted.x(), screen.left(), screen.right() + 1 - size.width()),
-                   within(wanted.y(), screen.top(), screen.bottom() + 1 - size.height())),
+    return {QPoint(placeWithin(wanted.x(), screen.left(), screen.right() + 1 - size.width()),
+                   placeWithin(wanted.y(), screen.top(), screen.bottom() + 1 - size.height())),
             size};
 }
 
@@ -114,7 +106,7 @@ QString FloatingTimer::problem() const {
     if (support.isAvailable())
         return {};
     return qtTrId("floating_timer_unavailable") + QLatin1Char(' ') +
-           translated(support.reason()->reasonKey + QStringLiteral("_remedy"));
+           qtTrId((support.reason()->reasonKey + QStringLiteral("_remedy")).toUtf8().constData());
 }
 
 bool FloatingTimer::isEnabled() const {

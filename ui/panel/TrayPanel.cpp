@@ -6,6 +6,7 @@
 #include "sound/AmbientSoundService.h"
 #include "ui/InterfaceEngine.h"
 #include "ui/panel/FloatingTimer.h"
+#include "ui/panel/ScreenRoom.h"
 
 #include <QGuiApplication>
 #include <QIcon>
@@ -26,10 +27,6 @@ constexpr auto sameClick = 300ms;
 constexpr int distance = 8;
 // Half of a bar, where the window system does not say how much of the screen it takes.
 constexpr int halfBar = 20;
-
-int within(int value, int low, int high) {
-    return std::max(low, std::min(value, high));
-}
 
 // Trays speak of the screen's own pixels.
 QPoint inWindowUnits(const QPoint& position, const QScreen& screen) {
@@ -55,8 +52,8 @@ QRect panelPlace(const QSize& size, const QPoint& position, const QRect& screen,
     const bool isBelow = position.y() > screen.center().y();
     const int top = isBelow ? std::min(room.bottom() + 1, position.y() - halfBar) - size.height()
                             : std::max(room.top(), position.y() + halfBar);
-    return {QPoint(within(position.x() - size.width() / 2, room.left(), room.right() + 1 - size.width()),
-                   within(top, room.top(), room.bottom() + 1 - size.height())),
+    return {QPoint(placeWithin(position.x() - size.width() / 2, room.left(), room.right() + 1 - size.width()),
+                   placeWithin(top, room.top(), room.bottom() + 1 - size.height())),
             size};
 }
 

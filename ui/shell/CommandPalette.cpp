@@ -170,7 +170,7 @@ CommandPalette::Row CommandPalette::rowOf(const TaskItem& task) {
 }
 
 CommandPalette::Row CommandPalette::rowOf(const Project& project) {
-    const QString emoji = project.emoji();
+    const QString& emoji = project.emoji();
     return {.kind = Kind::project,
             .id = project.id().toString(),
             .title = project.name(),

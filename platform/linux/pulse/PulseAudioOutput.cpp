@@ -32,7 +32,7 @@ constexpr milliseconds trailingSilence = 100ms;
 // has been heard, but PipeWire sometimes forgets to.
 constexpr milliseconds longestLatency = 300ms;
 
-PulseAudioOutput& self(void* userdata) {
+PulseAudioOutput& outputOf(void* userdata) {
     return *static_cast<PulseAudioOutput*>(userdata);
 }
 
@@ -154,7 +154,7 @@ void PulseAudioOutput::setHeld(bool held) {
 }
 
 void PulseAudioOutput::streamAnswered(pa_stream* stream, int success, void* userdata) {
-    PulseAudioOutput& output = self(userdata);
+    PulseAudioOutput& output = outputOf(userdata);
     if (stream != output.m_connection.stream())
         return;
     if (success != 0)

@@ -13,7 +13,7 @@ namespace norvin {
 
 namespace {
 
-PulseConnection& self(void* userdata) {
+PulseConnection& connectionOf(void* userdata) {
     return *static_cast<PulseConnection*>(userdata);
 }
 
@@ -48,7 +48,8 @@ void PulseConnection::open() {
         return;
     }
     pa_context_set_state_callback(
-        m_own.context.get(), [](pa_context*, void* userdata) { self(userdata).contextChanged(); }, this);
+        m_own.context.get(), [](pa_context*, void* userdata) { connectionOf(userdata).contextChanged(); },
+        this);
     // A callback may have told of the failure already, and have it closed.
     if (pa_context_connect(m_own.context.get(), nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) < 0 &&
         m_own.context)
@@ -76,7 +77,7 @@ void PulseConnection::openStream(const pa_sample_spec& format, const pa_buffer_a
         return;
     }
     pa_stream_set_state_callback(
-        m_own.stream.get(), [](pa_stream*, void* userdata) { self(userdata).streamChanged(); }, this);
+        m_own.stream.get(), [](pa_stream*, void* userdata) { connectionOf(userdata).streamChanged(); }, this);
     const pa_stream_flags_t flags = begin == Begin::held ? PA_STREAM_START_CORKED : PA_STREAM_NOFLAGS;
     if (pa_stream_connect_playback(m_own.stream.get(), nullptr, &buffer, flags, nullptr, nullptr) < 0 &&
         m_own.stream)

@@ -16,23 +16,23 @@ namespace {
 
 // Asked for in pieces of a second, so that this program and the server are woken once a second. What the room
 // leaves beside two pieces becomes the latency of the output.
-constexpr milliseconds requestedPiece = 1000ms;
-constexpr milliseconds outputLatency = 100ms;
-constexpr milliseconds room = 2 * requestedPiece + outputLatency;
-constexpr milliseconds prebuffer = 100ms;
+constexpr milliseconds streamPiece = 1000ms;
+constexpr milliseconds streamLatency = 100ms;
+constexpr milliseconds room = 2 * streamPiece + streamLatency;
+constexpr milliseconds streamPrebuffer = 100ms;
 // What the server may have handed on until a replacement has reached it: up to the latency of the output at
 // once. What is too late leaves a step in the sound.
-constexpr milliseconds replacingTakes = outputLatency + 50ms;
+constexpr milliseconds replacingTakes = streamLatency + 50ms;
 // How much later than its turn the last of it is still on its way to a distant output.
-constexpr milliseconds longestLatency = 300ms;
+constexpr milliseconds longestStreamLatency = 300ms;
 
-constexpr milliseconds silentAfter = 2s;
-constexpr milliseconds firstBackOff = 1s;
-constexpr milliseconds longestBackOff = 10s;
+constexpr milliseconds streamSilentAfter = 2s;
+constexpr milliseconds firstStreamBackOff = 1s;
+constexpr milliseconds longestStreamBackOff = 10s;
 
 constexpr auto frameBytes = static_cast<std::int64_t>(sizeof(SoundFrame));
 
-PulseSoundStream& self(void* userdata) {
+PulseSoundStream& streamOf(void* userdata) {
     return *static_cast<PulseSoundStream*>(userdata);
 }
 
@@ -86,7 +86,7 @@ void PulseSoundStream::refresh() {
 
 void PulseSoundStream::connectToServer() {
     m_state = State::connecting;
-    expectAnswer(silentAfter);
+    expectAnswer(streamSilentAfter);
     m_connection.open();
 }
 
@@ -100,8 +100,8 @@ void PulseSoundStream::serverReady() {
     m_connection.openStream(format,
                             {.maxlength = serversChoice,
                              .tlength = bytes(room),
-                             .prebuf = bytes(prebuffer),
-                             .minreq = bytes(requestedPiece),
+                             .prebuf = bytes(streamPrebuffer),
+                             .minreq = bytes(streamPiece),
                              .fragsize = serversChoice},
                             PulseConnection::Begin::playing);
 }
@@ -120,7 +120,7 @@ void PulseSoundStream::streamReady() {
 }
 
 void PulseSoundStream::framesWanted(pa_stream* stream, size_t, void* userdata) {
-    PulseSoundStream& own = self(userdata);
+    PulseSoundStream& own = streamOf(userdata);
     if (stream == own.m_connection.stream())
         own.writeWanted();
 }
@@ -138,13 +138,13 @@ void PulseSoundStream::writeWanted() {
 void PulseSoundStream::askTiming() {
     m_asks = true;
     m_asksAgain = false;
-    expectAnswer(silentAfter);
+    expectAnswer(streamSilentAfter);
     m_connection.ask(
         pa_stream_update_timing_info(m_connection.stream(), &PulseSoundStream::timingTold, this));
 }
 
 void PulseSoundStream::timingTold(pa_stream* stream, int success, void* userdata) {
-    PulseSoundStream& own = self(userdata);
+    PulseSoundStream& own = streamOf(userdata);
     if (stream != own.m_connection.stream())
         return;
     own.m_asks = false;
@@ -182,11 +182,11 @@ void PulseSoundStream::write(std::int64_t first, std::int64_t count) {
     setAvailability(Availability::available());
     if (m_goesOn) {
         m_end.reset();
-        expectAnswer(room + silentAfter);
+        expectAnswer(room + streamSilentAfter);
         return;
     }
     m_answer.reset();
-    m_end = m_clock.after(room + longestLatency, [this] { end(); });
+    m_end = m_clock.after(room + longestStreamLatency, [this] { end(); });
 }
 
 void PulseSoundStream::expectAnswer(milliseconds within) {
@@ -219,7 +219,7 @@ void PulseSoundStream::connectionFailed(int error) {
         end();
         return;
     }
-    m_backOff = std::clamp(2 * m_backOff, firstBackOff, longestBackOff);
+    m_backOff = std::clamp(2 * m_backOff, firstStreamBackOff, longestStreamBackOff);
     m_retry = m_clock.after(m_backOff, [this] {
         m_retry.reset();
         connectToServer();

@@ -12,7 +12,7 @@ namespace norvin {
 namespace {
 
 constexpr uint protocolVersion = 3;
-constexpr auto propertiesInterface = "org.freedesktop.DBus.Properties";
+constexpr auto propertiesOfMenu = "org.freedesktop.DBus.Properties";
 
 QVariantMap only(const QVariantMap& properties, const QStringList& names) {
     if (names.isEmpty())
@@ -111,7 +111,7 @@ QDBusMessage TrayMenu::answerTo(const QDBusMessage& message) {
     const QString member = message.member();
     const QVariantList arguments = message.arguments();
     const QString signature = message.signature();
-    if (message.interface() == QLatin1String(propertiesInterface)) {
+    if (message.interface() == QLatin1String(propertiesOfMenu)) {
         const QVariantMap own = ownProperties();
         if (member == QLatin1String("GetAll"))
             return message.createReply(QVariant(own));

@@ -23,7 +23,7 @@ constexpr uint infoInstalled = 1;
 constexpr uint exitSuccess = 1;
 
 // Another transaction may have to end before ours begins.
-constexpr std::chrono::seconds patience{60};
+constexpr std::chrono::seconds packageKitPatience{60};
 
 } // namespace
 
@@ -78,7 +78,7 @@ void PackageKitUpdateSource::checkForUpdates() {
     m_installed.clear();
     m_newest.clear();
     m_error.clear();
-    m_patience = m_clock.after(patience, [this] { fail(QStringLiteral("update_timed_out"), {}); });
+    m_patience = m_clock.after(packageKitPatience, [this] { fail(QStringLiteral("update_timed_out"), {}); });
     Q_EMIT changed();
     const QDBusMessage call =
         QDBusMessage::createMethodCall(service, path, service, QStringLiteral("CreateTransaction"));
