@@ -45,6 +45,7 @@ static_assert(std::ranges::all_of(catalogue, [](const Entry& entry) {
 const std::vector<AmbientSound>& allAmbientSounds() {
     static const std::vector<AmbientSound> sounds = [] {
         std::vector<AmbientSound> all;
+        all.reserve(std::size(catalogue));
         for (const Entry& entry : catalogue)
             all.push_back(entry.sound);
         return all;
