@@ -1,6 +1,7 @@
 #include "sound/AmbientSound.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace norvin {
 

@@ -23,7 +23,8 @@ public:
     static constexpr auto maximizedKey = "window_maximized";
 
     /// Puts the window where it was, and follows it. A place that is on no screen any more is left to the
-    /// window manager, and a size that no screen has room for is made smaller. @param window not shown yet; all must outlive this
+    /// window manager, and a size that no screen has room for is made smaller. @param window not shown yet;
+    /// all must outlive this
     WindowGeometry(QWindow& window, Preferences& preferences, Clock& clock, QObject* parent = nullptr);
     ~WindowGeometry() override;
 
