@@ -33,7 +33,7 @@ T.ComboBox {
     focusPolicy: Qt.StrongFocus
     font.pixelSize: Theme.body
     Accessible.role: Accessible.ComboBox
-    Accessible.name: root.name + ", " + root.displayText
+    Accessible.name: root.displayText.length > 0 ? root.name + ", " + root.displayText : root.name
 
     onChosenIdChanged: root.follow()
     onModelChanged: root.follow()
