@@ -225,20 +225,23 @@ void AppearanceTest::textsStandOutFromTheirGround() {
     const std::unique_ptr<QObject> holder(component.create());
     QVERIFY2(holder, qPrintable(component.errorString()));
     auto* theme = holder->property("theme").value<QObject*>();
-    const auto check = [theme](const char* text, const char* ground) {
+    const auto check = [theme](const char* text, const char* ground, double wanted = 4.5) {
         const QColor ink = theme->property(text).value<QColor>();
         const QColor paper = theme->property(ground).value<QColor>();
         QVERIFY2(ink.isValid() && paper.isValid(), text);
-        QVERIFY2(contrast(ink, paper) >= 4.5,
+        QVERIFY2(contrast(ink, paper) >= wanted,
                  qPrintable(QStringLiteral("%1 on %2").arg(QLatin1String(text), QLatin1String(ground))));
     };
-    for (const char* ground : {"background", "sidebar", "surface", "surfaceRaised", "surfaceHover"}) {
+    for (const char* ground :
+         {"background", "sidebar", "surface", "surfaceRaised", "surfaceHover", "surfacePressed"}) {
         check("text", ground);
         check("textMuted", ground);
-    }
-    for (const char* ground : {"background", "sidebar", "surface", "surfaceRaised"}) {
         check("textFaint", ground);
         check("accentText", ground);
+        check("focusRing", ground, 3);
+        check("accentBright", ground, 3); // rings, bars and curves
+    }
+    for (const char* ground : {"background", "sidebar", "surface", "surfaceRaised"}) {
         check("legitimate", ground);
         check("amber", ground);
     }
@@ -247,7 +250,21 @@ void AppearanceTest::textsStandOutFromTheirGround() {
     check("legitimate", "legitimateSurface");
     check("text", "accentSurface");
     check("textMuted", "accentSurface");
-    check("text", "amberSurface");
+    check("accentText", "accentSurface");
+    check("textFaint", "accentSurface");
+    for (const char* ground : {"amberSurface", "distractedSurface", "legitimateSurface"}) {
+        check("text", ground);
+        check("textMuted", ground);
+    }
+    check("amber", "amberSurface");
+    check("background", "amber"); // the number on a badge
+    check("legitimateInk", "legitimateStrong");
+    for (const char* ground : {"surface", "surfaceHover", "surfacePressed"})
+        check("dangerText", ground);
+    for (const char* figure : {"accentBright", "legitimate", "amber", "distracted"})
+        check(figure, "track", 3);
+    for (const char* symbol : {"flame", "azure"})
+        check(symbol, "surface", 3);
     for (const char* ground : {"accent", "accentHover", "accentPressed"})
         check("accentInk", ground);
     check("dangerInk", "danger");

@@ -21,7 +21,7 @@ QtObject {
 
     readonly property color text: "#f4f4fa"
     readonly property color textMuted: "#b6b6ca"
-    readonly property color textFaint: "#9292ab"
+    readonly property color textFaint: "#9696af"
 
     readonly property color accent: "#7c3aed"
     readonly property color accentHover: "#6d28d9"
