@@ -13,6 +13,8 @@ from support.processes import wait_until
 
 DRIVER = os.path.join(os.environ.get("BUILD_UNDER_TEST", "build/dev"), "bin", "store-driver")
 KILLS = int(os.environ.get("KILLS", "15"))
+# One kill that came too late has the next ones come earlier: how long it takes depends on what else the machine does.
+LATE = 0.8
 SEED = int(os.environ.get("KILL_SEED", "20260301"))
 INTERVALS = 100_000  # enough for a copy to take some tenths of a second
 
@@ -74,14 +76,17 @@ class Backup(DesktopTestCase):
         os.remove(target)
         killed = kept = 0
         for _ in range(KILLS):
-            killed += self.kill_in_the_midst(longest * 1.2, DRIVER, "backup", self.store, target)
+            if self.kill_in_the_midst(longest * 1.2, DRIVER, "backup", self.store, target):
+                killed += 1
+            else:
+                longest *= LATE
             if os.path.exists(target):
                 kept += 1
                 self.assertEqual(titles(target), ["Old"])
                 os.remove(target)
         self.assertEqual(titles(self.store), ["Old"])
         print(f"{killed} of {KILLS} killed, {kept} backups were there; one takes {longest:.2f} s", flush=True)
-        self.assertGreater(killed, 0)
+        self.assertGreater(killed, KILLS // 3)
 
     def test_a_restore_leaves_the_old_or_the_new_store(self):
         self.make_stores()
@@ -93,8 +98,11 @@ class Backup(DesktopTestCase):
         for _ in range(KILLS):
             present = titles(self.store)[0]
             wanted = "Old" if present == "New" else "New"
-            killed += self.kill_in_the_midst(longest * 1.3, DRIVER, "restore", self.store,
-                                             self.desktop.path(f"{wanted}.sqlite"))
+            if self.kill_in_the_midst(longest * 1.3, DRIVER, "restore", self.store,
+                                      self.desktop.path(f"{wanted}.sqlite")):
+                killed += 1
+            else:
+                longest *= LATE
             after = titles(self.store)
             self.assertIn(after, (["Old"], ["New"]))
             counts[after[0]] += 1
@@ -103,7 +111,7 @@ class Backup(DesktopTestCase):
                                           for name in os.listdir(self.backups) if name.endswith(".sqlite")])
             shutil.rmtree(self.backups, ignore_errors=True)
         print(f"{killed} of {KILLS} killed, {counts}; a restore takes {longest:.2f} s", flush=True)
-        self.assertGreater(killed, 0)
+        self.assertGreater(killed, KILLS // 3)
 
     def test_the_program_finishes_what_a_failure_stopped(self):
         self.make_stores()
