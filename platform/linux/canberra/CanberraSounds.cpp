@@ -2,11 +2,10 @@
 
 #include "platform/ApplicationCatalog.h"
 #include "platform/Log.h"
+#include "platform/linux/canberra/CanberraLibrary.h"
 
 #include <QByteArray>
 #include <QMetaObject>
-
-#include <canberra.h>
 
 #include <algorithm>
 #include <chrono>
@@ -42,15 +41,16 @@ constexpr Sound sounds[] = {
 };
 
 Availability availabilityOf(int result) {
+    const CanberraLibrary* const library = CanberraLibrary::find();
+    const QString detail = library != nullptr ? QString::fromUtf8(library->ca_strerror(result))
+                                              : QStringLiteral("libcanberra.so.0 is missing");
     switch (result) {
     case CA_SUCCESS:
         return Availability::available();
     case CA_ERROR_NOTFOUND:
-        return Availability::unavailable(QStringLiteral("health_no_sound_theme"),
-                                         QString::fromUtf8(ca_strerror(result)));
+        return Availability::unavailable(QStringLiteral("health_no_sound_theme"), detail);
     default:
-        return Availability::unavailable(QStringLiteral("health_no_sound_server"),
-                                         QString::fromUtf8(ca_strerror(result)));
+        return Availability::unavailable(QStringLiteral("health_no_sound_server"), detail);
     }
 }
 
@@ -127,22 +127,26 @@ struct CanberraSounds::Worker {
     }
 
     static int perform(ca_context*& context, const Request& request) {
+        const CanberraLibrary* const library = CanberraLibrary::find();
+        if (library == nullptr)
+            return CA_ERROR_NODRIVER;
         if (!context) {
-            if (const int result = ca_context_create(&context); result != CA_SUCCESS)
+            if (const int result = library->ca_context_create(&context); result != CA_SUCCESS)
                 return result;
-            ca_context_change_props(context, CA_PROP_APPLICATION_NAME, "Norvin Focus", CA_PROP_APPLICATION_ID,
-                                    ownBundleIdentifier, CA_PROP_APPLICATION_ICON_NAME, ownBundleIdentifier,
-                                    nullptr);
+            library->ca_context_change_props(context, CA_PROP_APPLICATION_NAME, "Norvin Focus",
+                                             CA_PROP_APPLICATION_ID, ownBundleIdentifier,
+                                             CA_PROP_APPLICATION_ICON_NAME, ownBundleIdentifier, nullptr);
         }
         if (!request.event)
-            return ca_context_open(context);
-        return ca_context_play(context, 0, CA_PROP_EVENT_ID, request.event, CA_PROP_MEDIA_ROLE, "event",
-                               CA_PROP_CANBERRA_VOLUME, request.decibels.constData(), nullptr);
+            return library->ca_context_open(context);
+        return library->ca_context_play(context, 0, CA_PROP_EVENT_ID, request.event, CA_PROP_MEDIA_ROLE,
+                                        "event", CA_PROP_CANBERRA_VOLUME, request.decibels.constData(),
+                                        nullptr);
     }
 
     static void close(ca_context*& context) {
         if (context)
-            ca_context_destroy(context);
+            CanberraLibrary::find()->ca_context_destroy(context);
         context = nullptr;
     }
 

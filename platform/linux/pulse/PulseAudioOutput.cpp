@@ -2,10 +2,9 @@
 
 #include "platform/Clock.h"
 #include "platform/Log.h"
+#include "platform/linux/pulse/PulseLibrary.h"
 
 #include <algorithm>
-#include <pulse/error.h>
-#include <pulse/stream.h>
 #include <utility>
 
 namespace norvin {
@@ -84,7 +83,7 @@ void PulseAudioOutput::openStream() {
     const pa_sample_spec format{
         .format = PA_SAMPLE_FLOAT32NE, .rate = static_cast<uint32_t>(m_sampleRate), .channels = 1};
     const auto bytes = [&format](milliseconds length) {
-        return static_cast<uint32_t>(pa_usec_to_bytes(static_cast<pa_usec_t>(length / 1us), &format));
+        return static_cast<uint32_t>(pulse().pa_usec_to_bytes(static_cast<pa_usec_t>(length / 1us), &format));
     };
     constexpr auto serversChoice = static_cast<uint32_t>(-1);
     const pa_buffer_attr buffer{.maxlength = serversChoice,
@@ -130,8 +129,8 @@ void PulseAudioOutput::write() {
     samples.resize(samples.size() + static_cast<size_t>(m_sampleRate * trailingSilence / 1s));
     // The first sound begins where the stream was held, whatever is left of the silence before.
     const pa_seek_mode_t place = m_holdTimer ? PA_SEEK_RELATIVE : PA_SEEK_RELATIVE_ON_READ;
-    if (pa_stream_write(m_connection.stream(), samples.data(), samples.size() * sizeof(float), nullptr, 0,
-                        place) < 0) {
+    if (pulse().pa_stream_write(m_connection.stream(), samples.data(), samples.size() * sizeof(float),
+                                nullptr, 0, place) < 0) {
         m_connection.fail();
         return;
     }
@@ -150,7 +149,7 @@ void PulseAudioOutput::setHeld(bool held) {
     m_state = held ? State::holding : State::releasing;
     m_answerDue = m_clock.monotonic();
     m_connection.ask(
-        pa_stream_cork(m_connection.stream(), held ? 1 : 0, &PulseAudioOutput::streamAnswered, this));
+        pulse().pa_stream_cork(m_connection.stream(), held ? 1 : 0, &PulseAudioOutput::streamAnswered, this));
 }
 
 void PulseAudioOutput::streamAnswered(pa_stream* stream, int success, void* userdata) {

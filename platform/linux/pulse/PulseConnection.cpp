@@ -1,12 +1,8 @@
 #include "platform/linux/pulse/PulseConnection.h"
 
 #include "platform/ApplicationCatalog.h"
+#include "platform/linux/pulse/PulseLibrary.h"
 
-#include <pulse/context.h>
-#include <pulse/error.h>
-#include <pulse/operation.h>
-#include <pulse/proplist.h>
-#include <pulse/stream.h>
 #include <utility>
 
 namespace norvin {
@@ -20,15 +16,15 @@ PulseConnection& connectionOf(void* userdata) {
 } // namespace
 
 void PulseConnection::Disconnect::operator()(pa_context* context) const {
-    pa_context_set_state_callback(context, nullptr, nullptr);
-    pa_context_disconnect(context);
-    pa_context_unref(context);
+    pulse().pa_context_set_state_callback(context, nullptr, nullptr);
+    pulse().pa_context_disconnect(context);
+    pulse().pa_context_unref(context);
 }
 
 void PulseConnection::Disconnect::operator()(pa_stream* stream) const {
-    pa_stream_set_state_callback(stream, nullptr, nullptr);
-    pa_stream_disconnect(stream);
-    pa_stream_unref(stream);
+    pulse().pa_stream_set_state_callback(stream, nullptr, nullptr);
+    pulse().pa_stream_disconnect(stream);
+    pulse().pa_stream_unref(stream);
 }
 
 PulseConnection::PulseConnection(Clock& clock, Listener& listener)
@@ -38,26 +34,30 @@ PulseConnection::PulseConnection(Clock& clock, Listener& listener)
 PulseConnection::~PulseConnection() = default;
 
 void PulseConnection::open() {
-    pa_proplist* properties = pa_proplist_new();
-    pa_proplist_sets(properties, PA_PROP_APPLICATION_ID, ownBundleIdentifier);
-    pa_proplist_sets(properties, PA_PROP_APPLICATION_ICON_NAME, ownBundleIdentifier);
-    m_own.context.reset(pa_context_new_with_proplist(m_loop.api(), "Norvin Focus", properties));
-    pa_proplist_free(properties);
+    if (PulseLibrary::find() == nullptr) {
+        m_listener.connectionFailed(PA_ERR_NOTIMPLEMENTED);
+        return;
+    }
+    pa_proplist* properties = pulse().pa_proplist_new();
+    pulse().pa_proplist_sets(properties, PA_PROP_APPLICATION_ID, ownBundleIdentifier);
+    pulse().pa_proplist_sets(properties, PA_PROP_APPLICATION_ICON_NAME, ownBundleIdentifier);
+    m_own.context.reset(pulse().pa_context_new_with_proplist(m_loop.api(), "Norvin Focus", properties));
+    pulse().pa_proplist_free(properties);
     if (!m_own.context) {
         m_listener.connectionFailed(PA_ERR_INTERNAL);
         return;
     }
-    pa_context_set_state_callback(
+    pulse().pa_context_set_state_callback(
         m_own.context.get(), [](pa_context*, void* userdata) { connectionOf(userdata).contextChanged(); },
         this);
     // A callback may have told of the failure already, and have it closed.
-    if (pa_context_connect(m_own.context.get(), nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) < 0 &&
+    if (pulse().pa_context_connect(m_own.context.get(), nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) < 0 &&
         m_own.context)
         fail();
 }
 
 void PulseConnection::contextChanged() {
-    switch (pa_context_get_state(m_own.context.get())) {
+    switch (pulse().pa_context_get_state(m_own.context.get())) {
     case PA_CONTEXT_READY:
         m_listener.serverReady();
         return;
@@ -71,21 +71,22 @@ void PulseConnection::contextChanged() {
 }
 
 void PulseConnection::openStream(const pa_sample_spec& format, const pa_buffer_attr& buffer, Begin begin) {
-    m_own.stream.reset(pa_stream_new(m_own.context.get(), "Norvin Focus", &format, nullptr));
+    m_own.stream.reset(pulse().pa_stream_new(m_own.context.get(), "Norvin Focus", &format, nullptr));
     if (!m_own.stream) {
         fail();
         return;
     }
-    pa_stream_set_state_callback(
+    pulse().pa_stream_set_state_callback(
         m_own.stream.get(), [](pa_stream*, void* userdata) { connectionOf(userdata).streamChanged(); }, this);
     const pa_stream_flags_t flags = begin == Begin::held ? PA_STREAM_START_CORKED : PA_STREAM_NOFLAGS;
-    if (pa_stream_connect_playback(m_own.stream.get(), nullptr, &buffer, flags, nullptr, nullptr) < 0 &&
+    if (pulse().pa_stream_connect_playback(m_own.stream.get(), nullptr, &buffer, flags, nullptr, nullptr) <
+            0 &&
         m_own.stream)
         fail();
 }
 
 void PulseConnection::streamChanged() {
-    switch (pa_stream_get_state(m_own.stream.get())) {
+    switch (pulse().pa_stream_get_state(m_own.stream.get())) {
     case PA_STREAM_READY:
         m_listener.streamReady();
         return;
@@ -99,12 +100,12 @@ void PulseConnection::streamChanged() {
 }
 
 void PulseConnection::fail() {
-    m_listener.connectionFailed(pa_context_errno(m_own.context.get()));
+    m_listener.connectionFailed(pulse().pa_context_errno(m_own.context.get()));
 }
 
 void PulseConnection::ask(pa_operation* operation) {
     if (operation)
-        pa_operation_unref(operation);
+        pulse().pa_operation_unref(operation);
     else
         fail();
 }
@@ -112,18 +113,20 @@ void PulseConnection::ask(pa_operation* operation) {
 // libpulse does not expect to be disconnected from within every one of its callbacks.
 void PulseConnection::closeLater() {
     if (m_own.stream) {
-        pa_stream_set_state_callback(m_own.stream.get(), nullptr, nullptr);
-        pa_stream_set_write_callback(m_own.stream.get(), nullptr, nullptr);
+        pulse().pa_stream_set_state_callback(m_own.stream.get(), nullptr, nullptr);
+        pulse().pa_stream_set_write_callback(m_own.stream.get(), nullptr, nullptr);
     }
     if (m_own.context)
-        pa_context_set_state_callback(m_own.context.get(), nullptr, nullptr);
+        pulse().pa_context_set_state_callback(m_own.context.get(), nullptr, nullptr);
     m_discarded.push_back(std::exchange(m_own, {}));
     QMetaObject::invokeMethod(
         &m_turn, [this] { m_discarded.clear(); }, Qt::QueuedConnection);
 }
 
 Availability PulseConnection::availabilityOf(int error) {
-    const QString detail = QString::fromUtf8(pa_strerror(error));
+    const PulseLibrary* const library = PulseLibrary::find();
+    const QString detail = library != nullptr ? QString::fromUtf8(library->pa_strerror(error))
+                                              : QStringLiteral("libpulse.so.0 is missing");
     switch (error) {
     case PA_ERR_TIMEOUT:
         return Availability::unavailable(QStringLiteral("health_sound_server_silent"), detail);

@@ -2,10 +2,9 @@
 
 #include "platform/Clock.h"
 #include "platform/Log.h"
+#include "platform/linux/pulse/PulseLibrary.h"
 
 #include <algorithm>
-#include <pulse/error.h>
-#include <pulse/stream.h>
 
 namespace norvin {
 
@@ -115,7 +114,7 @@ void PulseSoundStream::streamReady() {
     m_asksAgain = false;
     setAvailability(Availability::available());
     m_source->reset();
-    pa_stream_set_write_callback(m_connection.stream(), &PulseSoundStream::framesWanted, this);
+    pulse().pa_stream_set_write_callback(m_connection.stream(), &PulseSoundStream::framesWanted, this);
     writeWanted();
 }
 
@@ -128,7 +127,7 @@ void PulseSoundStream::framesWanted(pa_stream* stream, size_t, void* userdata) {
 void PulseSoundStream::writeWanted() {
     if (m_asks || !m_goesOn)
         return;
-    const size_t wanted = pa_stream_writable_size(m_connection.stream());
+    const size_t wanted = pulse().pa_stream_writable_size(m_connection.stream());
     if (wanted == static_cast<size_t>(-1))
         m_connection.fail();
     else
@@ -140,7 +139,7 @@ void PulseSoundStream::askTiming() {
     m_asksAgain = false;
     expectAnswer(streamSilentAfter);
     m_connection.ask(
-        pa_stream_update_timing_info(m_connection.stream(), &PulseSoundStream::timingTold, this));
+        pulse().pa_stream_update_timing_info(m_connection.stream(), &PulseSoundStream::timingTold, this));
 }
 
 void PulseSoundStream::timingTold(pa_stream* stream, int success, void* userdata) {
@@ -160,7 +159,7 @@ void PulseSoundStream::timingTold(pa_stream* stream, int success, void* userdata
 }
 
 void PulseSoundStream::replaceUnheard() {
-    const pa_timing_info* timing = pa_stream_get_timing_info(m_connection.stream());
+    const pa_timing_info* timing = pulse().pa_stream_get_timing_info(m_connection.stream());
     if (timing == nullptr || timing->read_index_corrupt != 0)
         return;
     const std::int64_t first = timing->read_index / frameBytes + framesIn(replacingTakes);
@@ -174,8 +173,9 @@ void PulseSoundStream::write(std::int64_t first, std::int64_t count) {
     m_buffer.resize(static_cast<size_t>(count));
     m_goesOn = m_source->fill(first, m_buffer);
     m_made = first + count;
-    if (pa_stream_write(m_connection.stream(), m_buffer.data(), static_cast<size_t>(count * frameBytes),
-                        nullptr, first * frameBytes, PA_SEEK_ABSOLUTE) < 0) {
+    if (pulse().pa_stream_write(m_connection.stream(), m_buffer.data(),
+                                static_cast<size_t>(count * frameBytes), nullptr, first * frameBytes,
+                                PA_SEEK_ABSOLUTE) < 0) {
         m_connection.fail();
         return;
     }

@@ -1,5 +1,7 @@
 #include "platform/linux/webextension/ExtensionPackage.h"
 
+#include "platform/linux/webextension/CryptoLibrary.h"
+
 #include <QCryptographicHash>
 #include <QDir>
 #include <QDirIterator>
@@ -9,9 +11,6 @@
 #include <algorithm>
 #include <array>
 #include <memory>
-#include <openssl/evp.h>
-#include <openssl/rsa.h>
-#include <openssl/x509.h>
 
 namespace norvin {
 
@@ -72,29 +71,31 @@ QByteArray keyDigest(const QByteArray& publicKey) {
     return QCryptographicHash::hash(publicKey, QCryptographicHash::Sha256).first(16);
 }
 
-using Key = std::unique_ptr<EVP_PKEY, decltype(&EVP_PKEY_free)>;
+using Key = std::unique_ptr<EVP_PKEY, decltype(CryptoLibrary::EVP_PKEY_free)>;
 
-QByteArray publicKeyOf(const Key& key) {
+QByteArray publicKeyOf(const CryptoLibrary& crypto, const Key& key) {
     unsigned char* encoded = nullptr;
-    const int size = i2d_PUBKEY(key.get(), &encoded);
+    const int size = crypto.i2d_PUBKEY(key.get(), &encoded);
     if (size <= 0)
         return {};
     const QByteArray result(reinterpret_cast<const char*>(encoded), size);
-    OPENSSL_free(encoded);
+    crypto.CRYPTO_free(encoded, OPENSSL_FILE, OPENSSL_LINE);
     return result;
 }
 
-QByteArray signature(const Key& key, const QByteArray& bytes) {
-    const std::unique_ptr<EVP_MD_CTX, decltype(&EVP_MD_CTX_free)> context(EVP_MD_CTX_new(), &EVP_MD_CTX_free);
+QByteArray signature(const CryptoLibrary& crypto, const Key& key, const QByteArray& bytes) {
+    const std::unique_ptr<EVP_MD_CTX, decltype(crypto.EVP_MD_CTX_free)> context(crypto.EVP_MD_CTX_new(),
+                                                                                crypto.EVP_MD_CTX_free);
     const auto* data = reinterpret_cast<const unsigned char*>(bytes.constData());
     const auto dataSize = static_cast<size_t>(bytes.size());
     size_t size = 0;
-    if (!context || EVP_DigestSignInit(context.get(), nullptr, EVP_sha256(), nullptr, key.get()) != 1 ||
-        EVP_DigestSign(context.get(), nullptr, &size, data, dataSize) != 1)
+    if (!context ||
+        crypto.EVP_DigestSignInit(context.get(), nullptr, crypto.EVP_sha256(), nullptr, key.get()) != 1 ||
+        crypto.EVP_DigestSign(context.get(), nullptr, &size, data, dataSize) != 1)
         return {};
     QByteArray result(static_cast<qsizetype>(size), Qt::Uninitialized);
-    if (EVP_DigestSign(context.get(), reinterpret_cast<unsigned char*>(result.data()), &size, data,
-                       dataSize) != 1)
+    if (crypto.EVP_DigestSign(context.get(), reinterpret_cast<unsigned char*>(result.data()), &size, data,
+                              dataSize) != 1)
         return {};
     result.truncate(static_cast<qsizetype>(size));
     return result;
@@ -144,16 +145,19 @@ QByteArray zipArchive(const QList<ExtensionFile>& files) {
 }
 
 std::optional<SignedPackage> signedPackage(const QByteArray& archive) {
-    constexpr unsigned int keyBits = 2048;
-    const Key key(EVP_RSA_gen(keyBits), &EVP_PKEY_free);
-    const QByteArray publicKey = key ? publicKeyOf(key) : QByteArray();
+    const CryptoLibrary* const crypto = CryptoLibrary::find();
+    if (crypto == nullptr)
+        return std::nullopt;
+    constexpr size_t keyBits = 2048;
+    const Key key(crypto->EVP_PKEY_Q_keygen(nullptr, nullptr, "RSA", keyBits), crypto->EVP_PKEY_free);
+    const QByteArray publicKey = key ? publicKeyOf(*crypto, key) : QByteArray();
     if (publicKey.isEmpty())
         return std::nullopt;
 
     const QByteArray signedData = field(1, keyDigest(publicKey));
     QByteArray covered("CRX3 SignedData\0", 16);
     append32(covered, static_cast<quint32>(signedData.size()));
-    const QByteArray proof = signature(key, covered + signedData + archive);
+    const QByteArray proof = signature(*crypto, key, covered + signedData + archive);
     if (proof.isEmpty())
         return std::nullopt;
 
