@@ -5,13 +5,11 @@
 #include <QDBusMessage>
 #include <QDBusMetaType>
 #include <QDBusObjectPath>
-#include <QDBusVariant>
 
 namespace norvin {
 
 namespace {
 
-constexpr auto propertiesInterface = "org.freedesktop.DBus.Properties";
 constexpr auto labelProperty = "XAyatanaLabel";
 // The widest label that is to be expected, so that the bar keeps room for it.
 constexpr auto labelGuide = "000:00";
@@ -47,7 +45,7 @@ Q_DECLARE_METATYPE(norvin::TrayTip)
 namespace norvin {
 
 TrayItemFace::TrayItemFace(const QDBusConnection& bus, const QString& menuPath, QObject* parent)
-    : QDBusVirtualObject(parent)
+    : TrayObject(interfaceName, parent)
     , m_bus(bus)
     , m_menuPath(menuPath) {
     qDBusRegisterMetaType<TrayPicture>();
@@ -91,53 +89,32 @@ QVariantMap TrayItemFace::properties() const {
     };
 }
 
-bool TrayItemFace::handleMessage(const QDBusMessage& message, const QDBusConnection& connection) {
-    const QDBusMessage answer = answerTo(message);
-    if (answer.type() == QDBusMessage::InvalidMessage)
-        return false;
-    if (message.isReplyRequired())
-        connection.send(answer);
-    return true;
+void TrayItemFace::handlePropertyRead(const QString& name) {
+    m_isLabelRead = m_isLabelRead || name == QLatin1String(labelProperty);
 }
 
-QDBusMessage TrayItemFace::answerTo(const QDBusMessage& message) {
-    if (message.interface() == QLatin1String(propertiesInterface))
-        return answerAboutProperties(message);
-    if (message.interface() != QLatin1String(interfaceName) && !message.interface().isEmpty())
-        return {};
-    const QString member = message.member();
-    const QVariantList arguments = message.arguments();
+QDBusMessage TrayItemFace::answerTo(const QDBusMessage& call) {
+    const QString member = call.member();
+    const QVariantList arguments = call.arguments();
     // What a click brings about may end what waits here.
-    if (member == QLatin1String("Activate") && message.signature() == QLatin1String("ii")) {
+    if (member == QLatin1String("Activate") && call.signature() == QLatin1String("ii")) {
         // Trays that do not know the place say 0, 0.
         const QPoint at(arguments[0].toInt(), arguments[1].toInt());
         const auto position = at.isNull() ? std::nullopt : std::optional(at);
         QMetaObject::invokeMethod(
             this, [this, position] { Q_EMIT activated(position); }, Qt::QueuedConnection);
-        return message.createReply();
+        return call.createReply();
     }
     if (member == QLatin1String("SecondaryActivate")) {
         QMetaObject::invokeMethod(
             this, [this] { Q_EMIT secondaryActivated(); }, Qt::QueuedConnection);
-        return message.createReply();
+        return call.createReply();
     }
     // The menu is shown by the tray, and nothing is scrolled.
     if (member == QLatin1String("ContextMenu") || member == QLatin1String("Scroll") ||
         member == QLatin1String("ProvideXdgActivationToken"))
-        return message.createReply();
+        return call.createReply();
     return {};
-}
-
-QDBusMessage TrayItemFace::answerAboutProperties(const QDBusMessage& message) {
-    const QVariantMap own = properties();
-    if (message.member() == QLatin1String("GetAll"))
-        return message.createReply(QVariant(own));
-    const QString name = message.arguments().value(1).toString();
-    if (message.member() != QLatin1String("Get") || !own.contains(name))
-        return message.createErrorReply(QDBusError::InvalidArgs, QStringLiteral("no such property"));
-    if (name == QLatin1String(labelProperty))
-        m_isLabelRead = true;
-    return message.createReply(QVariant::fromValue(QDBusVariant(own.value(name))));
 }
 
 void TrayItemFace::announce(const char* signal) {

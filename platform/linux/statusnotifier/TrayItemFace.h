@@ -1,16 +1,15 @@
 #pragma once
 
 #include "platform/StatusItem.h"
+#include "platform/linux/statusnotifier/TrayObject.h"
 #include "platform/linux/statusnotifier/TraySymbol.h"
 
 #include <QDBusConnection>
-#include <QDBusVirtualObject>
-#include <QVariantMap>
 
 namespace norvin {
 
 /// The item as trays read it: org.kde.StatusNotifierItem. Main thread only.
-class TrayItemFace final : public QDBusVirtualObject {
+class TrayItemFace final : public TrayObject {
     Q_OBJECT
 public:
     static constexpr auto interfaceName = "org.kde.StatusNotifierItem";
@@ -35,16 +34,17 @@ public:
     void announceLabel();
 
     [[nodiscard]] QString introspect(const QString& path) const override;
-    bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override;
 
 Q_SIGNALS:
     void activated(std::optional<QPoint> position);
     void secondaryActivated();
 
+protected:
+    [[nodiscard]] QVariantMap properties() const override;
+    void handlePropertyRead(const QString& name) override;
+    [[nodiscard]] QDBusMessage answerTo(const QDBusMessage& call) override;
+
 private:
-    [[nodiscard]] QVariantMap properties() const;
-    [[nodiscard]] QDBusMessage answerTo(const QDBusMessage& message);
-    [[nodiscard]] QDBusMessage answerAboutProperties(const QDBusMessage& message);
     void announce(const char* signal);
 
     QDBusConnection m_bus;

@@ -12,7 +12,6 @@ namespace norvin {
 namespace {
 
 constexpr uint protocolVersion = 3;
-constexpr auto propertiesOfMenu = "org.freedesktop.DBus.Properties";
 
 QVariantMap only(const QVariantMap& properties, const QStringList& names) {
     if (names.isEmpty())
@@ -25,13 +24,6 @@ QVariantMap only(const QVariantMap& properties, const QStringList& names) {
     return wanted;
 }
 
-QVariantMap ownProperties() {
-    return {{QStringLiteral("Version"), protocolVersion},
-            {QStringLiteral("TextDirection"), QStringLiteral("ltr")},
-            {QStringLiteral("Status"), QStringLiteral("normal")},
-            {QStringLiteral("IconThemePath"), QStringList()}};
-}
-
 // An underscore marks the key of the letter behind it; two are one.
 QString withoutMnemonics(QString text) {
     return text.replace(QLatin1Char('_'), QLatin1String("__"));
@@ -40,7 +32,7 @@ QString withoutMnemonics(QString text) {
 } // namespace
 
 TrayMenu::TrayMenu(const QDBusConnection& bus, const QString& path, QObject* parent)
-    : QDBusVirtualObject(parent)
+    : TrayObject(interfaceName, parent)
     , m_bus(bus)
     , m_path(path) {
     registerTrayMenuTypes();
@@ -75,6 +67,13 @@ void TrayMenu::setEntries(const QList<StatusItem::MenuEntry>& entries, bool anno
         announceLayout();
 }
 
+QVariantMap TrayMenu::properties() const {
+    return {{QStringLiteral("Version"), protocolVersion},
+            {QStringLiteral("TextDirection"), QStringLiteral("ltr")},
+            {QStringLiteral("Status"), QStringLiteral("normal")},
+            {QStringLiteral("IconThemePath"), QStringList()}};
+}
+
 QVariantMap TrayMenu::propertiesOf(const Line& line) {
     if (line.entry.id.isEmpty())
         return {{QStringLiteral("type"), QStringLiteral("separator")}, {QStringLiteral("visible"), true}};
@@ -98,50 +97,30 @@ const TrayMenu::Line* TrayMenu::lineOf(int number) const {
     return found == m_lines.cend() ? nullptr : &*found;
 }
 
-bool TrayMenu::handleMessage(const QDBusMessage& message, const QDBusConnection& connection) {
-    const QDBusMessage answer = answerTo(message);
-    if (answer.type() == QDBusMessage::InvalidMessage)
-        return false;
-    if (message.isReplyRequired())
-        connection.send(answer);
-    return true;
-}
-
-QDBusMessage TrayMenu::answerTo(const QDBusMessage& message) {
-    const QString member = message.member();
-    const QVariantList arguments = message.arguments();
-    const QString signature = message.signature();
-    if (message.interface() == QLatin1String(propertiesOfMenu)) {
-        const QVariantMap own = ownProperties();
-        if (member == QLatin1String("GetAll"))
-            return message.createReply(QVariant(own));
-        const QString name = arguments.value(1).toString();
-        if (member == QLatin1String("Get") && own.contains(name))
-            return message.createReply(QVariant::fromValue(QDBusVariant(own.value(name))));
-        return message.createErrorReply(QDBusError::InvalidArgs, QStringLiteral("no such property"));
-    }
-    if (message.interface() != QLatin1String(interfaceName) && !message.interface().isEmpty())
-        return {};
+QDBusMessage TrayMenu::answerTo(const QDBusMessage& call) {
+    const QString member = call.member();
+    const QVariantList arguments = call.arguments();
+    const QString signature = call.signature();
     if (member == QLatin1String("GetLayout") && signature == QLatin1String("iias"))
-        return message.createReply(layout(message));
+        return call.createReply(layout(call));
     if (member == QLatin1String("GetGroupProperties") && signature == QLatin1String("aias")) {
-        return message.createReply(
+        return call.createReply(
             groupProperties(qdbus_cast<QList<int>>(arguments[0]), arguments[1].toStringList()));
     }
     if (member == QLatin1String("GetProperty") && signature == QLatin1String("is"))
-        return property(message);
+        return property(call);
     if (member == QLatin1String("Event") && signature == QLatin1String("isvu")) {
         if (take(arguments[0].toInt(), arguments[1].toString()))
-            return message.createReply();
-        return message.createErrorReply(QDBusError::InvalidArgs, QStringLiteral("no such line"));
+            return call.createReply();
+        return call.createErrorReply(QDBusError::InvalidArgs, QStringLiteral("no such line"));
     }
     if (member == QLatin1String("EventGroup") && signature == QLatin1String("a(isvu)"))
-        return takeGroup(message);
+        return takeGroup(call);
     // The menu is always as it should be.
     if (member == QLatin1String("AboutToShow") && signature == QLatin1String("i"))
-        return message.createReply(false);
+        return call.createReply(false);
     if (member == QLatin1String("AboutToShowGroup") && signature == QLatin1String("ai"))
-        return message.createReply({QVariant::fromValue(QList<int>()), QVariant::fromValue(QList<int>())});
+        return call.createReply({QVariant::fromValue(QList<int>()), QVariant::fromValue(QList<int>())});
     return {};
 }
 

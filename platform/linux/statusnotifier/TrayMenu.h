@@ -1,17 +1,16 @@
 #pragma once
 
 #include "platform/StatusItem.h"
+#include "platform/linux/statusnotifier/TrayObject.h"
 
 #include <QDBusConnection>
-#include <QDBusVirtualObject>
 #include <QHash>
-#include <QVariantMap>
 
 namespace norvin {
 
 /// The item's menu as trays read it: com.canonical.dbusmenu. One level; a line keeps its number for as long
 /// as this lives, so that a click on a line that has just gone chooses no other. Main thread only.
-class TrayMenu final : public QDBusVirtualObject {
+class TrayMenu final : public TrayObject {
     Q_OBJECT
 public:
     static constexpr auto interfaceName = "com.canonical.dbusmenu";
@@ -24,10 +23,13 @@ public:
     void setEntries(const QList<StatusItem::MenuEntry>& entries, bool announces);
 
     [[nodiscard]] QString introspect(const QString& path) const override;
-    bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override;
 
 Q_SIGNALS:
     void chosen(const QString& id);
+
+protected:
+    [[nodiscard]] QVariantMap properties() const override;
+    [[nodiscard]] QDBusMessage answerTo(const QDBusMessage& call) override;
 
 private:
     struct Line {
@@ -38,7 +40,6 @@ private:
     [[nodiscard]] static QVariantMap propertiesOf(const Line& line);
     [[nodiscard]] static QVariantMap rootProperties();
     [[nodiscard]] const Line* lineOf(int number) const;
-    [[nodiscard]] QDBusMessage answerTo(const QDBusMessage& message);
     [[nodiscard]] QVariantList layout(const QDBusMessage& message) const;
     [[nodiscard]] QVariant groupProperties(const QList<int>& numbers, const QStringList& names) const;
     [[nodiscard]] QDBusMessage property(const QDBusMessage& message) const;
