@@ -71,9 +71,9 @@ void PortalAutostart::follow(const QString& request) {
         const QString signal = QStringLiteral("Response");
         const char* const slot = SLOT(onResponse(uint, QVariantMap, QDBusMessage));
         if (isWanted)
-            m_bus.connect(QString(), m_request, requestInterface, signal, this, slot);
+            m_bus.connect(desktopPortal, m_request, requestInterface, signal, this, slot);
         else
-            m_bus.disconnect(QString(), m_request, requestInterface, signal, this, slot);
+            m_bus.disconnect(desktopPortal, m_request, requestInterface, signal, this, slot);
     };
     if (!m_request.isEmpty())
         connection(false);
