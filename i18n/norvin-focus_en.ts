@@ -947,6 +947,10 @@
         <source></source>
         <translation>The backup is in place.</translation>
     </message>
+    <message id="data_restored_damaged">
+        <source></source>
+        <translation>The backup is in place. What there was before could not be read; it lies in %1 until you delete it.</translation>
+    </message>
     <message id="data_restored_kept">
         <source></source>
         <translation>The backup is in place. What there was before is among the backups.</translation>

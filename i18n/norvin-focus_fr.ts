@@ -947,6 +947,10 @@
         <source></source>
         <translation>La sauvegarde est en place.</translation>
     </message>
+    <message id="data_restored_damaged">
+        <source></source>
+        <translation>La sauvegarde est en place. Ce qu’il y avait avant était illisible ; vous le trouverez dans %1 tant que vous ne le supprimez pas.</translation>
+    </message>
     <message id="data_restored_kept">
         <source></source>
         <translation>La sauvegarde est en place. Ce qu’il y avait avant est parmi les sauvegardes.</translation>

@@ -67,8 +67,11 @@ StoreResult settle(const QString& storeFile) {
     }
 }
 
-void putAside(const QString& storeFile) {
-    const QString aside = besideStore(storeFile, ".damaged");
+QString damagedFile(const QString& storeFile) {
+    return besideStore(storeFile, ".damaged");
+}
+
+void putAside(const QString& storeFile, const QString& aside) {
     QFile::remove(aside);
     QFile::remove(aside + QStringLiteral("-wal"));
     QFile::rename(storeFile + QStringLiteral("-wal"), aside + QStringLiteral("-wal"));
@@ -95,7 +98,7 @@ StoreResult keepPresent(const QString& storeFile, const QString& prepared) {
     if (failure && isDamage(*failure)) {
         logLine(QStringLiteral("StoreReplacement: The present store cannot be backed up: ") +
                 failure->description);
-        putAside(storeFile);
+        putAside(storeFile, damagedFile(storeFile));
         return {};
     }
     if (failure)
@@ -120,12 +123,16 @@ ReplacementOutcome restore(const QString& storeFile, const QString& prepared) {
         return refused(prepared, error->description);
     if (const StoreResult failure = keepPresent(storeFile, prepared))
         return refused(prepared, failure->description);
-    const bool isFormerKept = QFile::exists(formerCopy(storeFile, prepared));
+    ReplacementOutcome outcome{.kind = ReplacementOutcome::Kind::restored,
+                               .isFormerKept = QFile::exists(formerCopy(storeFile, prepared))};
+    // Whoever was stopped half-way put it aside already.
+    if (const QString damaged = damagedFile(storeFile); !QFile::exists(storeFile) && QFile::exists(damaged))
+        outcome.damagedFile = damaged;
     removeCompanions(storeFile);
     if (std::rename(QFile::encodeName(prepared).constData(), QFile::encodeName(storeFile).constData()) != 0)
         return refused(prepared, QString::fromLocal8Bit(std::strerror(errno)));
     syncFolderOf(storeFile);
-    return {.kind = ReplacementOutcome::Kind::restored, .isFormerKept = isFormerKept};
+    return outcome;
 }
 
 ReplacementOutcome erase(const QString& storeFile, const QString& marker) {
@@ -140,7 +147,7 @@ ReplacementOutcome erase(const QString& storeFile, const QString& marker) {
                 .problem = QStringLiteral("%1 cannot be removed").arg(storeFile)};
     }
     removeCompanions(storeFile);
-    const QString damaged = besideStore(storeFile, ".damaged");
+    const QString damaged = damagedFile(storeFile);
     for (const QString& gone : {restoreFile(storeFile), damaged, damaged + QStringLiteral("-wal")})
         QFile::remove(gone);
     if (takesBackups)

@@ -20,6 +20,8 @@ struct ReplacementOutcome {
     Kind kind = Kind::none;
     /// Whether the store that gave way is among the backups: not where it was empty, damaged or missing.
     bool isFormerKept = false;
+    /// Where the store that gave way lies because it could not be read; empty for all others.
+    QString damagedFile = {};
     /// Why the old store stayed, in English; only where it was refused.
     QString problem = {};
 };

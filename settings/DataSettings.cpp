@@ -33,6 +33,10 @@ DataSettings::DataSettings(BackupService& service, const StoreOpening& opening, 
         m_startState = opening.replacement.kind == Kind::erased ? StartState::erased
                        : opening.replacement.isFormerKept       ? StartState::restoredKept
                                                                 : StartState::restored;
+        if (!opening.replacement.damagedFile.isEmpty()) {
+            m_startState = StartState::restoredDamaged;
+            m_startProblem = opening.replacement.damagedFile;
+        }
     }
     connect(&service, &BackupService::workChanged, this, &DataSettings::workChanged);
     connect(&service, &BackupService::finished, this, &DataSettings::handleFinished);
@@ -114,6 +118,8 @@ QString DataSettings::startText() const {
         return qtTrId("data_restored");
     case StartState::restoredKept:
         return qtTrId("data_restored_kept");
+    case StartState::restoredDamaged:
+        return qtTrId("data_restored_damaged").arg(m_startProblem);
     case StartState::erased:
         return qtTrId("data_erased");
     case StartState::refused:
@@ -281,12 +287,15 @@ void DataSettings::erase(const QString& typed, bool settings, bool backups) {
         say(qtTrId("data_erase_failed").arg(failure->description), true);
         return;
     }
-    if (settings)
-        clearPreferences();
+    if (settings && !clearPreferences()) {
+        cancelReplacement(storeFile());
+        say(qtTrId("data_erase_failed").arg(qtTrId("health_preferences_unwritable")), true);
+        return;
+    }
     Q_EMIT restartWanted();
 }
 
-void DataSettings::clearPreferences() {
+bool DataSettings::clearPreferences() {
     // A trial does not begin anew.
     QList<std::pair<QString, QVariant>> kept;
     for (const char* const key : {LicenseService::firstLaunchKey, LicenseService::latestDayKey}) {
@@ -296,6 +305,7 @@ void DataSettings::clearPreferences() {
     m_preferences.clear();
     for (const auto& [key, value] : std::as_const(kept))
         m_preferences.setValue(key, value);
+    return m_preferences.availability().isAvailable();
 }
 
 void DataSettings::retranslate(const QLocale& locale) {

@@ -108,14 +108,15 @@ Q_SIGNALS:
     void restartWanted();
 
 private:
-    enum class StartState { fine, lost, restored, restoredKept, erased, refused };
+    enum class StartState { fine, lost, restored, restoredKept, restoredDamaged, erased, refused };
     struct Read {
         std::optional<StoreFacts> store;
         std::vector<BackupListModel::Row> backups;
     };
     void handleFinished(const BackupService::Result& result);
     void takeRead(Read read);
-    void clearPreferences();
+    /// @return whether that will last
+    bool clearPreferences();
     void refuseAtStart(const QString& problem);
     [[nodiscard]] const BackupListModel::Row* listed(const QString& file) const;
     /// Begins, or says in the user's language why not.

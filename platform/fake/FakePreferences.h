@@ -12,7 +12,11 @@ class FakePreferences final : public Preferences {
 public:
     using Preferences::Preferences;
 
-    [[nodiscard]] Availability availability() const override { return Availability::available(); }
+    [[nodiscard]] Availability availability() const override { return m_availability; }
+    void setAvailability(const Availability& availability) {
+        m_availability = availability;
+        Q_EMIT availabilityChanged();
+    }
     [[nodiscard]] std::optional<QVariant> value(const QString& key) const override {
         const auto it = m_values.constFind(key);
         return it == m_values.constEnd() ? std::nullopt : std::optional(*it);
@@ -36,6 +40,7 @@ public:
 
 private:
     QHash<QString, QVariant> m_values;
+    Availability m_availability = Availability::available();
 };
 
 } // namespace norvin

@@ -178,6 +178,7 @@ void StoreBackupTest::aBackupTakesThePlaceOfTheStore() {
     auto opened = store.open();
     QCOMPARE(opened->opening().replacement.kind, ReplacementOutcome::Kind::restored);
     QVERIFY(opened->opening().replacement.isFormerKept);
+    QCOMPARE(opened->opening().replacement.damagedFile, QString());
     QCOMPARE(titles(*opened), QStringList{QStringLiteral("Old")});
     opened.reset();
     QCOMPARE(store.soundness(), QStringLiteral("ok"));
@@ -232,7 +233,9 @@ void StoreBackupTest::aDamagedStoreIsPutAside() {
     auto opened = store.open();
     QCOMPARE(opened->opening().replacement.kind, ReplacementOutcome::Kind::restored);
     QCOMPARE(titles(*opened), QStringList{QStringLiteral("Old")});
-    QCOMPARE(QFileInfo(store.folder() + QStringLiteral("/NorvinFocus.damaged")).size(), 5000);
+    const QString damaged = store.folder() + QStringLiteral("/NorvinFocus.damaged");
+    QCOMPARE(opened->opening().replacement.damagedFile, damaged);
+    QCOMPARE(QFileInfo(damaged).size(), 5000);
 
     // Without a backup to take its place, it is made anew, and that is said.
     opened.reset();

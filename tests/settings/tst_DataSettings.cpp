@@ -223,6 +223,13 @@ void DataSettingsTest::erasingWantsTheWord() {
     data->erase(u' ' + data->eraseWord().toUpper(), false, false);
     QCOMPARE(restart.size(), 1);
     QVERIFY(rig->preferences.values().contains(QStringLiteral("profile_name")));
+    QVERIFY(lies(".erase"));
+    rig->preferences.setAvailability(
+        Availability::unavailable(QStringLiteral("health_preferences_unwritable")));
+    data->erase(data->eraseWord(), true, true);
+    QVERIFY(data->isNoticeProblem());
+    QVERIFY2(restart.size() == 1 && !lies(".erase"), "settings that would be back keep the rest too");
+    rig->preferences.setAvailability(Availability::available());
     data->erase(data->eraseWord(), true, true);
     QCOMPARE(restart.size(), 2);
     QCOMPARE(rig->preferences.values().keys(), QStringList{QLatin1String(LicenseService::firstLaunchKey)});
