@@ -34,8 +34,11 @@ struct Fields {
 
 // None where a line is no field, a field is there twice, or something follows the signature.
 std::optional<Fields> takeApart(const QByteArray& text) {
+    // What some editors begin a text with.
+    constexpr QByteArrayView byteOrderMark("\xEF\xBB\xBF");
     Fields fields;
-    for (const QByteArray& untrimmed : text.split('\n')) {
+    for (const QByteArray& untrimmed :
+         text.mid(text.startsWith(byteOrderMark) ? byteOrderMark.size() : 0).split('\n')) {
         const QByteArray line = untrimmed.trimmed();
         if (line.isEmpty() || line.startsWith('#'))
             continue;

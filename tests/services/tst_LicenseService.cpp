@@ -115,7 +115,8 @@ void LicenseServiceTest::onlyWhatWasSignedIsALicence() {
 
 void LicenseServiceTest::survivesTheWayThroughALetter() {
     const QByteArray sent = m_issuer.sign(fields + "seats: 3\nexpires: 2026-01-01\n");
-    const QByteArray arrived = "# Your licence\r\n\r\n" + QByteArray(sent).replace("\n", "  \r\n\r\n  ");
+    const QByteArray arrived =
+        "\xEF\xBB\xBF# Your licence\r\n\r\n" + QByteArray(sent).replace("\n", "  \r\n\r\n  ");
     const License license = std::get<License>(readLicense(arrived, m_issuer.publicKey()));
     QCOMPARE(license.expires, std::optional(QDate(2026, 1, 1)));
     QCOMPARE(license.email, QStringLiteral("ada@example.org"));
