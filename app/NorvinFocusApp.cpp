@@ -7,6 +7,7 @@
 #include "distraction/BrowserAlertService.h"
 #include "focus/MotionService.h"
 #include "focus/PhaseSymbol.h"
+#include "model/StoreFile.h"
 #include "platform/linux/LinuxPlatform.h"
 #include "platform/linux/SessionBus.h"
 #include "sound/ImmersionService.h"
@@ -59,18 +60,18 @@ QList<TrackingHealthModel::Check> platformHealthChecks(LinuxPlatform& platform, 
     };
 }
 
-// The oldest of all: to be asked for no more often than it must be.
-static std::optional<QDateTime> oldestSession(const ModelContext& context) {
-    std::optional<QDateTime> oldest;
-    for (const Session& session : context.fetchSessions()) {
-        if (!oldest || session.startTime < *oldest)
-            oldest = session.startTime;
-    }
-    return oldest;
+// None also where the store is in memory or cannot be read.
+static std::optional<QDateTime> oldestSession(const QString& storeFile) {
+    if (storeFile.isEmpty())
+        return std::nullopt;
+    const auto read = readStoreFacts(storeFile, CountIntervals::no);
+    const auto* const facts = std::get_if<StoreFacts>(&read);
+    return facts != nullptr && facts->firstSession.isValid() ? std::optional(facts->firstSession)
+                                                             : std::nullopt;
 }
 
 NorvinFocusApp::SharedServices::SharedServices(LinuxPlatform& platform, AlertOverlay& alert,
-                                               ModelContext& context) {
+                                               const QString& storeFile) {
     SharedInstance<AppBlockerService>::setFactory([&platform] {
         return std::make_unique<AppBlockerService>(platform.preferences(), platform.workspace(),
                                                    platform.sounds());
@@ -91,13 +92,13 @@ NorvinFocusApp::SharedServices::SharedServices(LinuxPlatform& platform, AlertOve
         [&platform] { return std::make_unique<ImmersionService>(platform.preferences()); });
     SharedInstance<UpdaterService>::setFactory(
         [&platform] { return std::make_unique<UpdaterService>(platform.updates()); });
-    SharedInstance<LicenseService>::setFactory([&platform, &context] {
+    SharedInstance<LicenseService>::setFactory([&platform, storeFile] {
         return std::make_unique<LicenseService>(
             LicenseService::builtInKey(),
             LicenseService::Collaborators{.preferences = platform.preferences(),
                                           .clock = platform.clock(),
                                           .file = LicenseService::defaultFile(),
-                                          .oldestRecord = [&context] { return oldestSession(context); }});
+                                          .oldestRecord = [storeFile] { return oldestSession(storeFile); }});
     });
 }
 
@@ -118,7 +119,7 @@ NorvinFocusApp::NorvinFocusApp(LinuxPlatform& platform, std::unique_ptr<ModelCon
     , m_sharedModelContainer(std::move(container))
     , m_localization(platform.preferences())
     , m_alertWindows(platform.overlays(), platform.clock())
-    , m_sharedServices(platform, m_alertWindows, m_sharedModelContainer->mainContext())
+    , m_sharedServices(platform, m_alertWindows, m_sharedModelContainer->storeFile())
     , m_soundService(platform.sounds())
     , m_ambientService(platform.soundStream(), platform.preferences(), platform.clock())
     , m_tickSoundService(platform.audioOutput(), platform.preferences())
@@ -235,7 +236,6 @@ void NorvinFocusApp::makeMenuBarExtra() {
                                                                    .mainWindow = *m_userInterface.window(),
                                                                    .ambientSound = &m_ambientService});
     connect(m_menuBarExtra.get(), &MenuBarExtra::windowWanted, this, &NorvinFocusApp::showWindow);
-    connect(m_menuBarExtra.get(), &MenuBarExtra::quitWanted, this, &NorvinFocusApp::askToQuit);
     // The window comes first.
     m_trayDelay = m_platform.clock().after(trayDelay, [this] { m_menuBarExtra->show(); });
 }
@@ -362,12 +362,6 @@ void NorvinFocusApp::showWindow() {
 
 QString NorvinFocusApp::menuBarIconName() const {
     return phaseSymbol(m_timerService.state(), m_timerService.phase());
-}
-
-void NorvinFocusApp::askToQuit() {
-    if (m_timerService.state() == TimerState::running || m_timerService.state() == TimerState::paused)
-        showWindow();
-    QMetaObject::invokeMethod(m_userInterface.window(), "askToQuit");
 }
 
 void NorvinFocusApp::quit() {

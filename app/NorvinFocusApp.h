@@ -70,7 +70,8 @@ private:
     /// Says how the process-wide services are made, and ends them after everything that uses them.
     class SharedServices final {
     public:
-        SharedServices(LinuxPlatform& platform, AlertOverlay& alert, ModelContext& context);
+        /// @param storeFile empty for a store in memory
+        SharedServices(LinuxPlatform& platform, AlertOverlay& alert, const QString& storeFile);
         SharedServices(const SharedServices&) = delete;
         SharedServices& operator=(const SharedServices&) = delete;
         ~SharedServices();
@@ -85,7 +86,6 @@ private:
     void makeMenuBarExtra();
     void refreshHealthSoon();
     [[nodiscard]] QList<TrackingHealthModel::Check> passingHealthChecks();
-    void askToQuit();
     void quit();
 
     LinuxPlatform& m_platform;
