@@ -1,3 +1,4 @@
+#include "stats/SessionScoreTerms.h"
 #include "stats/StatsAggregates.h"
 #include "stats/StatsFormats.h"
 #include "tests/stats/PlainStatistics.h"
@@ -19,6 +20,7 @@ private Q_SLOTS:
     void streakEndsAtAYear();
     void bucketsAreBounded();
     void lengthsAreWrittenInTheirKeys();
+    void termsAddUpToTheScore();
 };
 
 namespace {
@@ -240,6 +242,57 @@ void StatsRulesTest::lengthsAreWrittenInTheirKeys() {
     QCOMPARE(formatSeconds(7259), QStringLiteral("time_hours_short 2"));
     QCOMPARE(formatSeconds(3660), QStringLiteral("time_hours_minutes_short 1 1"));
     QCoreApplication::removeTranslator(&keys);
+}
+
+void StatsRulesTest::termsAddUpToTheScore() {
+    const auto sum = [](const SessionScoreTerms& terms) {
+        return terms.ratioPoints - terms.interruptionPenalty - terms.blockedAttemptsPenalty -
+               terms.blockedSiteAttemptsPenalty + terms.remainder;
+    };
+    SessionRow session;
+    session.legitimateTimeSeconds = 1100;
+    session.distractedTimeSeconds = 400;
+    session.interruptionCount = 3;
+    session.blockedAttemptsCount = 1;
+    session.blockedSiteAttemptsCount = 1;
+    // 7.3333 - 1.5 - 1 - 0.5
+    session.score = 11000.0 / 1500 - 3;
+    SessionScoreTerms terms = sessionScoreTerms(session);
+    QCOMPARE(terms.score, 433);
+    QCOMPARE(terms.ratioPoints, 733);
+    QCOMPARE(terms.interruptionPenalty, 150);
+    QCOMPARE(terms.blockedAttemptsPenalty, 100);
+    QCOMPARE(terms.blockedSiteAttemptsPenalty, 50);
+    QCOMPARE(terms.remainder, 0);
+    // A finished task and three subtasks.
+    session.score = *session.score + 1.9;
+    QCOMPARE(sessionScoreTerms(session).remainder, 190);
+    session.score = 10;
+    QCOMPARE(sum(sessionScoreTerms(session)), 1000);
+    session.interruptionCount = 40;
+    session.score = 0;
+    terms = sessionScoreTerms(session);
+    QCOMPARE(sum(terms), 0);
+    QCOMPARE(terms.remainder, 2000 + 150 - 733);
+    // Every rounding: the ratio at each second of an hour.
+    for (int second = 0; second <= 3600; ++second) {
+        session.legitimateTimeSeconds = second;
+        session.distractedTimeSeconds = 3600 - second;
+        session.interruptionCount = second % 3;
+        session.blockedAttemptsCount = session.blockedSiteAttemptsCount = 0;
+        const double known = second / 360.0 - second % 3 * 0.5;
+        session.score = std::max(0.0, known);
+        terms = sessionScoreTerms(session);
+        QCOMPARE(sum(terms), terms.score);
+        QCOMPARE(terms.remainder == 0, known > -0.005);
+    }
+    session.legitimateTimeSeconds = 4;
+    session.distractedTimeSeconds = 5;
+    session.score = 0;
+    QVERIFY(!sessionScoreTerms(session).hasEnoughData);
+    QCOMPARE(sum(sessionScoreTerms(session)), 0);
+    session.score.reset();
+    QVERIFY(!sessionScoreTerms(session).hasScore);
 }
 
 QTEST_GUILESS_MAIN(StatsRulesTest)
