@@ -23,6 +23,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <future>
+#include <thread>
 
 using namespace norvin;
 
@@ -136,6 +137,7 @@ int runWindow(const command::OpenWindow& options, int& argc, char** argv, bool& 
     // second.
     if (!qEnvironmentVariableIsSet("QT_QPA_UPDATE_IDLE_TIME"))
         qputenv("QT_QPA_UPDATE_IDLE_TIME", "0");
+    const std::jthread reading = InterfaceEngine::readLibrariesAhead();
     QGuiApplication application(argc, argv);
     QGuiApplication::setQuitOnLastWindowClosed(false);
 
@@ -146,6 +148,7 @@ int runWindow(const command::OpenWindow& options, int& argc, char** argv, bool& 
     std::future<OpenedStore> opening = openStoreMeanwhile(storeFile);
     auto interface = std::make_unique<InterfaceEngine>();
     LinuxPlatform platform;
+    interface->prepareFirstPicture();
     interface->finishCompiling();
 
     OpenedStore opened = opening.get();

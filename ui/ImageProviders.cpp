@@ -17,23 +17,31 @@ namespace {
 constexpr QSize usualSize(24, 24);
 constexpr auto identifierPrefix = QLatin1String("of:");
 
-/// The symbol drawn in one colour; null for an unknown name.
-QPixmap drawnSymbol(const QString& name, const QColor& color, const QSize& size) {
+/// The symbol drawn in white; null for an unknown name.
+QPixmap drawnSymbol(const QString& name, const QSize& size) {
     QFile file(QStringLiteral(":/icons/%1.svg").arg(name));
     if (!file.open(QIODevice::ReadOnly)) {
         logLine(QStringLiteral("SymbolProvider: There is no symbol \"%1\"").arg(name));
         return {};
     }
-    // The renderer knows no currentColor, so the colour is put into the drawing itself.
+    // The renderer knows no currentColor.
     QByteArray drawing = file.readAll();
-    drawing.replace("currentColor", color.name(QColor::HexRgb).toLatin1());
+    drawing.replace("currentColor", "#ffffff");
     QSvgRenderer renderer(drawing);
     QPixmap pixmap(size);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
-    painter.setOpacity(color.alphaF());
     renderer.render(&painter);
     return pixmap;
+}
+
+QPixmap coloured(QPixmap symbol, const QColor& color) {
+    if (!symbol.isNull()) {
+        QPainter painter(&symbol);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+        painter.fillRect(symbol.rect(), color);
+    }
+    return symbol;
 }
 
 QSize sizeFor(const QSize& requested) {
@@ -59,7 +67,7 @@ QPixmap AppIconProvider::requestPixmap(const QString& id, QSize* size, const QSi
     else if (!name.isEmpty())
         pixmap = QIcon::fromTheme(name).pixmap(wanted);
     if (pixmap.isNull())
-        pixmap = drawnSymbol(QStringLiteral("app"), QColor(0x8f8fa8), wanted);
+        pixmap = coloured(drawnSymbol(QStringLiteral("app"), wanted), QColor(0x8f8fa8));
     *size = pixmap.size();
     return pixmap;
 }
@@ -67,12 +75,19 @@ QPixmap AppIconProvider::requestPixmap(const QString& id, QSize* size, const QSi
 SymbolProvider::SymbolProvider()
     : QQuickImageProvider(QQuickImageProvider::Pixmap) {}
 
+void SymbolProvider::prepare(const QString& name, int size) {
+    m_prepared.insert({name, size}, drawnSymbol(name, QSize(size, size)));
+}
+
 QPixmap SymbolProvider::requestPixmap(const QString& id, QSize* size, const QSize& requestedSize) {
     const qsizetype slash = id.lastIndexOf(QLatin1Char('/'));
     const QString name = id.left(slash);
     const QColor color(QLatin1Char('#') + id.mid(slash + 1));
-    const QPixmap pixmap =
-        drawnSymbol(name, color.isValid() ? color : QColor(Qt::white), sizeFor(requestedSize));
+    const QSize wanted = sizeFor(requestedSize);
+    const auto prepared = wanted.width() == wanted.height() ? m_prepared.constFind({name, wanted.width()})
+                                                            : m_prepared.constEnd();
+    const QPixmap pixmap = coloured(prepared != m_prepared.constEnd() ? *prepared : drawnSymbol(name, wanted),
+                                    color.isValid() ? color : QColor(Qt::white));
     *size = pixmap.size();
     return pixmap;
 }

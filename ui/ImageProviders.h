@@ -1,6 +1,10 @@
 #pragma once
 
+#include <QHash>
+#include <QPixmap>
 #include <QQuickImageProvider>
+
+#include <utility>
 
 namespace norvin {
 
@@ -25,7 +29,14 @@ private:
 class SymbolProvider final : public QQuickImageProvider {
 public:
     SymbolProvider();
+    /// Draws a symbol in advance, whatever colour it will be wanted in. @param size width and height in
+    /// pixels
+    void prepare(const QString& name, int size);
     QPixmap requestPixmap(const QString& id, QSize* size, const QSize& requestedSize) override;
+
+private:
+    /// Drawings in white of symbols that were prepared, by name and width.
+    QHash<std::pair<QString, int>, QPixmap> m_prepared;
 };
 
 } // namespace norvin

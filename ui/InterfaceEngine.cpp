@@ -6,10 +6,16 @@
 #include "ui/alert/OverlayWindow.h"
 
 #include <QFontDatabase>
+#include <QFontMetricsF>
+#include <QGuiApplication>
+#include <QLibrary>
+#include <QLibraryInfo>
 #include <QQmlComponent>
 #include <QQuickWindow>
 #include <QThreadPool>
 #include <QUrl>
+
+#include <cmath>
 
 // The module is linked in, not loaded from a plugin, so its types are registered by hand.
 extern void qml_register_types_NorvinFocus_Ui();
@@ -25,17 +31,56 @@ QUrl addressOf(const char* file) {
 } // namespace
 
 InterfaceEngine::InterfaceEngine()
-    : m_appIcons(new AppIconProvider) {
+    : m_appIcons(new AppIconProvider)
+    , m_symbols(new SymbolProvider) {
     // The first text that is laid out waits for the list of the machine's fonts, which is long in the making.
     QThreadPool::globalInstance()->start([] { static_cast<void>(QFontDatabase::families()); });
     qml_register_types_NorvinFocus_Ui();
     m_engine.addImportPath(QStringLiteral("qrc:/"));
     m_engine.addImageProvider(QStringLiteral("appicon"), m_appIcons);
-    m_engine.addImageProvider(QStringLiteral("symbol"), new SymbolProvider);
+    m_engine.addImageProvider(QStringLiteral("symbol"), m_symbols);
     compileMeanwhile("shell/Main.qml");
 }
 
 InterfaceEngine::~InterfaceEngine() = default;
+
+std::jthread InterfaceEngine::readLibrariesAhead() {
+    return std::jthread([] {
+        const QString folder = QLibraryInfo::path(QLibraryInfo::QmlImportsPath);
+        // Where one of them is missing, the engine will say so.
+        for (const char* plugin :
+             {"/QtQuick/libqtquick2plugin.so", "/QtQuick/Templates/libqtquicktemplates2plugin.so",
+              "/QtQuick/Layouts/libqquicklayoutsplugin.so", "/QtQml/libqmlplugin.so",
+              "/QtQml/Models/libmodelsplugin.so", "/QtQml/WorkerScript/libworkerscriptplugin.so"})
+            QLibrary(folder + QLatin1String(plugin)).load();
+    });
+}
+
+void InterfaceEngine::prepareFirstPicture() {
+    struct Type {
+        int pixelSize;
+        QFont::Weight weight;
+    };
+    // As Theme.qml has them; one that is missing here is only loaded later.
+    QFont font = QGuiApplication::font();
+    for (const Type type : {Type{14, QFont::Normal}, Type{14, QFont::DemiBold}, Type{16, QFont::Normal},
+                            Type{16, QFont::DemiBold}, Type{24, QFont::DemiBold}, Type{12, QFont::Normal},
+                            Type{75, QFont::DemiBold}}) {
+        font.setPixelSize(type.pixelSize);
+        font.setWeight(type.weight);
+        static_cast<void>(QFontMetricsF(font).horizontalAdvance(QLatin1Char('0')));
+    }
+    struct Sign {
+        const char* name;
+        int size;
+    };
+    const double ratio = qGuiApp->devicePixelRatio();
+    for (const Sign sign : {Sign{"brain", 28}, Sign{"timer", 20}, Sign{"calendar", 20}, Sign{"folder", 20},
+                            Sign{"chart.bar", 20}, Sign{"hand.raised", 20}, Sign{"waveform.path.ecg", 20},
+                            Sign{"gearshape", 20}, Sign{"brain", 36}, Sign{"play", 18},
+                            Sign{"metronome.slash", 24}, Sign{"headphones", 24}})
+        m_symbols->prepare(QLatin1String(sign.name), static_cast<int>(std::lround(sign.size * ratio)));
+}
 
 void InterfaceEngine::setApplications(const ApplicationCatalog& catalog) {
     m_appIcons->setCatalog(catalog);

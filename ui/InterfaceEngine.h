@@ -3,6 +3,7 @@
 #include <QtQml/QQmlEngine>
 
 #include <memory>
+#include <thread>
 
 class QQmlComponent;
 class QQuickWindow;
@@ -14,6 +15,7 @@ class ApplicationCatalog;
 class Localization;
 class MotionPreference;
 class OverlayWindow;
+class SymbolProvider;
 
 /// Compiles the window's QML, which takes longer than anything else at the start: it begins when this is
 /// made, on a thread of its own, so that whatever the window is to show can be put together meanwhile. Needs
@@ -29,6 +31,11 @@ public:
     void setSingletons(Localization& localization, MotionPreference& motion);
     /// Where the icons of applications come from. @param catalog must outlive the engine
     void setApplications(const ApplicationCatalog& catalog);
+    /// To be called before there is a QGuiApplication: reads the libraries that the window's QML will ask
+    /// for, on the thread that is returned, while the connection to the display is made.
+    [[nodiscard]] static std::jthread readLibrariesAhead();
+    /// Makes fonts and symbols of the first picture ready: what to do while the window is compiled.
+    void prepareFirstPicture();
     /// Waits until the main window is compiled, and lets what follows its first picture be compiled next.
     void finishCompiling();
     /// Makes the main window with these properties, hidden.
@@ -50,6 +57,7 @@ private:
     QQmlEngine m_engine;
     /// Belongs to the engine.
     AppIconProvider* m_appIcons;
+    SymbolProvider* m_symbols;
     std::unique_ptr<QQmlComponent> m_compiling;
     std::unique_ptr<QQmlComponent> m_window;
 };

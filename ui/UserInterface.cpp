@@ -85,7 +85,6 @@ bool UserInterface::load() {
     if (!m_window)
         return false;
     static_cast<void>(root.release()); // the same object as m_window
-    m_window->setIcon(QIcon(QStringLiteral(":/icons/com.norvin.Focus.svg")));
     m_window->installEventFilter(this);
     QCoreApplication::instance()->installEventFilter(this);
     connect(m_window.get(), SIGNAL(quitConfirmed()), this, SLOT(quit()));
@@ -94,6 +93,8 @@ bool UserInterface::load() {
         [this] {
             // Asked only now, so that a slow bus cannot hold up the first picture.
             m_motion->askDesktop();
+            // To draw it takes as long as a good part of the window.
+            m_window->setIcon(QIcon(QStringLiteral(":/icons/com.norvin.Focus.svg")));
             Q_EMIT firstFrameShown();
             m_window->setProperty(stageProperty, 2);
         },
@@ -186,6 +187,16 @@ void UserInterface::addActions() {
                  .titleKey = QStringLiteral("action_show_welcome"),
                  .symbol = QStringLiteral("sparkles"),
                  .run = [&welcome] { welcome.present(); }});
+    actions.add({.id = QStringLiteral("quit"),
+                 .titleKey = QStringLiteral("quit_button"),
+                 .symbol = QStringLiteral("power"),
+                 .keys = QStringLiteral("Ctrl+Q"),
+                 .run = [this, &actions] {
+                     // Who is asked must see the question.
+                     if (isPhaseUnderWay())
+                         showWindow();
+                     Q_EMIT actions.quitWanted();
+                 }});
 }
 
 void UserInterface::showWindow() {

@@ -22,16 +22,13 @@ FocusScope {
     readonly property KeyboardScope tasks: tasksLoader.item as KeyboardScope
     readonly property bool isIdle: root.screen.state === "idle"
     readonly property bool isCompleted: root.screen.state === "completed"
-    readonly property bool measures: !root.isIdle && !root.isCompleted && root.screen.phase === "work"
 
     /// Puts the keyboard where the next step most likely is.
     function focusStart(): void {
-        if (completed.item)
-            (completed.item as Item).forceActiveFocus(Qt.TabFocusReason);
-        else if (root.isIdle && root.tasks?.wantsKeyboard)
+        if (root.isIdle && root.tasks?.wantsKeyboard)
             root.tasks.keyboardGiven();
         else
-            controls.focusPrimary();
+            details.focusStart();
     }
 
     /// The button that had the keyboard may just have gone.
@@ -66,12 +63,6 @@ FocusScope {
         return root.screen.phase === "break_time" ? qsTrId("phase_break") : qsTrId("phase_rearming");
     }
 
-    function taskLine(): string {
-        if (root.screen.activeTaskTitle.length === 0)
-            return root.isIdle ? qsTrId("active_task_none_idle") : "";
-        return root.isIdle ? qsTrId("active_task_next").arg(root.screen.activeTaskTitle) : root.screen.activeTaskTitle;
-    }
-
     onFurnishedChanged: tasksLoader.setSource("TaskPanel.qml", {
         screen: root.screen
     })
@@ -90,7 +81,7 @@ FocusScope {
 
     Keys.onSpacePressed: {
         if (!root.isCompleted)
-            controls.toggle();
+            details.toggle();
     }
 
     LiveSession {
@@ -139,7 +130,7 @@ FocusScope {
             id: page
 
             readonly property int margin: Theme.gap8
-            readonly property int room: page.height - 2 * page.margin - heading.implicitHeight - lower.implicitHeight - 2 * column.spacing
+            readonly property int room: page.height - 2 * page.margin - heading.implicitHeight - details.implicitHeight - 2 * column.spacing
             // Before the window has a height, the size that it will most likely get: a font of another one would be
             // loaded for nothing.
             readonly property int ringSize: page.height > 0 ? Math.round(Math.min(Math.max(360, page.height * 0.38), Math.max(150, page.room))) : 360
@@ -186,85 +177,16 @@ FocusScope {
                     caption: root.isIdle ? qsTrId("ring_idle") : root.screen.state === "paused" ? qsTrId("ring_paused") : qsTrId("ring_running")
                 }
 
-                ColumnLayout {
-                    id: lower
+                PhaseDetails {
+                    id: details
 
                     Layout.fillWidth: true
-                    spacing: Theme.gap5
-
-                    ThemedText {
-                        objectName: "activeTaskLine"
-                        Layout.alignment: Qt.AlignHCenter
-                        Layout.maximumWidth: column.width
-                        visible: !root.isCompleted && text.length > 0
-                        text: root.taskLine()
-                        color: root.isIdle ? Theme.textMuted : Theme.text
-                        font.pixelSize: Theme.bodyLarge
-                        horizontalAlignment: Text.AlignHCenter
-                        wrapMode: Text.Wrap
-                        maximumLineCount: 2
-                        elide: Text.ElideRight
-                    }
-
-                    DurationChoice {
-                        Layout.alignment: Qt.AlignHCenter
-                        visible: root.isIdle
-                        screen: root.screen
-                    }
-
-                    SessionControls {
-                        id: controls
-
-                        Layout.alignment: Qt.AlignHCenter
-                        visible: !root.isCompleted
-                        screen: root.screen
-                        ticksAreOn: root.tickSounds.isEnabled
-                        onTickSoundsWanted: root.openTickSounds()
-                        ambientSounds: root.ambientSounds
-                        onAmbienceWanted: root.openAmbience()
-                    }
-
-                    ThemedText {
-                        Layout.alignment: Qt.AlignHCenter
-                        visible: root.isIdle
-                        text: qsTrId("space_hint")
-                        color: Theme.textFaint
-                        font.pixelSize: Theme.caption
-                    }
-
-                    PhasePanel {
-                        Layout.fillWidth: true
-                        wanted: root.measures
-                        file: "SessionPanel.qml"
-                        screen: root.screen
-                        session: session
-                    }
-
-                    ThemedText {
-                        Layout.alignment: Qt.AlignHCenter
-                        Layout.maximumWidth: 420
-                        visible: !root.isIdle && !root.isCompleted && root.screen.phase !== "work"
-                        text: root.screen.phase === "break_time" ? qsTrId("break_subtitle") : qsTrId("rearming_subtitle")
-                        color: Theme.textMuted
-                        horizontalAlignment: Text.AlignHCenter
-                        wrapMode: Text.WordWrap
-                    }
-
-                    PhasePanel {
-                        id: completed
-
-                        Layout.fillWidth: true
-                        wanted: root.isCompleted
-                        file: "CompletedPanel.qml"
-                        screen: root.screen
-                        session: session
-                    }
-
-                    // Keeps what is centred in the middle while nothing else is as wide as the page.
-                    Item {
-                        Layout.fillWidth: true
-                        Layout.topMargin: -Theme.gap5
-                    }
+                    screen: root.screen
+                    session: session
+                    ambientSounds: root.ambientSounds
+                    ticksAreOn: root.tickSounds.isEnabled
+                    onTickSoundsWanted: root.openTickSounds()
+                    onAmbienceWanted: root.openAmbience()
                 }
             }
         }

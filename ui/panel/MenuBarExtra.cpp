@@ -18,7 +18,6 @@ namespace {
 constexpr auto panelAction = "show_panel";
 constexpr auto floatingTimerAction = "toggle_floating_timer";
 constexpr auto showWindowEntry = "show_window";
-constexpr auto quitEntry = "quit";
 
 QString translated(const QString& key) {
     return qtTrId(key.toUtf8().constData());
@@ -188,15 +187,13 @@ void MenuBarExtra::refreshMenu() {
     }
     entries.append(StatusItem::MenuEntry{});
     appendAction(entries, "check_for_updates");
-    entries.append({.id = QLatin1String(quitEntry), .text = qtTrId("quit_button")});
+    appendAction(entries, "quit");
     m_with.item.setMenu(entries);
 }
 
 void MenuBarExtra::choose(const QString& id) {
     if (id == QLatin1String(showWindowEntry))
         Q_EMIT windowWanted();
-    else if (id == QLatin1String(quitEntry))
-        Q_EMIT quitWanted();
     else if (id == QLatin1String(panelAction))
         openPanel(std::nullopt);
     else

@@ -46,7 +46,6 @@ public:
 Q_SIGNALS:
     /// The main window is to be shown.
     void windowWanted();
-    void quitWanted();
 
 private:
     void addActions();

@@ -16,6 +16,7 @@ T.ItemDelegate {
     required property string emoji
     required property string keys
     required property bool isEnabled
+    readonly property string spoken: root.detail.length > 0 ? root.title + ", " + root.detail : root.title
 
     implicitHeight: 44
     enabled: root.isEnabled
@@ -23,7 +24,7 @@ T.ItemDelegate {
     hoverEnabled: true
     focusPolicy: Qt.NoFocus
     text: root.title
-    Accessible.name: root.detail.length > 0 ? root.title + ", " + root.detail : root.title
+    Accessible.name: root.spoken
     Accessible.description: root.keys
 
     contentItem: Item {

@@ -37,6 +37,8 @@ Item {
 
             width: parent?.width ?? 0
             spacing: Theme.gap2
+            Accessible.role: Accessible.Dialog
+            Accessible.name: qsTrId("palette_open")
 
             EntryField {
                 id: field
@@ -47,6 +49,8 @@ Item {
                 symbol: "magnifyingglass"
                 placeholderText: qsTrId("palette_placeholder")
                 focus: true
+                // The keyboard stays here: what is chosen in the list is heard here, too.
+                Accessible.description: list.currentItem ? (list.currentItem as CommandPaletteRow).spoken : qsTrId("palette_empty")
 
                 onTextChanged: {
                     root.palette.filterText = field.text;

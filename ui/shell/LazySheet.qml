@@ -2,7 +2,6 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Templates as T
-import NorvinFocus.Ui
 
 /// A sheet or bar that is loaded while it is wanted.
 Loader {

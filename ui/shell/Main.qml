@@ -66,6 +66,7 @@ Window {
     color: Theme.background
 
     Instantiator {
+        active: root.stage > 1
         model: 7
 
         Shortcut {
@@ -94,6 +95,9 @@ Window {
         function onPageWanted(number: int): void {
             root.showPage(number);
         }
+        function onQuitWanted(): void {
+            root.askToQuit();
+        }
     }
 
     Deferred {
@@ -120,16 +124,19 @@ Window {
             live: root.live
             furnished: root.stage > 1
             onPageChosen: number => root.showPage(number)
-            onQuitAsked: root.askToQuit()
         }
     }
 
-    Sheets {
-        planning: root.planning
-        stats: root.stats
-        palette: root.palette
-        outside: root.preferences.outside
-        welcome: root.welcome
+    LatePart {
+        wanted: root.stage > 1
+        file: Qt.resolvedUrl("Sheets.qml")
+        values: () => ({
+                planning: root.planning,
+                stats: root.stats,
+                palette: root.palette,
+                outside: root.preferences.outside,
+                welcome: root.welcome
+            })
     }
 
     Deferred {

@@ -27,7 +27,6 @@ FocusScope {
     required property bool furnished
 
     signal pageChosen(int number)
-    signal quitAsked
 
     function focusStart(): void {
         deepWorkView.focusStart();
@@ -61,7 +60,6 @@ FocusScope {
             projectCount: root.planning.projects.projectCount
             actions: root.actions
             palette: root.palette
-            onQuitAsked: root.quitAsked()
             furnished: root.furnished
             onPageChosen: number => root.pageChosen(number)
         }
@@ -78,28 +76,26 @@ FocusScope {
                 text: qsTrId("store_problem_banner").arg(root.storeProblem)
             }
 
-            Deferred {
+            LatePart {
                 Layout.fillWidth: true
                 Layout.margins: Theme.gap4
                 Layout.bottomMargin: 0
-                visible: active
-                active: root.furnished && root.preferences.data !== null && root.preferences.data.startNotice.length > 0
-
-                StartNotice {
-                    settings: root.preferences.data
-                }
+                wanted: root.furnished && root.preferences.data !== null && root.preferences.data.startNotice.length > 0
+                file: Qt.resolvedUrl("../settings/StartNotice.qml")
+                values: () => ({
+                        settings: root.preferences.data
+                    })
             }
 
-            Deferred {
+            LatePart {
                 Layout.fillWidth: true
                 Layout.margins: Theme.gap4
                 Layout.bottomMargin: 0
-                visible: active
-                active: root.furnished && root.preferences.outside !== null && root.preferences.outside.updater.isNoticeShown
-
-                UpdateNotice {
-                    model: root.preferences.outside.updater
-                }
+                wanted: root.furnished && root.preferences.outside !== null && root.preferences.outside.updater.isNoticeShown
+                file: Qt.resolvedUrl("../services/UpdateNotice.qml")
+                values: () => ({
+                        model: root.preferences.outside.updater
+                    })
             }
 
             StackLayout {

@@ -22,7 +22,6 @@ Rectangle {
     required property bool furnished
 
     signal pageChosen(int number)
-    signal quitAsked
 
     color: Theme.sidebar
     Accessible.role: Accessible.PageTabList
@@ -54,16 +53,15 @@ Rectangle {
                 font.weight: Font.DemiBold
             }
 
-            Deferred {
+            LatePart {
                 Layout.preferredWidth: Theme.controlHeightSmall
-                active: root.furnished
-
-                WindowMenu {
-                    objectName: "windowMenuButton"
-                    actions: root.actions
-                    palette: root.palette
-                    onQuitAsked: root.quitAsked()
-                }
+                Layout.preferredHeight: Theme.controlHeightSmall
+                wanted: root.furnished
+                file: Qt.resolvedUrl("WindowMenu.qml")
+                values: () => ({
+                        actions: root.actions,
+                        palette: root.palette
+                    })
             }
         }
 

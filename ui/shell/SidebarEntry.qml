@@ -56,17 +56,27 @@ T.TabButton {
                 Accessible.ignored: true
             }
 
-            ThemedText {
+            Deferred {
+                Layout.preferredWidth: item?.implicitWidth ?? 0
                 Layout.rightMargin: Theme.gap2
-                visible: root.amount > 0 && root.badge === 0
-                text: root.amount
-                color: Theme.textFaint
-                Accessible.ignored: true
+                visible: active
+                active: root.amount > 0 && root.badge === 0
+
+                ThemedText {
+                    text: root.amount
+                    color: Theme.textFaint
+                    Accessible.ignored: true
+                }
             }
 
-            CountBadge {
-                visible: root.badge > 0
-                count: root.badge
+            Deferred {
+                Layout.preferredWidth: item?.implicitWidth ?? 0
+                visible: active
+                active: root.badge > 0
+
+                CountBadge {
+                    count: root.badge
+                }
             }
         }
     }

@@ -55,6 +55,8 @@ Q_SIGNALS:
     void changed();
     /// The window is to show the page of that number (see Main.qml).
     void pageWanted(int number);
+    /// The program is to end, after a question where something runs.
+    void quitWanted();
 
 private:
     [[nodiscard]] const Action* find(const QString& id) const;

@@ -10,9 +10,6 @@ IconButton {
     required property WindowActions actions
     required property CommandPalette palette
 
-    /// Quitting is asked for.
-    signal quitAsked
-
     /// Whether an action is offered, and whether it can be done. @param revision of the actions, to be asked anew with it
     function offers(id: string, revision: int): bool {
         return root.actions.offers(id);
@@ -21,6 +18,7 @@ IconButton {
         return root.actions.canRun(id);
     }
 
+    objectName: "windowMenuButton"
     symbol: "ellipsis"
     text: qsTrId("window_menu")
     onClicked: menu.popup(root, 0, root.height + Theme.gap1)
@@ -38,9 +36,7 @@ IconButton {
         objectName: "windowMenu"
         onFinished: choice => {
             root.forceActiveFocus(Qt.PopupFocusReason);
-            if (choice === "quit")
-                root.quitAsked();
-            else if (choice === "palette")
+            if (choice === "palette")
                 root.palette.present();
             else if (choice.length > 0)
                 root.actions.run(choice);
