@@ -1,6 +1,9 @@
 """The window as a screen reader and a keyboard meet it."""
 
+import sqlite3
+import time
 import unittest
+import uuid
 
 from support.application import DesktopTestCase
 from support.processes import wait_until
@@ -10,7 +13,7 @@ PAGES = ("Ready to focus", "Daily agenda", "Projects", "Statistics", "Block list
 CONTROLS = {"push button", "check box", "radio button", "page tab", "list item", "text", "combo box", "slider", "list",
             "chart", "menu item"}
 # What cannot be pressed before something is chosen or typed. The toolkit tells nobody.
-NOT_YET = {"Add what is chosen", "Add", "Phase", "Create project"}
+NOT_YET = {"Add what is chosen", "Add", "Phase", "Create project", "Start working"}
 
 
 class AccessibilityTest(DesktopTestCase):
@@ -21,6 +24,14 @@ class AccessibilityTest(DesktopTestCase):
         self.reader = ScreenReader(self.desktop)
         self.addCleanup(self.reader.close)
         self.app.write_preferences(app_language="en")
+        self.app.launch("--hidden")
+        self.app.do("add", "Write", "--date", "today")
+        self.app.process.terminate()
+        self.app.process.wait(15)
+        with sqlite3.connect(self.app.store_file) as store:
+            store.execute("INSERT INTO Session VALUES (?,?,?,?,?,?,?,?,?,?,?)",
+                          (uuid.uuid4().bytes, int(time.time()) * 1000, 25, True, None, 7.5, 1, 0, 0, 0, 0))
+        store.close()
         self.app.launch()
         wait_until(self.app.is_in_front, "the window is in front")
         wait_until(self.reader.application, "the program is on the accessibility bus")
@@ -45,10 +56,13 @@ class AccessibilityTest(DesktopTestCase):
         self.assertFalse(twice, f"{where}: one cannot be told from the other")
 
     def shown(self):
-        """What can be gone through: the dialog, while there is one."""
+        """What can be gone through: the window that is in use, or the dialog in it while there is one."""
         elements = self.reader.elements()
         dialog = next((e for e in elements if e.role == "dialog"), None)
-        return [e for e in elements if dialog in e.ancestors()] if dialog else elements
+        if dialog is None:
+            windows = [e for e in elements if e.parent is None]
+            dialog = next((e for e in windows if e.is_in_use), windows[0])
+        return [e for e in elements if dialog in e.ancestors()]
 
     def check_order(self, where, first=None):
         """Goes once through everything by Tab, and nowhere else. @param first what is read first; where none is
@@ -91,6 +105,8 @@ class AccessibilityTest(DesktopTestCase):
     def test_everything_is_reached_and_named(self):
         self.go_through_pages()
         self.go_through_sheets()
+        self.go_through_welcome()
+        self.go_through_panel()
         self.listen_to_a_session()
 
     def go_through_pages(self):
@@ -103,10 +119,63 @@ class AccessibilityTest(DesktopTestCase):
         for page, keys in ((1, "ctrl+t"), (1, "ctrl+m"), (2, "ctrl+n"), (3, "Return")):
             self.show_page(page)
             self.reader.press(keys)
-            wait_until(lambda: any(e.role == "dialog" for e in self.reader.elements()), f"{keys} opens a sheet")
+            self.wait_for_dialog(f"{keys} opens a sheet")
             self.check_order(f"{PAGES[page - 1]}, {keys}")
-            self.desktop.run("xdotool", "key", "Escape", check=True)
-            wait_until(lambda: all(e.role != "dialog" for e in self.reader.elements()), "the sheet closes")
+            self.close_dialog()
+        self.show_page(4)
+        self.press_button("Sessions")
+        self.wait_for_dialog("the figure is explained")
+        self.check_order("figure")
+        self.close_dialog()
+        self.choose("Write")
+        self.wait_for_dialog("the task is opened")
+        self.check_order("task")
+        self.close_dialog()
+
+    def go_through_welcome(self):
+        self.choose("Show the welcome")
+        for step in range(1, 6):
+            self.wait_for(f"Step {step} of 5")
+            self.check_order(f"welcome, step {step}")
+            if step < 5:
+                self.press_button("Next")
+        self.close_dialog()
+
+    def go_through_panel(self):
+        self.choose("Open the timer panel")
+        wait_until(lambda: any(e.is_in_use and e.name == "Timer panel" for e in self.reader.elements()),
+                   "the panel has the keyboard")
+        self.check_order("panel")
+        self.desktop.run("xdotool", "key", "Escape", check=True)
+        wait_until(self.app.is_in_front, "the window is in front again")
+
+    def wait_for_dialog(self, what):
+        wait_until(lambda: any(e.role == "dialog" for e in self.reader.elements()), what)
+
+    def close_dialog(self):
+        self.desktop.run("xdotool", "key", "Escape", check=True)
+        wait_until(lambda: all(e.role != "dialog" for e in self.reader.elements()), "the sheet closes")
+
+    def press_button(self, name):
+        """Goes to the button whose name begins so, and presses it."""
+        for _ in range(60):
+            path = self.reader.press("Tab")
+            if any(e.path == path and e.name.startswith(name) for e in self.shown()):
+                self.desktop.run("xdotool", "key", "Return", check=True)
+                return
+        self.fail(f"“{name}” is not reached")
+
+    def choose(self, title):
+        """Does what the command palette offers by that name."""
+        self.reader.press("ctrl+k")
+        self.wait_for_dialog("the palette opens")
+        self.check_names("palette", self.shown())
+        self.desktop.run("xdotool", "type", title, check=True)
+        heard = wait_until(lambda: [e for e in self.shown() if e.is_focusable and e.description.startswith(title)],
+                           "what is chosen is heard where the keyboard is")
+        self.assertEqual(heard[0].role, "text")
+        self.desktop.run("xdotool", "key", "Return", check=True)
+        wait_until(lambda: not any(e.path == heard[0].path for e in self.reader.elements()), "the palette closes")
 
     def listen_to_a_session(self):
         """The time is told by the minute, and quitting is asked about."""
@@ -120,9 +189,23 @@ class AccessibilityTest(DesktopTestCase):
         self.app.wait_for(lambda s: s["timeRemaining"] < remaining - 1, "seconds pass")
         renamed = wait_until(self.reader.renamed, "names change")
         self.assertNotIn(ring.path, renamed)
+        self.read_floating_timer()
         self.desktop.run("xdotool", "key", "ctrl+q", check=True)
         wait_until(lambda: any(e.role == "dialog" for e in self.reader.elements()), "quitting is asked about")
         self.check_order("question")
+
+    def read_floating_timer(self):
+        """The small window takes no keyboard; what it shows is told all the same."""
+        window = self.desktop.active_window()
+        self.desktop.start_program("org.example.Note")
+        wait_until(self.app.floating_timer, "the floating timer is shown")
+        pane = self.wait_for("Floating timer", "panel")[0]
+        inside = wait_until(lambda: [e for e in self.reader.elements() if pane.path in [a.path for a in e.ancestors()]],
+                            "there is something in it")
+        self.check_names("floating timer", inside)
+        self.assertEqual({e.name for e in inside if e.role == "push button"}, {"Pause", "Switch the floating timer off"})
+        self.assertIn("25\u202fmin", [e.name for e in inside])
+        self.desktop.bring_to_front(window)
 
 
 if __name__ == "__main__":

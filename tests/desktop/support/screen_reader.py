@@ -17,7 +17,9 @@ class Element:
         self.path = accessible.path
         self.parent = parent
         self.name = accessible.get_name() or ""
+        self.description = accessible.get_description() or ""
         self.role = accessible.get_role_name()
+        self.is_in_use = states.contains(atspi.StateType.ACTIVE)
         self.is_focusable = states.contains(atspi.StateType.FOCUSABLE) and self.role not in TEXTS
         place = accessible.get_extents(atspi.CoordType.SCREEN)
         self.left, self.top, self.right, self.bottom = place.x, place.y, place.x + place.width, place.y + place.height
