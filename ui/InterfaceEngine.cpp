@@ -12,6 +12,7 @@
 #include <QLibraryInfo>
 #include <QQmlComponent>
 #include <QQuickWindow>
+#include <QThread>
 #include <QThreadPool>
 #include <QUrl>
 
@@ -45,6 +46,8 @@ InterfaceEngine::InterfaceEngine()
 InterfaceEngine::~InterfaceEngine() = default;
 
 std::jthread InterfaceEngine::readLibrariesAhead() {
+    // Qt takes the first thread that it meets for the main one.
+    static_cast<void>(QThread::currentThread());
     return std::jthread([] {
         const QString folder = QLibraryInfo::path(QLibraryInfo::QmlImportsPath);
         // Where one of them is missing, the engine will say so.

@@ -31,8 +31,9 @@ public:
     void setSingletons(Localization& localization, MotionPreference& motion);
     /// Where the icons of applications come from. @param catalog must outlive the engine
     void setApplications(const ApplicationCatalog& catalog);
-    /// To be called before there is a QGuiApplication: reads the libraries that the window's QML will ask
-    /// for, on the thread that is returned, while the connection to the display is made.
+    /// To be called on the main thread before there is a QGuiApplication: reads the libraries that the
+    /// window's QML will ask for, on the thread that is returned, while the connection to the display is
+    /// made.
     [[nodiscard]] static std::jthread readLibrariesAhead();
     /// Makes fonts and symbols of the first picture ready: what to do while the window is compiled.
     void prepareFirstPicture();
