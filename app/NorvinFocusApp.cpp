@@ -145,12 +145,14 @@ NorvinFocusApp::NorvinFocusApp(LinuxPlatform& platform, std::unique_ptr<ModelCon
     , m_storeAvailability(Availability::available())
     , m_extensionAvailability(Availability::available())
     , m_browserHealth(platform.browserAccess(), AppBlockerService::shared(), platform.preferences())
+    , m_backupService(platform.clock(), m_sharedModelContainer->storeFile())
     , m_health(platformHealthChecks(platform, m_browserHealth)
                << TrackingHealthModel::Check{QStringLiteral("health_session_bus"),
                                              [this] { return m_busAvailability; }}
                << TrackingHealthModel::Check{QStringLiteral("health_store"),
-                                             [this] { return m_storeAvailability; }})
-    , m_backupService(platform.clock(), m_sharedModelContainer->storeFile())
+                                             [this] { return m_storeAvailability; }}
+               << TrackingHealthModel::Check{QStringLiteral("health_backup"),
+                                             [this] { return m_backupService.availability(); }})
     , m_dataSettings(m_backupService, m_sharedModelContainer->opening(), m_timerService,
                      platform.preferences())
     , m_updater(UpdaterService::shared())
@@ -305,6 +307,7 @@ void NorvinFocusApp::followPreferences() {
                                        .outside = &m_outsideServices,
                                        .data = &m_dataSettings});
     connect(&m_platform.sleepMonitor(), &SleepMonitor::didWake, &m_backupService, &BackupService::handleWake);
+    connect(&m_backupService, &BackupService::availabilityChanged, this, [this] { m_health.refresh(); });
     connect(&m_dataSettings, &DataSettings::restartWanted, this, [this] {
         m_isRestartWanted = true;
         quit();

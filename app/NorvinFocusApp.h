@@ -113,8 +113,8 @@ private:
     Availability m_storeAvailability;
     Availability m_extensionAvailability;
     BrowserHealth m_browserHealth;
-    TrackingHealthModel m_health;
     BackupService m_backupService;
+    TrackingHealthModel m_health;
     DataSettings m_dataSettings;
     UpdaterService& m_updater;
     FeedbackForm m_feedbackForm;

@@ -1434,6 +1434,18 @@
         <source></source>
         <translation>Everything works.</translation>
     </message>
+    <message id="health_backup">
+        <source></source>
+        <translation>Backing up your data each day</translation>
+    </message>
+    <message id="health_backup_failed">
+        <source></source>
+        <translation>The last backup could not be made.</translation>
+    </message>
+    <message id="health_backup_failed_remedy">
+        <source></source>
+        <translation>Make room on the disk. The backup of the day is tried again each hour; the preferences make one at once.</translation>
+    </message>
     <message id="health_browser">
         <source></source>
         <translation>Pages of %1</translation>

@@ -1434,6 +1434,18 @@
         <source></source>
         <translation>Tout fonctionne.</translation>
     </message>
+    <message id="health_backup">
+        <source></source>
+        <translation>Sauvegarder vos données chaque jour</translation>
+    </message>
+    <message id="health_backup_failed">
+        <source></source>
+        <translation>La dernière sauvegarde n’a pas pu être faite.</translation>
+    </message>
+    <message id="health_backup_failed_remedy">
+        <source></source>
+        <translation>Faites de la place sur le disque. La sauvegarde du jour est retentée chaque heure ; les préférences en font une aussitôt.</translation>
+    </message>
     <message id="health_browser">
         <source></source>
         <translation>Pages de %1</translation>

@@ -67,8 +67,10 @@ bool BackupService::backUpNow() {
         return false;
     const QString file = m_folder.fileFor(BackupKind::manual, m_clock.now());
     run(Job::manual, [this, file, progress = progress()] {
-        return Result{
-            .job = Job::manual, .failure = copyStoreFile(m_storeFile, file, progress), .file = file};
+        Result result{.job = Job::manual, .failure = copyStoreFile(m_storeFile, file, progress)};
+        if (!result.failure)
+            result.file = file;
+        return result;
     });
     return true;
 }
@@ -101,22 +103,30 @@ CopyProgress BackupService::progress() {
 void BackupService::run(Job job, std::function<Result()> work) {
     m_job = job;
     m_percent = 0;
-    const auto piece = [this, work = std::move(work)] {
-        return [this, result = work()] {
-            if (result.failure)
-                logLine(QStringLiteral("BackupService: ") + result.failure->description);
-            if (result.job == Job::daily) {
-                if (result.failure)
-                    scheduleDaily(retryDelay);
-                else
-                    scheduleTomorrow();
-            }
-            Q_EMIT workChanged();
-            Q_EMIT finished(result);
-        };
-    };
+    const auto piece = [this, work = std::move(work)] { return [this, result = work()] { finish(result); }; };
     m_work.start(piece);
     Q_EMIT workChanged();
+}
+
+void BackupService::finish(const Result& result) {
+    if (result.failure)
+        logLine(QStringLiteral("BackupService: ") + result.failure->description);
+    if (result.job == Job::daily) {
+        if (result.failure)
+            scheduleDaily(retryDelay);
+        else
+            scheduleTomorrow();
+    }
+    if (result.job != Job::restore) {
+        const Availability now = result.failure
+                                     ? Availability::unavailable(QStringLiteral("health_backup_failed"),
+                                                                 result.failure->description)
+                                     : Availability::available();
+        if (now != std::exchange(m_availability, now))
+            Q_EMIT availabilityChanged();
+    }
+    Q_EMIT workChanged();
+    Q_EMIT finished(result);
 }
 
 } // namespace norvin

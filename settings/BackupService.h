@@ -3,6 +3,7 @@
 #include "model/BackupFolder.h"
 #include "model/StoreError.h"
 #include "model/StoreReplacement.h"
+#include "platform/Availability.h"
 #include "settings/BackgroundWork.h"
 
 #include <QObject>
@@ -54,6 +55,8 @@ public:
     [[nodiscard]] Job job() const { return m_job; }
     /// How much of it, in per cent.
     [[nodiscard]] int percent() const { return m_percent; }
+    /// Whether the last backup that was due or wanted could be made; "health_backup_failed" where not.
+    [[nodiscard]] const Availability& availability() const { return m_availability; }
 
     /// From now on there is a backup each day, unless the store holds nothing.
     void start();
@@ -67,12 +70,14 @@ public:
 Q_SIGNALS:
     void workChanged();
     void finished(const norvin::BackupService::Result& result);
+    void availabilityChanged();
 
 private:
     void scheduleDaily(std::chrono::milliseconds delay);
     void scheduleTomorrow();
     void backUpDaily();
     void run(Job job, std::function<Result()> work);
+    void finish(const Result& result);
     [[nodiscard]] CopyProgress progress();
 
     Clock& m_clock;
@@ -82,6 +87,7 @@ private:
     std::atomic<bool> m_isGivenUp{false};
     Job m_job = Job::daily;
     int m_percent = 0;
+    Availability m_availability = Availability::available();
     bool m_isStarted = false;
     BackgroundWork m_work;
 };

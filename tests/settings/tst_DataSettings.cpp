@@ -110,8 +110,10 @@ void DataSettingsTest::aBackupThatFailsIsTriedAgain() {
     service->start();
     QCOMPARE(passTo(BackupService::startDelay), QString());
     QVERIFY(data->isNoticeProblem());
+    QVERIFY2(!service->availability().isAvailable(), "tracking health says so, too");
     QVERIFY(obstacle.remove());
     QVERIFY(passTo(BackupService::retryDelay).startsWith(QLatin1String("2025-03-10")));
+    QVERIFY(service->availability().isAvailable());
 }
 
 void DataSettingsTest::whatIsUnderWayIsGivenUpAtTheEnd() {
