@@ -37,8 +37,8 @@ class Driver:
     def wait_until_ready(self):
         wait_until(lambda: self.states() and self.states()[-1]["canCheck"], lambda: f"a look can begin: {self.lines}")
 
-    def begin(self):
-        self._process.stdin.write(b"\n")
+    def begin(self, line=""):
+        self._process.stdin.write(line.encode() + b"\n")
         self._process.stdin.flush()
 
     def check(self):
@@ -77,6 +77,21 @@ class UpdatesTest(unittest.TestCase):
         found = self.check_package("0.1.0", "0.2.0-1")
         self.assertEqual((found["outcome"], found["version"]), ("available", "0.2.0-1"), found)
 
+    def test_the_software_centre_of_the_desktop_opens_with_this_program(self):
+        said = self.desktop.path("said")
+        self.desktop.write("data/applications/org.example.Centre.desktop",
+                           "[Desktop Entry]\nType=Application\nName=Centre\nMimeType=x-scheme-handler/appstream;\n"
+                           f"Exec=sh -c 'printf %%s \"$0\" > {said}.part; mv {said}.part {said}' %u\n")
+        self.desktop.write("config/mimeapps.list",
+                           "[Default Applications]\nx-scheme-handler/appstream=org.example.Centre.desktop\n")
+        driver = Driver(self.desktop, dpkg_info=self.start_package_service("0.1.0", "0.2.0"))
+        driver.check()
+        self.assertTrue(driver.states()[-1]["canOpen"])
+        driver.begin("open")
+        wait_until(lambda: os.path.exists(said), "the centre is opened")
+        with open(said, encoding="utf-8") as file:
+            self.assertEqual(file.read(), "appstream://com.norvin.Focus")
+
     def test_the_same_package_from_elsewhere_is_no_update(self):
         self.assertEqual(self.check_package("0.2.0", "0.2.0")["outcome"], "upToDate")
 
@@ -90,12 +105,12 @@ class UpdatesTest(unittest.TestCase):
         self.desktop.start_login_service()  # a system bus on which nobody knows of packages
         driver = Driver(self.desktop, dpkg_info=self.desktop.path("info"))
         wait_until(lambda: driver.states(), "the state is told")
-        self.assertEqual(driver.states()[-1], {"canCheck": False, "reason": "update_no_packagekit"})
+        self.assertEqual(driver.states()[-1], {"canCheck": False, "canOpen": False, "reason": "update_no_packagekit"})
 
     def test_a_build_from_source_says_so(self):
         driver = Driver(self.desktop, dpkg_info=self.desktop.path("info"))
         wait_until(lambda: driver.states(), "the state is told")
-        self.assertEqual(driver.states(), [{"canCheck": False, "reason": "update_source_build"}])
+        self.assertEqual(driver.states(), [{"canCheck": False, "canOpen": False, "reason": "update_source_build"}])
 
 
 class FlatpakTest(unittest.TestCase):

@@ -40,7 +40,8 @@ QString nameOf(UpdateResult::Outcome outcome) {
 } // namespace
 
 /// Looks for updates of a program that was installed as its arguments say (the file that marks a Flatpak, the
-/// directory of dpkg's lists, the program), each time it reads a line, and prints what it hears as JSON.
+/// directory of dpkg's lists, the program), each time it reads a line, and prints what it hears as JSON. The line
+/// "open" opens the software centre.
 int main(int argc, char* argv[]) {
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
@@ -55,6 +56,7 @@ int main(int argc, char* argv[]) {
     const auto tellState = [&source] {
         const Availability availability = source->availability();
         print({{QStringLiteral("canCheck"), source->canCheckForUpdates()},
+               {QStringLiteral("canOpen"), source->canOpenSoftwareCentre()},
                {QStringLiteral("reason"),
                 availability.isAvailable() ? QString() : availability.reason()->reasonKey}});
     };
@@ -70,6 +72,8 @@ int main(int argc, char* argv[]) {
         std::string line;
         if (!std::getline(std::cin, line))
             QCoreApplication::quit();
+        else if (line == "open")
+            source->openSoftwareCentre();
         else
             source->checkForUpdates();
     });

@@ -72,8 +72,8 @@ class Desktop:
             path = os.path.join(self.directory, name)
             os.mkdir(path, 0o700)
             self.environment[variable] = path
-        self._write("config/pulse/client.conf", "autospawn = no\n")
-        self._write("config/dunst/dunstrc", DUNST_CONFIGURATION)
+        self.write("config/pulse/client.conf", "autospawn = no\n")
+        self.write("config/dunst/dunstrc", DUNST_CONFIGURATION)
         self._write_desktop_entries()
         self.window_manager = None
         self.session_bus = None
@@ -111,7 +111,8 @@ class Desktop:
     def data_home(self):
         return self.environment["XDG_DATA_HOME"]
 
-    def _write(self, name, text):
+    def write(self, name, text):
+        """Writes a file below the directory of this desktop, "config" and "data" among others. Returns its path."""
         path = self.path(name)
         os.makedirs(os.path.dirname(path), exist_ok=True)
         with open(path, "w", encoding="utf-8") as file:
@@ -120,7 +121,7 @@ class Desktop:
 
     def _write_desktop_entries(self):
         for identifier, (name, window_class, command, categories) in PROGRAMS.items():
-            self._write(f"data/applications/{identifier}.desktop",
+            self.write(f"data/applications/{identifier}.desktop",
                         f"[Desktop Entry]\nType=Application\nName={name}\nExec={command[0]}\n"
                         f"StartupWMClass={window_class}\nCategories={categories}\n")
 
@@ -156,7 +157,7 @@ class Desktop:
         self.window_manager = None
 
     def _start_bus(self, kind):
-        configuration = self._write(f"{kind}-bus.conf",
+        configuration = self.write(f"{kind}-bus.conf",
                                     BUS_CONFIGURATION.format(kind=kind, directory=self.path("run")))
         bus = self.processes.start(f"{kind}-bus",
                                    ["dbus-daemon", f"--config-file={configuration}", "--nofork", "--print-address=1"],
