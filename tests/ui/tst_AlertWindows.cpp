@@ -27,7 +27,8 @@ private Q_SLOTS:
     void reducedMotionLeavesItStill();
     void coversOnlyCardAndFrameWhereNothingIsBlended();
     void staysAwayWhereThereAreNoOverlays();
-    void canBeReadInALongerLanguage();
+    void canBeReadInEachLanguage_data();
+    void canBeReadInEachLanguage();
 };
 
 namespace {
@@ -135,9 +136,20 @@ void AlertWindowsTest::staysAwayWhereThereAreNoOverlays() {
     QCOMPARE(rig.notifications.posted().size(), 1u);
 }
 
-void AlertWindowsTest::canBeReadInALongerLanguage() {
+void AlertWindowsTest::canBeReadInEachLanguage_data() {
+    QTest::addColumn<QString>("language");
+    for (const char* language : {"en", "fr", "pseudo"})
+        QTest::newRow(language) << QString::fromLatin1(language);
+}
+
+void AlertWindowsTest::canBeReadInEachLanguage() {
+    QFETCH(QString, language);
     AlertRig rig;
-    const PseudoTranslator pseudo;
+    std::optional<PseudoTranslator> pseudo;
+    if (language == QLatin1String("pseudo"))
+        pseudo.emplace();
+    else
+        rig.localization.setLanguage(language);
     rig.show();
     QTRY_VERIFY(rig.window()->isExposed());
     static_cast<void>(rig.window()->grabWindow());

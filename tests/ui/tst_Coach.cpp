@@ -11,7 +11,7 @@ class CoachTest final : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
+    void init() { make(QStringLiteral("en")); }
     void cleanup();
 
     void messageLiesOverTheDeepWorkScreen();
@@ -19,8 +19,11 @@ private Q_SLOTS:
     void bubbleStandsInForAWindowThatIsNotInFront();
     void bubbleWaitsForTheWindow();
     void notificationWhereThereAreNoOverlays();
+    void everyMessageHasRoom_data() { UiRig::addLanguages(); }
+    void everyMessageHasRoom();
 
 private:
+    void make(const QString& language);
     void say(const QString& text = QStringLiteral("Take a breath.")) const {
         rig->coach.addMessage({.text = text, .timestamp = rig->focus.clock.now()});
     }
@@ -36,8 +39,9 @@ private:
     std::unique_ptr<CoachBubble> bubble;
 };
 
-void CoachTest::init() {
-    rig = std::make_unique<UiRig>();
+void CoachTest::make(const QString& language) {
+    cleanup();
+    rig = std::make_unique<UiRig>(language);
     QVERIFY(rig->loaded);
     support.setAvailability(Availability::available());
     bubble =
@@ -145,6 +149,24 @@ void CoachTest::notificationWhereThereAreNoOverlays() {
     QCOMPARE(rig->focus.notifications.posted().size(), 2u);
     QCOMPARE(rig->focus.notifications.posted().back().body, QStringLiteral("Second"));
     QVERIFY(!bubble->window());
+}
+
+void CoachTest::everyMessageHasRoom() {
+    QFETCH(QString, language);
+    for (const char* const key :
+         {"coach_distraction_1", "coach_distraction_2", "coach_distraction_3", "coach_interrupt_pause",
+          "coach_interrupt_inactivity", "coach_interrupt_abandoned"}) {
+        make(language);
+        say(qtTrId(key).replace(QLatin1String("%1"), QLatin1String("LibreOffice Impress")));
+        passPatience();
+        QVERIFY(bubble->window());
+        QTRY_VERIFY(bubble->window()->isExposed());
+        static_cast<void>(bubble->window()->grabWindow());
+        QCOMPARE(textFaults(*bubble->window(), {}).join(u'\n'), QString());
+        rig->show();
+        QTRY_VERIFY(message() && message()->isVisible());
+        rig->checkTexts(QStringLiteral("coach-") + QLatin1String(key));
+    }
 }
 
 QTEST_MAIN(CoachTest)

@@ -22,8 +22,11 @@ private Q_SLOTS:
     void everyPaneIsWhole_data();
     void everyPaneIsWhole();
     void settingsCountAtOnce();
+    void aBackupIsMadeAndRestored_data() { UiRig::addLanguages(); }
     void aBackupIsMadeAndRestored();
+    void erasingWantsTheWord_data();
     void erasingWantsTheWord();
+    void aLostStoreIsOfferedOnEveryPage_data() { UiRig::addLanguages(); }
     void aLostStoreIsOfferedOnEveryPage();
     void whatTheDesktopLacksIsNotOffered();
 
@@ -146,7 +149,8 @@ void PreferencesPageTest::settingsCountAtOnce() {
 }
 
 void PreferencesPageTest::aBackupIsMadeAndRestored() {
-    begin();
+    QFETCH(QString, language);
+    begin(language);
     showPane(3);
     rig->tabTo("backUpNow");
     rig->press(Qt::Key_Space);
@@ -174,17 +178,25 @@ void PreferencesPageTest::aBackupIsMadeAndRestored() {
     QVERIFY(!rig->visible("eraseButton")->isEnabled());
 }
 
+void PreferencesPageTest::erasingWantsTheWord_data() {
+    QTest::addColumn<QString>("language");
+    for (const char* language : {"en", "fr"}) // what can be typed
+        QTest::newRow(language) << QString::fromLatin1(language);
+}
+
 void PreferencesPageTest::erasingWantsTheWord() {
-    begin(QStringLiteral("fr"));
+    QFETCH(QString, language);
+    begin(language);
     showPane(3);
     rig->tabTo("eraseButton");
     rig->press(Qt::Key_Space);
     QTRY_VERIFY(rig->hasKeyboard("eraseWord"));
     QSignalSpy restart(&parts->data, &DataSettings::restartWanted);
-    rig->type(QStringLiteral("efface"));
+    const QString word = parts->data.eraseWord();
+    rig->type(word.chopped(1));
     rig->press(Qt::Key_Return);
     QVERIFY(!rig->visible("eraseConfirm")->isEnabled());
-    rig->type(QStringLiteral("r"));
+    rig->type(word.last(1));
     QVERIFY(rig->visible("eraseConfirm")->isEnabled());
     rig->checkTexts(QStringLiteral("preferences-erase"));
     rig->tabTo("eraseBackups");
@@ -196,7 +208,8 @@ void PreferencesPageTest::erasingWantsTheWord() {
 }
 
 void PreferencesPageTest::aLostStoreIsOfferedOnEveryPage() {
-    begin();
+    QFETCH(QString, language);
+    begin(language);
     const QString file = parts->service.folder().fileFor(BackupKind::daily, rig->focus.clock.now());
     QVERIFY(!copyStoreFile(parts->store.file(), file));
     DataSettings lost(parts->service,
