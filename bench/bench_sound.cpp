@@ -24,7 +24,7 @@ void makeSound(benchmark::State& state, AmbientSound sound) {
     }
     // Percent of a core while it is heard.
     state.counters["core_percent"] = benchmark::Counter(
-        100.0 * static_cast<double>(made) / rate, benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
+        static_cast<double>(made) / rate / 100.0, benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
 }
 
 } // namespace
