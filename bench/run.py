@@ -390,7 +390,7 @@ def rows_of_statistics(build, program):
                               ("intervalRecorded", "an interval recorded", "–")):
         few, many = median(f"{name}/{month}", "real_time"), median(f"{name}/{years}", "real_time")
         rows.append((f"statistics: {what}, of ten years / of 30 days", f"{many / few:.2f}",
-                     f"{many * 1000:.0f} / {few * 1000:.0f} µs", limit))
+                     f"{many * 1000:.3g} / {few * 1000:.3g} µs", limit))
     rows.append(("statistics: bytes of ten years, MB", f"{median(f'switchPeriod/{years}', 'bytes') / 1e6:.1f}", "", "64"))
     (before, shown, after), frames, (cpu, switches, _), live = measure_statistics(program, str(build / "bin" / "fill_store"))
     rows.append(("statistics page over ten years: proportional set size before, with, after it, MB",
