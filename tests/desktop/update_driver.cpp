@@ -40,8 +40,8 @@ QString nameOf(UpdateResult::Outcome outcome) {
 } // namespace
 
 /// Looks for updates of a program that was installed as its arguments say (the file that marks a Flatpak, the
-/// directory of dpkg's lists, the program), each time it reads a line, and prints what it hears as JSON. The line
-/// "open" opens the software centre.
+/// directory of dpkg's lists, the program), each time it reads a line, and prints what it hears as JSON. The
+/// line "open" opens the software centre.
 int main(int argc, char* argv[]) {
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();

@@ -11,6 +11,9 @@ T.Button {
     required property string symbol
     property color symbolColor: root.hovered || root.visualFocus ? Theme.text : Theme.textFaint
     property int symbolSize: 18
+    readonly property bool isPointedAt: root.hovered || root.visualFocus
+    /// Whoever has pressed it needs no hint any longer, and may have opened something below it.
+    property bool isKnown: false
 
     implicitWidth: Theme.controlHeightSmall
     implicitHeight: Theme.controlHeightSmall
@@ -18,6 +21,8 @@ T.Button {
     focusPolicy: Qt.StrongFocus
     Accessible.name: root.text
 
+    onClicked: root.isKnown = true
+    onIsPointedAtChanged: root.isKnown = root.isKnown && root.isPointedAt
     Keys.onReturnPressed: root.clicked()
     Keys.onEnterPressed: root.clicked()
 
@@ -42,6 +47,6 @@ T.Button {
 
     HoverHint {
         text: root.text
-        shown: root.hovered || root.visualFocus
+        shown: root.isPointedAt && !root.isKnown
     }
 }
