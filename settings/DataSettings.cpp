@@ -296,6 +296,14 @@ void DataSettings::erase(const QString& typed, bool settings, bool backups) {
 }
 
 bool DataSettings::clearPreferences() {
+    // Whether a change lasts is known only after one. What is cleared in memory alone would reach the file
+    // later.
+    const QString trial = QStringLiteral("erasing");
+    m_preferences.setValue(trial, true);
+    if (!m_preferences.availability().isAvailable()) {
+        m_preferences.remove(trial);
+        return false;
+    }
     // A trial does not begin anew.
     QList<std::pair<QString, QVariant>> kept;
     for (const char* const key : {LicenseService::firstLaunchKey, LicenseService::latestDayKey}) {

@@ -115,7 +115,7 @@ private:
     };
     void handleFinished(const BackupService::Result& result);
     void takeRead(Read read);
-    /// @return whether that will last
+    /// @return whether that will last; where not, nothing is cleared
     bool clearPreferences();
     void refuseAtStart(const QString& problem);
     [[nodiscard]] const BackupListModel::Row* listed(const QString& file) const;

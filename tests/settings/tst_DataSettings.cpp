@@ -231,6 +231,7 @@ void DataSettingsTest::erasingWantsTheWord() {
     data->erase(data->eraseWord(), true, true);
     QVERIFY(data->isNoticeProblem());
     QVERIFY2(restart.size() == 1 && !lies(".erase"), "settings that would be back keep the rest too");
+    QVERIFY(rig->preferences.values().contains(QStringLiteral("profile_name")));
     rig->preferences.setAvailability(Availability::available());
     data->erase(data->eraseWord(), true, true);
     QCOMPARE(restart.size(), 2);
